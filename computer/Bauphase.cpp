@@ -1,0 +1,7 @@
+#include "computer/Bauphase.h"
+
+namespace velmo {
+
+void kibauphase(Programm &) {}
+
+} // namespace velmo

@@ -1,0 +1,105 @@
+#pragma once
+// Die Arten der Werte des Spiels. Die Art gehört zur Regel: ein Short läuft über, ein loser Wert vergleicht als Zahl.
+#include "platform/Wert.h"
+
+#include <cstdint>
+#include <string>
+#include <utility>
+
+namespace velmo {
+
+/// Eine ganze Zahl mit 16 Bit; wer sie über -32768 bis 32767 hinaus setzt, bekommt Laufzeitfehler (Überlauf).
+class Kurz {
+  public:
+    constexpr Kurz() = default;
+    Kurz(int neu) : zahl(geprüft(neu)) {}
+    constexpr operator int() const { return zahl; }
+    Kurz &operator+=(int n) { return *this = zahl + n; }
+    Kurz &operator-=(int n) { return *this = zahl - n; }
+    Kurz &operator++() { return *this += 1; }
+
+  private:
+    static std::int16_t geprüft(int);
+    std::int16_t zahl = 0;
+};
+
+/// -1 für wahr, 0 für falsch; hält auch jede andere Zahl mit 16 Bit.
+class Flagge {
+  public:
+    constexpr Flagge(bool wahr = false) : zahl(wahr ? -1 : 0) {}
+    static Flagge ausZahl(int n) {
+        Flagge f;
+        f.zahl = static_cast<std::int16_t>(Kurz(n));
+        return f;
+    }
+    constexpr operator bool() const { return zahl != 0; }
+    constexpr int Zahl() const { return zahl; }
+
+  private:
+    std::int16_t zahl;
+};
+
+/// Ein loser Wert: leer, Zahl oder Text; Ziffern im Text gelten als Zahl. Leer gleicht keiner Zahl.
+class Lose {
+  public:
+    Lose() = default;
+    Lose(int n) : wert(double(n)) {}
+    Lose(double n) : wert(n) {}
+    Lose(std::string text) : wert(std::move(text)) {}
+    Lose(const char *text) : wert(std::string(text)) {}
+
+    bool leer() const;
+    /// Die Zahl; leer ist 0. Wirft Laufzeitfehler (Typ), wenn der Text keine Zahl ist.
+    double Zahl() const;
+    /// Der Text, wie ihn eine Meldung zeigt.
+    std::string Text() const;
+    friend bool operator==(const Lose &, const Lose &);
+    Lose &operator+=(double n) { return *this = Zahl() + n; }
+    Lose &operator-=(double n) { return *this = Zahl() - n; }
+
+  private:
+    Wert wert;
+};
+
+/// Ein Kennzeichen eines Teilnehmers. Jede Marke ist ein eigener Raum: Kennzeichen zweier Räume lassen sich nicht vergleichen.
+template <class Marke> class Kennung {
+  public:
+    Kennung() = default;
+    explicit Kennung(std::string text) : text(std::move(text)) {}
+    bool leer() const { return text.empty(); }
+    const std::string &Text() const { return text; }
+    /// Das letzte Zeichen: bei "c1" bis "c3" die Nummer des Computers.
+    std::string letztes() const { return text.empty() ? "" : text.substr(text.size() - 1); }
+    bool operator==(const Kennung &) const = default;
+
+  private:
+    std::string text;
+};
+
+/// Wem ein Hotel gehört: leer, "player1", "c1" bis "c3".
+using Hotelbesitzer = Kennung<struct MarkeHotel>;
+/// Wem ein Eingang gehört: "Spieler", "c1" bis "c3".
+using Eingangsbesitzer = Kennung<struct MarkeEingang>;
+/// Wer ein Auto fährt: "c1" bis "c3", "pleite"; leer der Mensch oder niemand.
+using Autobesitzer = Kennung<struct MarkeAuto>;
+
+/// "c1" bis "c3" im Raum der Kennung.
+template <class K> K Computer(int nummer) { return K("c" + std::to_string(nummer)); }
+/// Die Nummer zu "c1" bis "c3", sonst 0.
+template <class Marke> int Computernummer(const Kennung<Marke> &k) {
+    const std::string &t = k.Text();
+    return t.size() == 2 && t[0] == 'c' && t[1] >= '1' && t[1] <= '3' ? t[1] - '0' : 0;
+}
+
+Wert alsWert(Kurz);
+Wert alsWert(Flagge);
+Wert alsWert(int);
+Wert alsWert(const Lose &);
+template <class M> Wert alsWert(const Kennung<M> &k) { return k.Text(); }
+void ausWert(const Wert &, Kurz &);
+void ausWert(const Wert &, Flagge &);
+void ausWert(const Wert &, int &);
+void ausWert(const Wert &, Lose &);
+template <class M> void ausWert(const Wert &w, Kennung<M> &k) { k = Kennung<M>(alsText(w)); }
+
+} // namespace velmo

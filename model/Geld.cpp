@@ -1,0 +1,154 @@
+#include "model/Geld.h"
+
+#include "media/Ton.h"
+#include "model/Brett.h"
+
+#include <algorithm>
+#include <ranges>
+
+namespace velmo {
+
+namespace {
+
+/// Die Abbuchung Note für Note. Zahlen heißt: Summe, Notenzahl und Betrag sinken um eine Note.
+class Abbuchung {
+  public:
+    Abbuchung(Spielzustand &z, Lose &betrag) : z(z), betrag(betrag) {}
+
+    void bucheAlles() {
+        while (bucheEine()) {}
+    }
+
+  private:
+    /// Die Schritte von der größten Note zur kleinsten; wer nicht zahlen kann, reicht an den nächsten weiter.
+    bool bucheEine() {
+        return (reicht(5000) && mit5000()) || (reicht(1000) && mit1000()) || (reicht(500) && mit500()) ||
+               (reicht(100) && mit100()) || (reicht(50) && mit50());
+    }
+
+    bool mit5000() { return zahl(5000) >= 1 && zahle(5000); }
+
+    bool mit1000() {
+        if (zahl(1000) >= 1) return zahle(1000);
+        if (zahl(5000) < 1) return false;
+        wechsle(5000, 1000);
+        return zahle(1000);
+    }
+
+    bool mit500() {
+        if (zahl(500) < 1 && zahl(1000) < 1 && zahl(5000) < 1) return false;
+        // Gewechselt wird auch, wenn ein 500er bereitliegt: mit Absicht so.
+        if (zahl(1000) < 1 && zahl(5000) > 0) wechsle(5000, 1000);
+        if (zahl(500) < 1 && zahl(1000) > 0) wechsle(1000, 500);
+        return zahl(500) >= 1 && zahle(500);
+    }
+
+    bool mit100() {
+        // Ob ein 1000er da ist, wird nicht gefragt; die Zahl kann unter 0 fallen: mit Absicht so.
+        if (zahl(100) < 1 && zahl(500) < 1) wechsle(1000, 100);
+        if (zahl(100) < 1 && zahl(500) > 0) wechsle(500, 100);
+        return zahle(100);
+    }
+
+    bool mit50() {
+        // Ebenso ohne Frage nach dem 500er.
+        if (zahl(50) < 1 && zahl(100) < 1) wechsle(500, 50);
+        if (zahl(50) < 1) wechsle(100, 50);
+        return zahle(50);
+    }
+
+    bool reicht(int note) const { return betrag.Zahl() >= note; }
+    int zahl(int note) const { return z.Notenbestand[note]; }
+    void wechsle(int groß, int klein) {
+        z.Notenbestand[groß] -= 1;
+        z.Notenbestand[klein] += groß / klein;
+    }
+    bool zahle(int note) {
+        z.Gesamtgeld -= note;
+        z.Notenbestand[note] -= 1;
+        betrag -= note;
+        return true;
+    }
+
+    Spielzustand &z;
+    Lose &betrag;
+};
+
+void bucheDazu(Spielzustand &z, Lose &betrag) {
+    while (betrag.Zahl() >= 50) {
+        const int note =
+            *std::ranges::find_if(std::views::reverse(Noten), [&](int n) { return betrag.Zahl() >= n; });
+        z.Gesamtgeld += note;
+        z.Notenbestand[note] += 1;
+        betrag -= note;
+    }
+}
+
+} // namespace
+
+void Geldbuchen(Programm &p, Lose &Betrag, Flagge Sinn) {
+    if (Sinn.Zahl() == -1) {
+        spieleFrisch(brett(p).Kasse);
+        bucheDazu(p.Zustand, Betrag);
+    } else if (Sinn.Zahl() == 0) {
+        Abbuchung(p.Zustand, Betrag).bucheAlles();
+    }
+    Scheinanzeige(p);
+}
+
+void Geldbuchen(Programm &p, int Betrag, Flagge Sinn) {
+    Lose rest = Betrag;
+    Geldbuchen(p, rest, Sinn);
+}
+
+void Scheinanzeige(Programm &p) {
+    const Spielzustand &z = p.Zustand;
+    Brett &b = brett(p);
+    b.Geldlabel.Caption = std::to_string(z.Gesamtgeld);
+    for (Notenstapel &s : b.Stapel) {
+        const int zahl = z.Notenbestand[s.Note];
+        s.k.Caption = std::to_string(zahl) + (zahl == 1 ? " Schein" : " Scheine");
+    }
+}
+
+void Notenzahlung(Programm &p, int v) {
+    Spielzustand &z = p.Zustand;
+    Brett &b = brett(p);
+    // Eine Note fliegt zur Zeit.
+    if (std::ranges::any_of(b.Stapel, [](const Notenstapel &s) { return s.p.Top != 0; })) return;
+    spieleWartend(b.MMControl2);
+    Lose rest = z.Restbetrag;
+    if (rest.Zahl() >= v && z.Notenbestand[v] >= 1 && z.Gesamtgeld >= v) {
+        z.Gesamtgeld -= v;
+        rest -= v;
+        z.Restbetrag = rest.Text();
+        z.Notenbestand[v] -= 1;
+        z.Notenflug = std::to_string(v);
+        if (z.Zwangskaufmerker)
+            if (const int n = Computernummer(Autobesitzer("c" + z.Vorbesitzer.letztes()))) z.Computergeld[n] += v;
+        b.Timer3.Enabled = true;
+        Scheinanzeige(p);
+    }
+    if (rest.Zahl() < v && v != 50) b.stapel(v).g.Enabled = false;
+    if (rest.Zahl() < 50)
+        for (Notenstapel &s : b.Stapel) s.g.Enabled = false;
+    if (rest.Zahl() <= 0) {
+        b.Label1.Caption = "Alles klar!";
+        b.Fertig.Enabled = true;
+    } else {
+        b.Label1.Caption = "Sie müssen noch " + z.Restbetrag + " DM Bezahlen!";
+    }
+}
+
+void Notenflug(Programm &p) {
+    Brett &b = brett(p);
+    Image &note = b.stapel(static_cast<int>(p.Zustand.Notenflug.Zahl())).p;
+    note.Visible = true;
+    note.Top -= 100;
+    if (note.Top > -1800) return;
+    b.Timer3.Enabled = false;
+    note.Visible = false;
+    note.Top = 0;
+}
+
+} // namespace velmo

@@ -1,0 +1,291 @@
+#pragma once
+// Die Steuerelemente. Maße sind Twips (12 je Bildpunkt des Entwurfs), bezogen auf den Behälter; Zeiten ms.
+#include "platform/Eigenschaft.h"
+#include "platform/Oberfläche.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace velmo {
+
+class Form;
+class PictureBox;
+
+struct Rechteck {
+    double Left, Top, Width, Height;
+};
+
+/// Worin ein Steuerelement liegt: die Form selbst oder ein Bildfeld auf ihr.
+struct Behälter {
+    Behälter(Form &f) : form(f) {}
+    Behälter(PictureBox &b);
+    Form &form;
+    PictureBox *feld = nullptr;
+};
+
+class Control : public Besitzer {
+  public:
+    Control(Behälter, const char *Name);
+    Control(const Control &) = delete;
+
+    const char *const Name;
+    Form &form;
+    PictureBox *const behälter;
+    Eigenschaft<std::string> Tag{*this, ""};
+
+    void geändert() override;
+    /// Die Eigenschaften unter ihren Namen.
+    virtual void zähleAuf(const Namensempfänger &);
+};
+
+enum class Maustaste { Links = 1, Rechts = 2 };
+
+using Handler = std::function<void()>;
+using Maushandler = std::function<void(Maustaste, double X, double Y)>;
+using Bewegungshandler = std::function<void(double X, double Y)>;
+
+/// Was beim Ziehen über einem Ziel geschieht.
+enum class Ziehzustand { Betreten, Verlassen, Darüber };
+
+/// Ein Steuerelement mit Platz auf der Form.
+class VisualControl : public Control {
+  public:
+    VisualControl(Behälter, const char *Name, Rechteck);
+
+    Eigenschaft<double> Left, Top, Width, Height;
+    Eigenschaft<bool> Visible{*this, true};
+    Eigenschaft<bool> Enabled{*this, true};
+    Eigenschaft<std::string> ToolTipText{*this, ""};
+    /// Solange wahr, beginnt ein Druck mit der linken Taste ein Ziehen.
+    Eigenschaft<bool> DragMode{*this, false};
+
+    Handler Click, DblClick;
+    Maushandler MouseDown, MouseUp;
+    Bewegungshandler MouseMove;
+    std::function<void(VisualControl &Quelle, Ziehzustand)> DragOver;
+    std::function<void(VisualControl &Quelle)> DragDrop;
+
+    /// Fenster liegen in ihrem Behälter stets über den gezeichneten Elementen (Beschriftung, Bild, Rahmen, Linie).
+    virtual bool Fenster() const { return true; }
+    /// Rahmen und Linien nehmen keine Maus.
+    virtual bool nimmtMaus() const { return true; }
+    /// Ganz nach vorn oder nach hinten unter den Geschwistern seiner Schicht.
+    void nachVorn();
+    void nachHinten();
+
+    void zähleAuf(const Namensempfänger &) override;
+};
+
+/// Gemeinsames aller Elemente mit Schrift.
+class Schriftelement : public VisualControl {
+  public:
+    Schriftelement(Behälter, const char *Name, Rechteck, std::string Caption = "");
+
+    Eigenschaft<std::string> FontName{*this, "MS Sans Serif"};
+    Eigenschaft<double> FontSize{*this, 8.25};
+    Eigenschaft<bool> FontBold{*this, false};
+    Eigenschaft<Farbe> ForeColor{*this, Farbe{0x000000}};
+
+    void zähleAuf(const Namensempfänger &) override;
+
+  protected:
+    Eigenschaft<std::string> beschriftung; // Caption oder Text
+};
+
+enum class Ausrichtung { Links, Rechts, Mitte };
+
+class Label : public Schriftelement {
+  public:
+    using Schriftelement::Schriftelement;
+    Eigenschaft<std::string> &Caption = beschriftung;
+    Eigenschaft<double> Alignment{*this, 0}; // Ausrichtung
+    /// Ohne Hintergrundfarbe scheint durch, was dahinter liegt.
+    Eigenschaft<bool> Deckend{*this, false};
+    Eigenschaft<Farbe> BackColor{*this, Farbe{0xFFFFFF}};
+
+    bool Fenster() const override { return false; }
+    void zähleAuf(const Namensempfänger &) override;
+};
+
+class CommandButton : public Schriftelement {
+  public:
+    using Schriftelement::Schriftelement;
+    Eigenschaft<std::string> &Caption = beschriftung;
+    void zähleAuf(const Namensempfänger &) override;
+};
+
+/// Der 3D-Knopf, auch mit Bild; Betonung 0 und 2 heben seine Schrift verschieden stark hervor.
+class SSCommand : public CommandButton {
+  public:
+    using CommandButton::CommandButton;
+    Eigenschaft<velmo::Picture> Picture{*this, {}};
+    Eigenschaft<double> Font3D{*this, 0};
+    void zähleAuf(const Namensempfänger &) override;
+};
+
+class Image : public VisualControl {
+  public:
+    Image(Behälter, const char *Name, Rechteck);
+    Eigenschaft<velmo::Picture> Picture{*this, {}};
+    Eigenschaft<double> BorderStyle{*this, 0};
+    /// Ohne Strecken hat das Bild seine natürliche Größe: die des Entwurfs. Das Ausschalten stellt sie her.
+    Eigenschaft<bool> Stretch{*this, false};
+    /// Ein Bild, das in die Höhe wächst, steigt aus dem Boden seiner vollen Höhe.
+    Eigenschaft<bool> Wächst{*this, false};
+
+    bool Fenster() const override { return false; }
+    void geändert() override;
+    void zähleAuf(const Namensempfänger &) override;
+    double natürlicheBreite() const;
+    double natürlicheHöhe() const;
+
+  private:
+    const double entwurfBreite, entwurfHöhe;
+    bool gestreckt = false;
+};
+
+class PictureBox : public Schriftelement {
+  public:
+    PictureBox(Behälter, const char *Name, Rechteck);
+    Eigenschaft<velmo::Picture> Picture{*this, {}};
+    Eigenschaft<double> BorderStyle{*this, 0};
+    Eigenschaft<double> ScaleWidth, ScaleHeight;
+    /// Die Steuerelemente darin, von hinten nach vorn.
+    std::vector<VisualControl *> Kinder;
+    void zähleAuf(const Namensempfänger &) override;
+};
+
+enum class Gestalt { Rechteck, Ellipse, GerundetesRechteck };
+
+class Shape : public VisualControl {
+  public:
+    Shape(Behälter, const char *Name, Rechteck, Gestalt = Gestalt::Rechteck);
+    const Gestalt gestalt;
+    Eigenschaft<double> BorderWidth{*this, 1};
+    Eigenschaft<Farbe> BorderColor{*this, Farbe{0x000000}};
+    bool Fenster() const override { return false; }
+    bool nimmtMaus() const override { return false; }
+    void zähleAuf(const Namensempfänger &) override;
+};
+
+class Line : public Control {
+  public:
+    Line(Behälter, const char *Name, double x1, double y1, double x2, double y2);
+    Eigenschaft<double> x1, y1, x2, y2;
+    Eigenschaft<double> BorderWidth{*this, 1};
+    Eigenschaft<Farbe> BorderColor{*this, Farbe{0x000000}};
+    Eigenschaft<bool> Visible{*this, true};
+    void zähleAuf(const Namensempfänger &) override;
+};
+
+class TextBox : public Schriftelement {
+  public:
+    TextBox(Behälter, const char *Name, Rechteck, std::string Text = "", bool MultiLine = false);
+    Eigenschaft<std::string> &Text = beschriftung;
+    const bool MultiLine; // mehrzeilig und nur zu lesen
+    void zähleAuf(const Namensempfänger &) override;
+};
+
+/// Listen und Auswahllisten: Zeilen ab 0, ListIndex -1 ohne Auswahl.
+class Listenelement : public Schriftelement {
+  public:
+    Listenelement(Behälter, const char *Name, Rechteck, std::vector<std::string> Zeilen = {});
+    Eigenschaft<double> ListIndex{*this, -1};
+
+    const std::vector<std::string> &Zeilen() const { return zeilen; }
+    int ListCount() const { return static_cast<int>(zeilen.size()); }
+    /// Der Text der gewählten Zeile; leer ohne Auswahl.
+    std::string Text() const;
+    /// Wählt die Zeile mit dem Text; wirft Laufzeitfehler (Argument), wenn es keine gibt.
+    void wähleText(const std::string &text);
+    /// Eine Zeile außerhalb der Liste ist ein Laufzeitfehler (Argument).
+    void geändert() override;
+    void zähleAuf(const Namensempfänger &) override;
+
+  protected:
+    std::vector<std::string> zeilen;
+};
+
+class ListBox : public Listenelement {
+  public:
+    using Listenelement::Listenelement;
+};
+
+class ComboBox : public Listenelement {
+  public:
+    using Listenelement::Listenelement;
+};
+
+/// Die Dateien eines Ordners nach einem Muster "*.endung", nach Namen geordnet.
+class FileListBox : public Listenelement {
+  public:
+    FileListBox(Behälter, const char *Name, Rechteck, const char *Muster);
+    /// Der Ordner; wirft Laufzeitfehler (Datei), wenn es ihn nicht gibt.
+    void setzePath(const std::string &ordner);
+    const std::string &Path() const { return ordner; }
+    /// Liest den Ordner neu; danach ist nichts gewählt.
+    void Refresh();
+
+  private:
+    std::string ordner;
+    const std::string endung;
+};
+
+/// Die Werte 0 (oben) bis 1 (unten); jede Änderung ruft Change.
+class VScrollBar : public VisualControl {
+  public:
+    using VisualControl::VisualControl;
+    Eigenschaft<double> Value{*this, 0};
+    Handler Change;
+    void geändert() override;
+    void zähleAuf(const Namensempfänger &) override;
+
+  private:
+    double gemeldet = 0;
+};
+
+class Timer : public Control {
+  public:
+    Timer(Behälter, const char *Name, double Interval, bool Enabled, Handler Tick = {});
+    /// ms; 0 heißt aus.
+    Eigenschaft<double> Interval;
+    Eigenschaft<bool> Enabled;
+    Handler Tick;
+
+    bool läuft() const { return Enabled && Interval > 0; }
+    void geändert() override;
+    void zähleAuf(const Namensempfänger &) override;
+
+    // Für den Zeitplan: laufende Nummer der Entstehung, nächste Fälligkeit, ob die Behandlung noch läuft.
+    const std::uint64_t nummer;
+    Zeit fällig = 0;
+    bool inArbeit = false;
+
+  private:
+    double geplanterAbstand = 0;
+};
+
+/// Ein Medienelement: FileName, dann die Befehle "open", "play", "close". Wait gilt für den einen nächsten Befehl.
+class MMControl : public Control {
+  public:
+    MMControl(Behälter, const char *Name);
+    ~MMControl() override;
+    /// Der volle Pfad; die Groß- und Kleinschreibung spielt keine Rolle.
+    Eigenschaft<std::string> FileName{*this, ""};
+    Eigenschaft<bool> Wait{*this, false};
+    void Command(Befehl);
+    long Position();
+    long Length();
+    void zähleAuf(const Namensempfänger &) override;
+};
+
+class Animation : public VisualControl {
+  public:
+    using VisualControl::VisualControl;
+    ~Animation() override;
+    void Open(const std::string &Datei);
+    void Play();
+};
+
+} // namespace velmo

@@ -1,0 +1,67 @@
+#pragma once
+// Die Eingabe: welches Steuerelement ein Druck erreicht, entscheidet sich hier für alle Oberflächen. Orte sind Twips auf der
+// Anzeige.
+#include "platform/Control.h"
+
+#include <string>
+
+namespace velmo {
+
+class Laufzeit;
+
+struct Punkt {
+    double x, y;
+};
+
+/// Was an einem Ort liegt: die Form und darauf das Steuerelement; ohne Steuerelement die bloße Form.
+struct Treffer {
+    Form *form = nullptr;
+    VisualControl *control = nullptr;
+};
+
+class Eingabe {
+  public:
+    explicit Eingabe(Laufzeit &laufzeit) : laufzeit(laufzeit) {}
+
+    void bewege(Punkt);
+    void drücke(Maustaste, Punkt);
+    void löse(Maustaste, Punkt);
+    /// Der zweite Klick eines Doppelklicks, nach drücke und löse des ersten.
+    void doppelklick(Punkt);
+    void taste(Form &, const std::string &Taste);
+    /// Der Spieler hat den Inhalt eines Textfelds oder eine Zeile einer Liste gewählt; falsch, wenn er es nicht kann.
+    bool tippe(TextBox &, const std::string &text);
+    bool wähle(Listenelement &, int zeile);
+    bool rolle(VScrollBar &, double wert);
+    /// Der Spieler schließt das Fenster der Form.
+    void schließe(Form &);
+
+    /// Was ein Druck an diesem Ort erreicht. Eine gesperrte Form nimmt nichts, verdeckt aber, was hinter ihr liegt.
+    Treffer trifft(Punkt) const;
+    /// Die linke obere Ecke des Elements auf der Anzeige.
+    static Punkt ort(const VisualControl &);
+
+    /// Die Form folgt der Maus, bis die Taste losgelassen wird: für rahmenlose Dialoge in MouseDown.
+    void zieheForm(Form &);
+    /// Die Quelle eines laufenden Ziehens und der Ort des Zeigers darin; null ohne Ziehen.
+    const VisualControl *gezogen() const { return quelle; }
+    Punkt zeiger() const { return letzterOrt; }
+
+    /// Die Form wird entladen: nichts darf mehr auf sie zeigen.
+    void vergiss(const Form &);
+
+  private:
+    VisualControl *ziel(Punkt) const;
+    void ziehe(Punkt);
+    bool kannBedienen(const VisualControl &) const;
+
+    Laufzeit &laufzeit;
+    Treffer gedrückt;
+    VisualControl *quelle = nullptr;
+    VisualControl *überZiel = nullptr;
+    Form *gezogeneForm = nullptr;
+    Punkt griff{0, 0};
+    Punkt letzterOrt{0, 0};
+};
+
+} // namespace velmo

@@ -1,0 +1,70 @@
+#pragma once
+// Formulare: ihr Rand liegt in Twips auf der Anzeige, ihre Steuerelemente stehen in ihr, von hinten nach vorn.
+#include "platform/Control.h"
+#include "platform/Region.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace velmo {
+
+class Laufzeit;
+
+class Form : public Besitzer {
+  public:
+    Form(Laufzeit &, const char *Name, Rechteck, std::string Caption = "");
+    Form(const Form &) = delete;
+
+    Laufzeit &laufzeit;
+    const char *const Name;
+    Eigenschaft<double> Left, Top, Width, Height;
+    Eigenschaft<bool> Visible{*this, false};
+    Eigenschaft<bool> Enabled{*this, true};
+    Eigenschaft<bool> Topmost{*this, false};
+    Eigenschaft<std::string> Caption;
+    Eigenschaft<std::string> Tag{*this, ""};
+    Eigenschaft<Farbe> BackColor{*this, Farbe{0xF4EBDC}};
+    Eigenschaft<velmo::Picture> Picture{*this, {}};
+    /// Das Zeichen des Programms, das die Form trägt.
+    Eigenschaft<velmo::Picture> Icon{*this, {}};
+
+    Handler Click;
+    Maushandler MouseDown, MouseUp;
+    Bewegungshandler MouseMove;
+    std::function<void(const std::string &Taste)> KeyPress;
+
+    virtual void Form_Load() {}
+    virtual void Form_Unload() {}
+    /// Eigene Werte der Form unter ihren Namen.
+    virtual void eigeneWerte(const Namensempfänger &) {}
+
+    /// Die sichtbaren Teile des Fensters; ohne Region ist es das ganze Rechteck. In Bildpunkten der Form.
+    const std::optional<Region> &region() const { return fensterregion; }
+    void setzeRegion(Region region);
+
+    /// Gezeichnetes auf der Form selbst: gefüllte Rechtecke in Twips, in der Reihenfolge ihres Entstehens.
+    virtual const std::vector<std::pair<Rechteck, Farbe>> *Zeichnung() const { return nullptr; }
+
+    /// Alle Steuerelemente in der Reihenfolge ihrer Entstehung.
+    const std::vector<Control *> &Controls() const { return controls; }
+    /// Das Steuerelement des Namens; null, wenn es keins gibt.
+    Control *control(const std::string &Name) const;
+    /// Die Elemente unmittelbar auf der Form, von hinten nach vorn.
+    std::vector<VisualControl *> Kinder;
+
+    void zähleAuf(const Namensempfänger &);
+    void geändert() override { ++stand; }
+    /// Steigt mit jeder Änderung an der Form oder ihren Steuerelementen.
+    std::uint64_t Stand() const { return stand; }
+    bool geladen = false;
+    bool entladen = false;
+
+  private:
+    friend class Control;
+    std::vector<Control *> controls;
+    std::optional<Region> fensterregion;
+    std::uint64_t stand = 0;
+};
+
+} // namespace velmo

@@ -1,0 +1,148 @@
+#include "platform/Laufzeit.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <tuple>
+
+namespace velmo {
+
+namespace {
+
+auto findeIn(const std::vector<std::unique_ptr<Form>> &formen, const std::string &Name) {
+    return std::find_if(formen.begin(), formen.end(), [&](const auto &form) { return Name == form->Name; });
+}
+
+/// Zählt, wie tief Behandlungen ineinander liegen.
+struct Tiefe {
+    explicit Tiefe(int &t) : tiefe(t) { ++tiefe; }
+    ~Tiefe() { --tiefe; }
+    int &tiefe;
+};
+
+} // namespace
+
+Laufzeit::Laufzeit(Oberfläche &o, std::span<const Formeintrag> tafel) : oberfläche(o), tafel(tafel) {}
+Laufzeit::~Laufzeit() = default;
+
+bool Laufzeit::kennt(const std::string &Name) const {
+    return std::any_of(tafel.begin(), tafel.end(), [&](const Formeintrag &e) { return Name == e.Name; });
+}
+
+Form *Laufzeit::geladene(const std::string &Name) const {
+    const auto hier = findeIn(formen, Name);
+    return hier == formen.end() ? nullptr : hier->get();
+}
+
+Form &Laufzeit::lade(const std::string &Name) {
+    if (Form *form = geladene(Name)) return *form;
+    const auto eintrag =
+        std::find_if(tafel.begin(), tafel.end(), [&](const Formeintrag &e) { return Name == e.Name; });
+    if (eintrag == tafel.end()) throw std::logic_error("unbekannte Form " + Name);
+    formen.insert(formen.begin(), eintrag->erzeuge(*this));
+    Form &form = *formen.front();
+    form.geladen = true;
+    behandle([&] { form.Form_Load(); });
+    return form;
+}
+
+void Laufzeit::zeige(const std::string &Name) {
+    Form &form = lade(Name);
+    // Eine Form, die sich beim Laden selbst entladen hat, erscheint nicht.
+    if (!form.geladen) return;
+    form.Visible = true;
+    nachVorn(form);
+}
+
+void Laufzeit::verstecke(const std::string &Name) { lade(Name).Visible = false; }
+
+void Laufzeit::entlade(const std::string &Name) {
+    Form *form = geladene(Name);
+    if (!form || !form->geladen) return;
+    form->geladen = false; // ein Entladen aus Form_Unload heraus beginnt nicht von vorn
+    form->entladen = true;
+    behandle([&] {
+        form->Form_Unload();
+        std::erase_if(zeitplan, [&](const Timer *t) { return &t->form == form; });
+        eingabe.vergiss(*form);
+        const auto hier = std::find_if(formen.begin(), formen.end(), [&](const auto &f) { return f.get() == form; });
+        entladene.push_back(std::move(*hier));
+        formen.erase(hier);
+    });
+}
+
+std::vector<Form *> Laufzeit::Formen() const {
+    std::vector<Form *> alle;
+    for (const auto &form : formen) alle.push_back(form.get());
+    std::stable_partition(alle.begin(), alle.end(), [](const Form *f) { return !f->Topmost(); });
+    return alle;
+}
+
+void Laufzeit::warteBis(const std::function<bool()> &bedingung) {
+    while (!bedingung()) oberfläche.gibAb(Rast::BisEreignis);
+}
+
+void Laufzeit::Ende() { throw Programmende{}; }
+
+Bildschirm Laufzeit::Screen() const {
+    const Anzeige a = oberfläche.anzeige();
+    const double twips = 1440.0 / a.DPI;
+    return {a.Breite * twips, a.Höhe * twips, twips, twips};
+}
+
+bool Laufzeit::Fälliges() {
+    const Zeit bis = oberfläche.jetzt();
+    bool etwas = false;
+    for (;;) {
+        Timer *nächster = nullptr;
+        for (Timer *t : zeitplan)
+            if (!t->inArbeit && t->fällig <= bis &&
+                (!nächster || std::tie(t->fällig, t->nummer) < std::tie(nächster->fällig, nächster->nummer)))
+                nächster = t;
+        if (!nächster) return etwas;
+        etwas = true;
+        behandle([this, nächster] {
+            struct InArbeit {
+                explicit InArbeit(Timer &t) : timer(t) { timer.inArbeit = true; }
+                ~InArbeit() { timer.inArbeit = false; }
+                Timer &timer;
+            } inArbeit{*nächster};
+            // Ein verspäteter Takt holt die versäumten nicht nach.
+            const Zeit abstand = std::max(Zeit(nächster->Interval()), oberfläche.kürzesterTakt());
+            const Zeit jetzt = oberfläche.jetzt();
+            nächster->fällig += abstand;
+            if (nächster->fällig <= jetzt) nächster->fällig = jetzt + abstand;
+            if (nächster->Tick) nächster->Tick();
+        });
+    }
+}
+
+std::optional<Zeit> Laufzeit::nächsteFälligkeit() const {
+    std::optional<Zeit> nächste;
+    for (const Timer *t : zeitplan)
+        if (!t->inArbeit && (!nächste || t->fällig < *nächste)) nächste = t->fällig;
+    return nächste;
+}
+
+void Laufzeit::behandle(const Handler &handler) {
+    {
+        Tiefe eineMehr(tiefe);
+        if (handler) handler();
+    }
+    if (tiefe == 0) entladene.clear();
+}
+
+void Laufzeit::plane(Timer &t) {
+    if (t.form.entladen) return;
+    t.fällig = oberfläche.jetzt() + std::max(Zeit(t.Interval()), oberfläche.kürzesterTakt());
+    if (std::find(zeitplan.begin(), zeitplan.end(), &t) == zeitplan.end()) zeitplan.push_back(&t);
+}
+
+void Laufzeit::streiche(Timer &t) { std::erase(zeitplan, &t); }
+
+void Laufzeit::nachVorn(Form &form) {
+    const auto hier = std::find_if(formen.begin(), formen.end(), [&](const auto &f) { return f.get() == &form; });
+    std::rotate(hier, hier + 1, formen.end());
+    form.geändert();
+}
+
+} // namespace velmo

@@ -1,0 +1,89 @@
+#pragma once
+// Die Laufzeit: die Liste der Formulare, der Zeitplan, das Abgeben der Schleife, die Anzeige. Ein Programm hat eine davon.
+#include "platform/Eingabe.h"
+#include "platform/Form.h"
+#include "platform/Laufzeitfehler.h"
+#include "platform/Oberfläche.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace velmo {
+
+/// Wie eine Form des Programms entsteht.
+struct Formeintrag {
+    const char *Name;
+    std::unique_ptr<Form> (*erzeuge)(Laufzeit &);
+};
+
+/// Die Maße der Anzeige.
+struct Bildschirm {
+    double Width, Height;                           // Twips
+    double TwipsPerPixelX, TwipsPerPixelY;          // 1440 / DPI
+};
+
+class Laufzeit {
+  public:
+    Laufzeit(Oberfläche &, std::span<const Formeintrag>);
+    virtual ~Laufzeit();
+    Laufzeit(const Laufzeit &) = delete;
+
+    Oberfläche &oberfläche;
+    Eingabe eingabe{*this};
+
+    // Die Formulare. Jede Berührung lädt; Laden baut die Form und ruft Form_Load. Ein unbekannter Name ist ein logic_error.
+    bool kennt(const std::string &Name) const;
+    Form *geladene(const std::string &Name) const;
+    Form &lade(const std::string &Name);
+    void zeige(const std::string &Name);
+    void verstecke(const std::string &Name);
+    /// Entlädt die Form; eine nicht geladene bleibt es.
+    void entlade(const std::string &Name);
+    /// Die geladenen Formulare von hinten nach vorn, die obersten (Topmost) zuletzt.
+    std::vector<Form *> Formen() const;
+
+    /// Gibt der Schleife einen Durchgang: Fälliges läuft, sonst ruht sie höchstens 1 ms.
+    void DoEvents() { oberfläche.gibAb(Rast::Gezählt); }
+    /// Wartet auf den Spieler oder einen Zeitgeber, bis die Bedingung gilt.
+    void warteBis(const std::function<bool()> &bedingung);
+    /// Beendet das Programm sofort.
+    [[noreturn]] void Ende();
+
+    Bildschirm Screen() const;
+    double Rnd() { return oberfläche.Rnd(); }
+    /// Der ganze Teil einer Ziehung mal n: 0 bis n - 1.
+    int Zufallszahl(int n) { return static_cast<int>(oberfläche.Rnd() * n); }
+    void MsgBox(const std::string &text) { oberfläche.MsgBox(text, "Velmo"); }
+
+    // Für die Oberfläche: der Zeitplan.
+    /// Lässt alle fälligen Zeitgeber laufen; wahr, wenn einer fällig war.
+    bool Fälliges();
+    /// Wann der nächste Zeitgeber fällig ist, der nicht selbst gerade läuft.
+    std::optional<Zeit> nächsteFälligkeit() const;
+    /// Die laufenden Zeitgeber.
+    const std::vector<Timer *> &Zeitplan() const { return zeitplan; }
+    /// Führt eine Ereignisbehandlung aus; danach verschwinden entladene Formulare, wenn keine andere mehr läuft.
+    void behandle(const Handler &);
+    /// Läuft gerade eine Ereignisbehandlung?
+    bool beschäftigt() const { return tiefe > 0; }
+
+    // Für Formulare und Zeitgeber.
+    std::uint64_t nächsteNummer() { return ++nummern; }
+    void plane(Timer &);
+    void streiche(Timer &);
+    void nachVorn(Form &);
+
+  private:
+    std::span<const Formeintrag> tafel;
+    std::vector<std::unique_ptr<Form>> formen;   // von hinten nach vorn
+    std::vector<std::unique_ptr<Form>> entladene; // leben, bis keine Behandlung mehr läuft
+    std::vector<Timer *> zeitplan;
+    std::uint64_t nummern = 0;
+    int tiefe = 0;
+};
+
+} // namespace velmo

@@ -1,0 +1,7 @@
+#include "property/Grundstück.h"
+
+namespace velmo {
+
+void Besitzanzeige(Programm &) {}
+
+} // namespace velmo
