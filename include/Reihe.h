@@ -1,6 +1,6 @@
 #pragma once
-// Die Kürzel des Spiels und die Reihen, die unter ihnen liegen. Jeder Raum ist ein eigener Typ: b ist als Hotel Boomerang,
-// als Auto der blaue Wagen.
+// Die Kürzel des Spiels und die Reihen, die unter ihnen liegen. Jeder Raum ist ein eigener Typ: b ist als Hotel
+// Boomerang, als Auto der blaue Wagen.
 #include "platform/Laufzeitfehler.h"
 
 #include <array>
@@ -15,12 +15,12 @@ enum class Seite { links, rechts };
 /// Was ein Halt auf dem Feld bedeutet.
 enum class Feldart : char { Kauffeld = 'g', Baugenehmigung = 'b', Bauphase = 'a', Eingang = 'e' };
 
-constexpr std::array AlleHotels = {Hotelkürzel::b, Hotelkürzel::p, Hotelkürzel::w, Hotelkürzel::t,
-                                   Hotelkürzel::s, Hotelkürzel::f, Hotelkürzel::l, Hotelkürzel::r};
-constexpr std::array AlleAutos = {Autokürzel::g, Autokürzel::e, Autokürzel::b, Autokürzel::r};
-constexpr std::array AlleStufen = {Baustufe::H,  Baustufe::N1, Baustufe::N2,
-                                   Baustufe::N3, Baustufe::N4, Baustufe::P};
-constexpr std::array Noten = {50, 100, 500, 1000, 5000};
+inline constexpr std::array AlleHotels = {Hotelkürzel::b, Hotelkürzel::p, Hotelkürzel::w, Hotelkürzel::t,
+                                          Hotelkürzel::s, Hotelkürzel::f, Hotelkürzel::l, Hotelkürzel::r};
+inline constexpr std::array AlleAutos = {Autokürzel::g, Autokürzel::e, Autokürzel::b, Autokürzel::r};
+inline constexpr std::array AlleStufen = {Baustufe::H,  Baustufe::N1, Baustufe::N2,
+                                          Baustufe::N3, Baustufe::N4, Baustufe::P};
+inline constexpr std::array Noten = {50, 100, 500, 1000, 5000};
 
 // Wie ein Schlüssel zu seiner Stelle kommt und wie er heißt; eine Stelle außerhalb ist ein Laufzeitfehler (Index).
 struct NachHotel {
