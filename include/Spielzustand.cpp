@@ -10,14 +10,16 @@ template <class T> Zugang feldzugang(T &feld) {
 
 template <class T, class Nach> void reihe(const Namensempfänger &e, const std::string &name, Reihe<T, Nach> &r) {
     int i = 0;
-    for (T &wert : r) e(name + "(" + Nach::name(i++) + ")", feldzugang(wert));
+    for (T &wert : r)
+        e(name + "(" + Nach::name(i++) + ")", feldzugang(wert));
 }
 
 /// Die Felder des Teilsatzes je Schlüssel: "Name(Schlüssel)".
 void hotelfelder(const Namensempfänger &e, const std::string &k, Hoteldaten &h) {
     e("Besitzer(" + k + ")", feldzugang(h.Besitzer));
     int i = 0;
-    for (std::string &stufe : h.Baustufen) e("Baustufen(" + k + "," + NachStufe::name(i++) + ")", feldzugang(stufe));
+    for (std::string &stufe : h.Baustufen)
+        e("Baustufen(" + k + "," + NachStufe::name(i++) + ")", feldzugang(stufe));
     e("Eingangszahl(" + k + ")", feldzugang(h.Eingangszahl));
     e("Vollmerker(" + k + ")", feldzugang(h.Vollmerker));
     e("Eingangssperre(" + k + ")", feldzugang(h.Eingangssperre));
@@ -57,9 +59,11 @@ void Spielzustand::zähleAuf(const Namensempfänger &e) {
     FELD(Gegnerzahl);
     FELD(Schwierigkeit);
     int i = 0;
-    for (Autodaten &a : Autos) autofelder(e, NachAuto::name(i++), a);
+    for (Autodaten &a : Autos)
+        autofelder(e, NachAuto::name(i++), a);
     i = 0;
-    for (Hoteldaten &h : Hotels) hotelfelder(e, NachHotel::name(i++), h);
+    for (Hoteldaten &h : Hotels)
+        hotelfelder(e, NachHotel::name(i++), h);
     REIHE(Eingang);
     REIHE(Eingangsbesitzer);
     FELD(AmZug);

@@ -1,5 +1,6 @@
 #pragma once
-// Der Zustand eines ganzen Spiels: ein flacher Satz von Werten, den alle Routinen unmittelbar lesen und schreiben. Geld in DM.
+// Der Zustand eines ganzen Spiels: ein flacher Satz von Werten, den alle Routinen unmittelbar lesen und schreiben. Geld
+// in DM.
 #include "include/Reihe.h"
 #include "include/Werte.h"
 #include "platform/Eigenschaft.h"

@@ -54,9 +54,12 @@ void ausWert(const Wert &w, Flagge &f) { f = Flagge::ausZahl(ganz<std::int16_t>(
 void ausWert(const Wert &w, int &n) { n = ganz<std::int32_t>(w); }
 
 void ausWert(const Wert &w, Lose &l) {
-    if (std::holds_alternative<Leer>(w)) l = {};
-    else if (std::holds_alternative<std::string>(w)) l = alsText(w);
-    else l = alsZahl(w);
+    if (std::holds_alternative<Leer>(w))
+        l = {};
+    else if (std::holds_alternative<std::string>(w))
+        l = alsText(w);
+    else
+        l = alsZahl(w);
 }
 
 } // namespace velmo

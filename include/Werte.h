@@ -61,7 +61,8 @@ class Lose {
     Wert wert;
 };
 
-/// Ein Kennzeichen eines Teilnehmers. Jede Marke ist ein eigener Raum: Kennzeichen zweier Räume lassen sich nicht vergleichen.
+/// Ein Kennzeichen eines Teilnehmers. Jede Marke ist ein eigener Raum: Kennzeichen zweier Räume lassen sich nicht
+/// vergleichen.
 template <class Marke> class Kennung {
   public:
     Kennung() = default;

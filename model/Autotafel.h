@@ -15,8 +15,8 @@ struct Auto {
     const char *Text;  // Spielerfarbe des Menschen, der es fährt
     const char *Farbe; // im Assistenten
     const char *Control;
-    Rechteck Ort;      // wo es auf dem Brett wartet
-    int Grundbild;     // das erste seiner vier Bilder
+    Rechteck Ort;  // wo es auf dem Brett wartet
+    int Grundbild; // das erste seiner vier Bilder
     /// Welche Autos c1, c2 und c3 fahren, wenn der Mensch dieses fährt.
     std::array<Autokürzel, 3> Computer;
     /// Nur Auto g prüft das Rathaus, bevor es die Runde vollendet.

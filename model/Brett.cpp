@@ -17,8 +17,8 @@ struct Stapelzeile {
 };
 
 constexpr Stapelzeile Stapeltafel[] = {
-    {50, "g50", "k50", "p50", 1440, 5650},          {100, "g100", "k100", "p100", 2760, 5640},
-    {500, "g500", "k500", "p500", 4080, 5640},      {1000, "g1000", "k1000", "p1000", 5400, 5640},
+    {50, "g50", "k50", "p50", 1440, 5650},         {100, "g100", "k100", "p100", 2760, 5640},
+    {500, "g500", "k500", "p500", 4080, 5640},     {1000, "g1000", "k1000", "p1000", 5400, 5640},
     {5000, "g5000", "k5000", "p5000", 6720, 5640},
 };
 
@@ -31,16 +31,22 @@ Notenstapel::Notenstapel(Form &form, int note, const char *feld, const char *kno
 }
 
 Brett::Brett(Programm &p) : Form(p, Formname, {0, 0, 9600, 7200}, "Velmo") {
-    for (const Eingangsplatz &platz : Eingangsplätze) plätze.emplace_back(Picture1, platz.Control, platz.Ort).Visible = false;
-    for (const Auto &a : Autotafel) autos.emplace_back(Picture1, a.Control, a.Ort);
-    for (const Stufe &s : Stufen) gebäude.emplace_back(Picture1, s.Bild, s.Ort).Visible = false;
+    for (const Eingangsplatz &platz : Eingangsplätze)
+        plätze.emplace_back(Picture1, platz.Control, platz.Ort).Visible = false;
+    for (const Auto &a : Autotafel)
+        autos.emplace_back(Picture1, a.Control, a.Ort);
+    for (const Stufe &s : Stufen)
+        gebäude.emplace_back(Picture1, s.Bild, s.Ort).Visible = false;
     // Was weiter vorn steht, verdeckt, was dahinter steht.
     std::vector<Image *> nachTiefe;
-    for (Image &bild : gebäude) nachTiefe.push_back(&bild);
+    for (Image &bild : gebäude)
+        nachTiefe.push_back(&bild);
     std::stable_sort(nachTiefe.begin(), nachTiefe.end(),
                      [](Image *a, Image *b) { return a->Top + a->Height < b->Top + b->Height; });
-    for (Image *bild : nachTiefe) bild->nachVorn();
-    for (const Hotel &h : Hotels) schilder.emplace_back(Picture1, h.Schild, h.Schildort).Visible = false;
+    for (Image *bild : nachTiefe)
+        bild->nachVorn();
+    for (const Hotel &h : Hotels)
+        schilder.emplace_back(Picture1, h.Schild, h.Schildort).Visible = false;
     Info.nachVorn();
     Info.Visible = false;
     for (const Stapelzeile &z : Stapeltafel)

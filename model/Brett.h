@@ -10,8 +10,8 @@
 
 namespace velmo {
 
-/// Ein Notenstapel: das Feld, der Knopf mit der Zahl und die Note, die davonfliegt. Der Stapel ist gesperrt, solange keine
-/// Schuld offen ist; Knopf und Note liegen in ihm.
+/// Ein Notenstapel: das Feld, der Knopf mit der Zahl und die Note, die davonfliegt. Der Stapel ist gesperrt, solange
+/// keine Schuld offen ist; Knopf und Note liegen in ihm.
 struct Notenstapel {
     Notenstapel(Form &, int note, const char *feld, const char *knopf, const char *bild, Rechteck);
     const int Note;

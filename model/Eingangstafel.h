@@ -86,8 +86,8 @@ constexpr const Eingangsplatz &eingangsplatz(int nummer) {
 
 static_assert(std::all_of(Eingangsplätze.begin(), Eingangsplätze.end(), [](const Eingangsplatz &p) {
     return eingangsplatz(p.Nummer).Control == p.Control &&
-           (p.Gegenüber == 0 || (eingangsplatz(p.Gegenüber).Gegenüber == p.Nummer &&
-                                 eingangsplatz(p.Gegenüber).Feld == p.Feld));
+           (p.Gegenüber == 0 ||
+            (eingangsplatz(p.Gegenüber).Gegenüber == p.Nummer && eingangsplatz(p.Gegenüber).Feld == p.Feld));
 }));
 
 } // namespace velmo

@@ -16,7 +16,8 @@ class Abbuchung {
     Abbuchung(Spielzustand &z, Lose &betrag) : z(z), betrag(betrag) {}
 
     void bucheAlles() {
-        while (bucheEine()) {}
+        while (bucheEine()) {
+        }
     }
 
   private:
@@ -76,8 +77,7 @@ class Abbuchung {
 
 void bucheDazu(Spielzustand &z, Lose &betrag) {
     while (betrag.Zahl() >= 50) {
-        const int note =
-            *std::ranges::find_if(std::views::reverse(Noten), [&](int n) { return betrag.Zahl() >= n; });
+        const int note = *std::ranges::find_if(std::views::reverse(Noten), [&](int n) { return betrag.Zahl() >= n; });
         z.Gesamtgeld += note;
         z.Notenbestand[note] += 1;
         betrag -= note;
@@ -131,7 +131,8 @@ void Notenzahlung(Programm &p, int v) {
     }
     if (rest.Zahl() < v && v != 50) b.stapel(v).g.Enabled = false;
     if (rest.Zahl() < 50)
-        for (Notenstapel &s : b.Stapel) s.g.Enabled = false;
+        for (Notenstapel &s : b.Stapel)
+            s.g.Enabled = false;
     if (rest.Zahl() <= 0) {
         b.Label1.Caption = "Alles klar!";
         b.Fertig.Enabled = true;

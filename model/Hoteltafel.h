@@ -12,8 +12,8 @@ namespace velmo {
 struct Hotel {
     Hotelkürzel Kürzel;
     const char *Name;
-    Seite Wegseite;      // die Seite des Weges, auf der die Anlieger es nennen
-    const char *Schild;  // die Besitzerbeschriftung auf dem Brett
+    Seite Wegseite;     // die Seite des Weges, auf der die Anlieger es nennen
+    const char *Schild; // die Besitzerbeschriftung auf dem Brett
     Rechteck Schildort;
 };
 

@@ -7,7 +7,8 @@ namespace velmo {
 namespace {
 
 void setzeNoten(Spielzustand &z, const std::array<int, 5> &zahlen) {
-    for (std::size_t i = 0; i < Noten.size(); ++i) z.Notenbestand[Noten[i]] = zahlen[i];
+    for (std::size_t i = 0; i < Noten.size(); ++i)
+        z.Notenbestand[Noten[i]] = zahlen[i];
 }
 
 } // namespace
@@ -15,7 +16,8 @@ void setzeNoten(Spielzustand &z, const std::array<int, 5> &zahlen) {
 void Spielbeginn(Spielzustand &z) {
     for (Autodaten &a : z.Autos) {
         a.Autofeld = 1;
-        for (Flagge &merker : a.Eingangsmerker) merker = true;
+        for (Flagge &merker : a.Eingangsmerker)
+            merker = true;
     }
     z.Wurf = 1;
     z.Rohwurf = 1;
@@ -35,7 +37,8 @@ void Spielbeginn(Spielzustand &z) {
 void SpielZurücksetzen(Spielzustand &z) {
     Spielzustand neu;
     neu.Gesamtgeld = 12000;
-    for (Kurz &geld : neu.Computergeld) geld = 12000;
+    for (Kurz &geld : neu.Computergeld)
+        geld = 12000;
     setzeNoten(neu, {2, 2, 3, 5, 1}); // das Laden des Bretts gibt den vollen Bestand
     neu.Bildnummer = 0;
     neu.Programmpfad = z.Programmpfad;

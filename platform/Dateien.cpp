@@ -26,7 +26,8 @@ void prüfeSchreibrecht(const fs::path &pfad) {
         if (fs::exists(teil) && (fs::status(teil).permissions() & schreiben) == fs::perms::none)
             throw Laufzeitfehler(Fehlerart::Datei);
     if (fs::is_directory(pfad)) throw Laufzeitfehler(Fehlerart::Datei);
-    if (fs::exists(pfad) && !std::ofstream(pfad, std::ios::binary | std::ios::app)) throw Laufzeitfehler(Fehlerart::Datei);
+    if (fs::exists(pfad) && !std::ofstream(pfad, std::ios::binary | std::ios::app))
+        throw Laufzeitfehler(Fehlerart::Datei);
 }
 
 } // namespace

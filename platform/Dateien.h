@@ -1,6 +1,6 @@
 #pragma once
-// Dateien des Programms: Pfade gelten in jeder Groß- und Kleinschreibung; ersetzt wird durch Danebenschreiben und Umbenennen.
-// Fehler sind Laufzeitfehler der Art Datei.
+// Dateien des Programms: Pfade gelten in jeder Groß- und Kleinschreibung; ersetzt wird durch Danebenschreiben und
+// Umbenennen. Fehler sind Laufzeitfehler der Art Datei.
 #include <filesystem>
 #include <string>
 

@@ -1,6 +1,6 @@
 #pragma once
-// Die Eingabe: welches Steuerelement ein Druck erreicht, entscheidet sich hier für alle Oberflächen. Orte sind Twips auf der
-// Anzeige.
+// Die Eingabe: welches Steuerelement ein Druck erreicht, entscheidet sich hier für alle Oberflächen. Orte sind Twips
+// auf der Anzeige.
 #include "platform/Control.h"
 
 #include <string>

@@ -17,8 +17,7 @@ void Form::setzeRegion(Region region) {
 }
 
 Control *Form::control(const std::string &name) const {
-    const auto hier =
-        std::find_if(controls.begin(), controls.end(), [&](const Control *c) { return name == c->Name; });
+    const auto hier = std::find_if(controls.begin(), controls.end(), [&](const Control *c) { return name == c->Name; });
     return hier == controls.end() ? nullptr : *hier;
 }
 

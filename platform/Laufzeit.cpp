@@ -35,8 +35,7 @@ Form *Laufzeit::geladene(const std::string &Name) const {
 
 Form &Laufzeit::lade(const std::string &Name) {
     if (Form *form = geladene(Name)) return *form;
-    const auto eintrag =
-        std::find_if(tafel.begin(), tafel.end(), [&](const Formeintrag &e) { return Name == e.Name; });
+    const auto eintrag = std::find_if(tafel.begin(), tafel.end(), [&](const Formeintrag &e) { return Name == e.Name; });
     if (eintrag == tafel.end()) throw std::logic_error("unbekannte Form " + Name);
     formen.insert(formen.begin(), eintrag->erzeuge(*this));
     Form &form = *formen.front();
@@ -72,13 +71,15 @@ void Laufzeit::entlade(const std::string &Name) {
 
 std::vector<Form *> Laufzeit::Formen() const {
     std::vector<Form *> alle;
-    for (const auto &form : formen) alle.push_back(form.get());
+    for (const auto &form : formen)
+        alle.push_back(form.get());
     std::stable_partition(alle.begin(), alle.end(), [](const Form *f) { return !f->Topmost(); });
     return alle;
 }
 
 void Laufzeit::warteBis(const std::function<bool()> &bedingung) {
-    while (!bedingung()) oberfläche.gibAb(Rast::BisEreignis);
+    while (!bedingung())
+        oberfläche.gibAb(Rast::BisEreignis);
 }
 
 void Laufzeit::Ende() { throw Programmende{}; }

@@ -1,5 +1,6 @@
 #pragma once
-// Die Laufzeit: die Liste der Formulare, der Zeitplan, das Abgeben der Schleife, die Anzeige. Ein Programm hat eine davon.
+// Die Laufzeit: die Liste der Formulare, der Zeitplan, das Abgeben der Schleife, die Anzeige. Ein Programm hat eine
+// davon.
 #include "platform/Eingabe.h"
 #include "platform/Form.h"
 #include "platform/Laufzeitfehler.h"
@@ -22,8 +23,8 @@ struct Formeintrag {
 
 /// Die Maße der Anzeige.
 struct Bildschirm {
-    double Width, Height;                           // Twips
-    double TwipsPerPixelX, TwipsPerPixelY;          // 1440 / DPI
+    double Width, Height;                  // Twips
+    double TwipsPerPixelX, TwipsPerPixelY; // 1440 / DPI
 };
 
 class Laufzeit {
@@ -35,7 +36,8 @@ class Laufzeit {
     Oberfläche &oberfläche;
     Eingabe eingabe{*this};
 
-    // Die Formulare. Jede Berührung lädt; Laden baut die Form und ruft Form_Load. Ein unbekannter Name ist ein logic_error.
+    // Die Formulare. Jede Berührung lädt; Laden baut die Form und ruft Form_Load. Ein unbekannter Name ist ein
+    // logic_error.
     bool kennt(const std::string &Name) const;
     Form *geladene(const std::string &Name) const;
     Form &lade(const std::string &Name);
@@ -79,7 +81,7 @@ class Laufzeit {
 
   private:
     std::span<const Formeintrag> tafel;
-    std::vector<std::unique_ptr<Form>> formen;   // von hinten nach vorn
+    std::vector<std::unique_ptr<Form>> formen;    // von hinten nach vorn
     std::vector<std::unique_ptr<Form>> entladene; // leben, bis keine Behandlung mehr läuft
     std::vector<Timer *> zeitplan;
     std::uint64_t nummern = 0;

@@ -1,6 +1,6 @@
 #pragma once
-// Laufzeitfehler: was das Programm beendet, wenn niemand es fängt. Keine Spielroutine fängt sie, außer denen, deren Regel
-// das Fangen von Dateifehlern verlangt.
+// Laufzeitfehler: was das Programm beendet, wenn niemand es fängt. Keine Spielroutine fängt sie, außer denen, deren
+// Regel das Fangen von Dateifehlern verlangt.
 #include <exception>
 #include <string>
 
@@ -10,7 +10,8 @@ enum class Fehlerart { Argument, Überlauf, Index, Typ, Datei };
 
 class Laufzeitfehler : public std::exception {
   public:
-    /// Ein Fehler der Art mit ihrer üblichen Nummer und Beschreibung; Datei heißt hier "Fehler beim Zugriff auf Pfad/Datei".
+    /// Ein Fehler der Art mit ihrer üblichen Nummer und Beschreibung; Datei heißt hier "Fehler beim Zugriff auf
+    /// Pfad/Datei".
     explicit Laufzeitfehler(Fehlerart art);
     static Laufzeitfehler dateiFehlt();
     static Laufzeitfehler dateiende();

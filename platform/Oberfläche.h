@@ -1,6 +1,6 @@
 #pragma once
-// Was eine Oberfläche leistet: Uhr und Schleife, Anzeige, Ton, Fragen an den Spieler. Sie zeichnet den Zustand der Formulare
-// und reicht Eingaben an platform/Eingabe.h weiter; sie entscheidet nichts.
+// Was eine Oberfläche leistet: Uhr und Schleife, Anzeige, Ton, Fragen an den Spieler. Sie zeichnet den Zustand der
+// Formulare und reicht Eingaben an platform/Eingabe.h weiter; sie entscheidet nichts.
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -25,7 +25,8 @@ struct Anzeige {
 
 enum class Befehl { Open, Play, Close };
 
-/// Wie lange ein Abgeben der Schleife ruht, wenn nichts fällig ist: gezählt höchstens 1 ms, sonst bis zum nächsten Ereignis.
+/// Wie lange ein Abgeben der Schleife ruht, wenn nichts fällig ist: gezählt höchstens 1 ms, sonst bis zum nächsten
+/// Ereignis.
 enum class Rast { Gezählt, BisEreignis };
 
 class Oberfläche {
@@ -40,7 +41,8 @@ class Oberfläche {
     virtual Zeit kürzesterTakt() const = 0;
     /// Bearbeitet, was fällig ist; ist nichts fällig, ruht sie nach der Art der Rast.
     virtual void gibAb(Rast) = 0;
-    /// Zeigt den Stand mitten in einer Schleife: die Form oder das Steuerelement hat sich bewegt und soll dafür ms brauchen.
+    /// Zeigt den Stand mitten in einer Schleife: die Form oder das Steuerelement hat sich bewegt und soll dafür ms
+    /// brauchen.
     virtual void zeigeSchritt(const Form &, double ms) = 0;
     virtual void zeigeSchritt(const Control &, double ms) = 0;
 

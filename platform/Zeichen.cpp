@@ -11,10 +11,10 @@ namespace velmo {
 namespace {
 
 // Die Stellen 0x80 bis 0x9F; die fünf unbesetzten stehen für sich selbst.
-constexpr std::array<char32_t, 32> Obere = {
-    0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
+constexpr std::array<char32_t, 32> Obere = {0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                            0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D,   0x017D, 0x8F,
+                                            0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                            0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
 
 bool beginntZeichen(char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }
 
@@ -68,7 +68,8 @@ std::string nachWindows1252(std::string_view text) {
     for (std::size_t i = 0; i < text.size();) {
         const auto b = static_cast<unsigned char>(text[i++]);
         char32_t z = b < 0x80 ? b : b < 0xE0 ? b & 0x1F : b < 0xF0 ? b & 0x0F : b & 0x07;
-        while (i < text.size() && !beginntZeichen(text[i])) z = z << 6 | (static_cast<unsigned char>(text[i++]) & 0x3F);
+        while (i < text.size() && !beginntZeichen(text[i]))
+            z = z << 6 | (static_cast<unsigned char>(text[i++]) & 0x3F);
         const auto oben = std::find(Obere.begin(), Obere.end(), z);
         if (oben != Obere.end())
             bytes += static_cast<char>(0x80 + (oben - Obere.begin()));
