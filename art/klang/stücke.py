@@ -1,0 +1,6 @@
+"""Die Stücke des Spiels in der Reihenfolge ihrer Dateien."""
+from noten import s1, s2
+
+
+def alle():
+    return [blatt.stück() for blatt in (s1, s2)]
