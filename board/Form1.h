@@ -1,5 +1,5 @@
 #pragma once
-// Das Brett im Spiel: der Zug, die Würfel, die Knöpfe.
+// Das Brett im Spiel: seine Behandlungen rufen die Regeln der Räume.
 #include "model/Brett.h"
 
 namespace velmo {
@@ -9,8 +9,19 @@ class Form1 : public Brett {
     explicit Form1(Programm &);
 
     void Form_Load() override;
+    void Form_Unload() override;
 
   private:
+    void verbindeKnöpfe();
+    void verbindeZeitgeber();
+    void verbindeStapel();
+    void verbindeBrettbild();
+
+    void Form_MouseMove();
+    void Form_Click();
+    void Label1_MouseDown(Maustaste);
+    void zeigeAutoinfo(Autokürzel, double X, double Y);
+
     Programm &p;
 };
 

@@ -69,6 +69,9 @@ class Brett : public Form {
     MMControl Trommel{*this, "Trommel"};
     MMControl Kasse{*this, "Kasse"};
 
+    /// Bei 96 DPI gelten die großen Feldorte; entschieden wird beim Laden.
+    bool GroßesBrett = false;
+
     /// Die Bilder der Tafeln auf dem Brett.
     Image &Platzbild(int eingang);
     Image &Autobild(Autokürzel);

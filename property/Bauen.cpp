@@ -4,5 +4,6 @@ namespace velmo {
 
 void Baudurchführung(Programm &) {}
 void Hochbauen(Programm &, const std::string &) {}
+void BauTimer_Timer(Programm &) {}
 
 } // namespace velmo

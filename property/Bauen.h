@@ -9,5 +9,7 @@ namespace velmo {
 void Baudurchführung(Programm &);
 /// Lässt das Gebäude Baubild steigen; der Text "comp" heißt, ein Computer baut.
 void Hochbauen(Programm &, const std::string &Text);
+/// Ein Takt des Zeitgebers BauTimer: das Gebäude steigt ein Stück.
+void BauTimer_Timer(Programm &);
 
 } // namespace velmo

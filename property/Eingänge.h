@@ -11,5 +11,10 @@ void Eingangsanzeige(Programm &, const std::string &Text);
 void Eingangsauffrischung(Programm &, Flagge nachKauf);
 /// Hebt den Knopf "Eingänge Kaufen" hervor, wenn der Mensch Hotels hat, oder nimmt die Hervorhebung zurück.
 void Eingangsknopf(Programm &, Flagge);
+/// Der gelbe Eingang wird über den Platz gezogen, auf ihm abgelegt.
+void PlatzDragOver(Programm &, int Platz, Ziehzustand);
+void PlatzDragDrop(Programm &, int Platz);
+/// Ein Takt des Zeitgebers pfeilTimer: der Pfeil blinkt.
+void pfeilTimer_Timer(Programm &);
 
 } // namespace velmo
