@@ -1,7 +1,44 @@
 #include "computer/Bauphase.h"
 
+#include "assistant/Ansagen.h"
+#include "computer/Computer.h"
+#include "property/Bauen.h"
+
 namespace velmo {
 
-void kibauphase(Programm &) {}
+namespace {
+
+using H = Hotelkürzel;
+
+constexpr H Reihenfolge[] = {H::p, H::l, H::w, H::r, H::f, H::b, H::s, H::t};
+
+/// Die erste Stufe, die nicht steht, während die davor steht; das Hauptgebäude braucht nichts davor.
+const Stufe *nächsteStufe(const Spielzustand &z, H k) {
+    bool davor = true;
+    for (const Stufe &s : Stufen) {
+        if (s.Hotel != k) continue;
+        const bool da = steht(z, k, s.Stand);
+        if (davor && !da) return &s;
+        davor = da;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+void kibauphase(Programm &p) {
+    Spielzustand &z = p.Zustand;
+    const auto computer = handelnder(z);
+    if (!computer) return;
+    for (const H k : Reihenfolge) {
+        const Stufe *s = gehört(z, k, *computer) ? nächsteStufe(z, k) : nullptr;
+        if (!s) continue;
+        z.Baubild = s->Bild;
+        Hochbauen(p, "");
+        z.Hotels[k].Baustufen[s->Stand] = "true";
+        Ansagen(p, "Der Computer bekommt eine Bauphase gratis!", 0);
+        return;
+    }
+}
 
 } // namespace velmo
