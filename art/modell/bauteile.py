@@ -10,7 +10,7 @@ import bmesh
 from mathutils import Matrix, Vector
 
 from kasten import (_objekt, _netz_aus, als_stoff, aus_bmesh, band, bei, drehkörper, gemeinsam, glas, heller,
-                    holz, kugel, lack, lage, metall, prisma, putz, quader, rohr, schrift, stoff, wasser, ziegel,
+                    holz, kugel, lack, lage, metall, prisma, putz, quader, rahmen, rohr, schrift, stoff, wasser, ziegel,
                     zylinder, keil, stein, laub)
 
 DREHUNG = {"s": 0, "o": 90, "n": 180, "w": 270}
@@ -335,8 +335,6 @@ def schildtafel(text, x, y, z=0.0, b=None, höhe=3.2, tafel="holz", farbe="weiss
         for s in (-1, 1):
             quader(s * b * .36, .5, 0, .9, .9, pfosten + höhe, "dunkelholz", .2)
         kipp = Matrix.Rotation(math.radians(-neigung), 4, "X")
-        import kasten
-        kasten._ORT.append(kasten._ORT[-1] @ Matrix.Translation((0, -.3, pfosten)) @ kipp)
-        quader(0, 0, 0, b, .9, höhe * 1.75, holz(tafel) if isinstance(tafel, str) else tafel, .3)
-        schrift(text, 0, -.5, höhe * .9, höhe, farbe, dick=.12)
-        kasten._ORT.pop()
+        with rahmen(Matrix.Translation((0, -.3, pfosten)) @ kipp):
+            quader(0, 0, 0, b, .9, höhe * 1.75, holz(tafel) if isinstance(tafel, str) else tafel, .3)
+            schrift(text, 0, -.5, höhe * .9, höhe, farbe, dick=.12)

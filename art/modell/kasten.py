@@ -104,10 +104,11 @@ def schattengrund(z=0.0):
 
 
 def rendere(datei, links, oben, breite, höhe, fein=FEIN, proben=96, durchsichtig=True,
-            rand=4.0, güte=90):
+            rand=4.0, güte=90, mitte=None):
     """Zeichnet das Rechteck des Brettes (Entwurfspunkte) nach `datei` (.png oder .jpg).
 
-    `rand`: so viele Punkte vor dem Bildrand läuft ein freier Schatten weich aus."""
+    `rand`: so viele Punkte vor dem Bildrand läuft ein freier Schatten weich aus. `mitte`: Raumpunkt
+    der Bildmitte, wenn die Kamera anders gedreht ist als auf dem Brett."""
     szene = bpy.context.scene
     r = szene.render
     r.resolution_x, r.resolution_y = round(breite * fein), round(höhe * fein)
@@ -115,8 +116,8 @@ def rendere(datei, links, oben, breite, höhe, fein=FEIN, proben=96, durchsichti
     szene.cycles.samples = proben
     kamera = szene.camera
     kamera.data.ortho_scale = max(breite, höhe)
-    blick = Vector((0, 1, -1)).normalized()
-    kamera.location = welt(links + breite / 2, oben + höhe / 2) - blick * 1500
+    blick = kamera.rotation_euler.to_matrix() @ Vector((0, 0, -1))
+    kamera.location = (mitte or welt(links + breite / 2, oben + höhe / 2)) - blick * 1500
     os.makedirs(os.path.dirname(os.path.abspath(datei)), exist_ok=True)
     roh = datei if datei.endswith(".png") else datei + ".roh.png"
     r.filepath = roh
@@ -177,6 +178,16 @@ def bei(x=0.0, y=0.0, z=0.0, drehung=0.0, mass=1.0):
 def am_brett(x, y, z=0.0, drehung=0.0, mass=1.0):
     """Wie `bei`, der Ort als Entwurfspunkt des Brettes."""
     return bei(*welt(x, y, z), drehung=drehung, mass=mass)
+
+
+@contextmanager
+def rahmen(matrix):
+    """Wie `bei`, für eine beliebige Lage."""
+    _ORT.append(_ORT[-1] @ matrix)
+    try:
+        yield
+    finally:
+        _ORT.pop()
 
 
 def lage(x=0.0, y=0.0, z=0.0, drehung=0.0, mass=1.0):
