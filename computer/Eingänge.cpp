@@ -116,10 +116,9 @@ class Eingangssuche {
             Folgen, [&](const Folge &f) { return f.Hotel == hotel && (!f.Rivale || fremd(*f.Rivale)); });
         for (const int feld : folge->Felder) {
             if (feld == 0) break;
-            const auto platz = std::ranges::find_if(
-                Eingangsplätze, [&](const Eingangsplatz &e) { return e.Hotel == hotel && e.Feld == feld; });
+            const Eingangsplatz *platz = eingangsplatzVon(hotel, feld);
             // Zwei Eingänge liegen sich nie gegenüber.
-            if (!z.Eingang[platz->Nummer] && !(platz->Gegenüber && z.Eingang[platz->Gegenüber])) return &*platz;
+            if (!z.Eingang[platz->Nummer] && !(platz->Gegenüber && z.Eingang[platz->Gegenüber])) return platz;
         }
         return nullptr;
     }

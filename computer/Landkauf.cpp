@@ -14,9 +14,9 @@ namespace {
 
 using H = Hotelkürzel;
 
-/// Die Münze vor einem Kauf. Fällt eine gegen ihn, endet die ganze Überlegung; nur der Kaufwurf und die Achtelmünze
+/// Die Münze vor einem Kauf. Fällt eine gegen ihn, endet die ganze Überlegung; nur der Kaufwurf und eine aus acht
 /// beenden bloß ihre Zeile.
-enum class Münze { Keine, Viertel, Sechstel, Achtel, Kaufwurf };
+enum class Münze { Keine, VierAusFünf, EineAusSechs, EineAusAcht, Kaufwurf };
 
 /// Wann ein besetztes Grundstück mit Zwang genommen wird.
 enum class Zwang {
@@ -41,35 +41,35 @@ struct Kaufzeile {
 
 // clang-format off
 constexpr Kaufzeile StapelA[] = { // noch kein Hotel
-    // Hotel nicht eigen          Gruppe  Schwelle Vorab            nur o. G1  frei ab Münze           Preis  besetzt
-    {H::b, {H::f},                0, 0,    600, Münze::Keine,       false,        0, Münze::Keine,      500, Zwang::Sofort},
-    {H::p, {H::r},                0, 0,   4500, Münze::Keine,       false,        0, Münze::Kaufwurf,  3500, Zwang::Sofort},
-    {H::l, {},                    0, 0,   3900, Münze::Keine,       false,        0, Münze::Keine,     3000, Zwang::Sofort},
-    {H::w, {H::r},                0, 0,   2500, Münze::Keine,       false,        0, Münze::Viertel,   2500, Zwang::Sofort},
-    {H::r, {H::w},                0, 0,   2500, Münze::Keine,       false,        0, Münze::Viertel,   2500, Zwang::Sofort},
-    {H::f, {H::b},                0, 0,   1000, Münze::Keine,       false,        0, Münze::Viertel,   1000, Zwang::Sofort},
-    {H::s, {},                    0, 0,   2000, Münze::Sechstel,    false,        0, Münze::Keine,     2000, Zwang::MitMünze},
-    {H::t, {},                    0, 0,   1500, Münze::Sechstel,    false,        0, Münze::Keine,     1500, Zwang::NachSafari},
+    // Hotel nicht eigen     Gruppe Schwelle vorab           nur o. G1  frei ab  Münze          Preis  besetzt
+    {H::b, {H::f},                0, 0,   600, Münze::Keine,        false,     0, Münze::Keine,         500, Zwang::Sofort},
+    {H::p, {H::r},                0, 0,  4500, Münze::Keine,        false,     0, Münze::Kaufwurf,     3500, Zwang::Sofort},
+    {H::l, {},                    0, 0,  3900, Münze::Keine,        false,     0, Münze::Keine,        3000, Zwang::Sofort},
+    {H::w, {H::r},                0, 0,  2500, Münze::Keine,        false,     0, Münze::VierAusFünf,  2500, Zwang::Sofort},
+    {H::r, {H::w},                0, 0,  2500, Münze::Keine,        false,     0, Münze::VierAusFünf,  2500, Zwang::Sofort},
+    {H::f, {H::b},                0, 0,  1000, Münze::Keine,        false,     0, Münze::VierAusFünf,  1000, Zwang::Sofort},
+    {H::s, {},                    0, 0,  2000, Münze::EineAusSechs, false,     0, Münze::Keine,        2000, Zwang::MitMünze},
+    {H::t, {},                    0, 0,  1500, Münze::EineAusSechs, false,     0, Münze::Keine,        1500, Zwang::NachSafari},
 };
 
 constexpr Kaufzeile StapelB[] = { // ein Hotel
-    {H::b, {H::f},                0, 0,   1000, Münze::Keine,       true,         0, Münze::Keine,      500, Zwang::Sofort},
-    {H::p, {H::r},                0, 0,   5000, Münze::Keine,       true,         0, Münze::Kaufwurf,  3500, Zwang::Sofort},
-    {H::l, {H::t},                0, 0,   3000, Münze::Keine,       true,         0, Münze::Keine,     3000, Zwang::Sofort},
-    {H::w, {H::r, H::w},          2, 2,      0, Münze::Keine,       false,     5000, Münze::Keine,     2500, Zwang::MitMünze},
-    {H::r, {H::p, H::w, H::r},    2, 2,      0, Münze::Keine,       false,     5000, Münze::Keine,     2500, Zwang::MitMünze},
-    {H::f, {H::b, H::f},          2, 2,      0, Münze::Keine,       false,     1000, Münze::Keine,     2100, Zwang::MitMünze},
-    {H::s, {},                    3, 1,   4000, Münze::Keine,       false,        0, Münze::Keine,     2000, Zwang::MitMünze},
-    {H::t, {H::l},                3, 1,   3000, Münze::Keine,       false,        0, Münze::Keine,     1500, Zwang::NachSafari},
+    {H::b, {H::f},                0, 0,  1000, Münze::Keine,        true,      0, Münze::Keine,         500, Zwang::Sofort},
+    {H::p, {H::r},                0, 0,  5000, Münze::Keine,        true,      0, Münze::Kaufwurf,     3500, Zwang::Sofort},
+    {H::l, {H::t},                0, 0,  3000, Münze::Keine,        true,      0, Münze::Keine,        3000, Zwang::Sofort},
+    {H::w, {H::r, H::w},          2, 2,     0, Münze::Keine,        false,  5000, Münze::Keine,        2500, Zwang::MitMünze},
+    {H::r, {H::p, H::w, H::r},    2, 2,     0, Münze::Keine,        false,  5000, Münze::Keine,        2500, Zwang::MitMünze},
+    {H::f, {H::b, H::f},          2, 2,     0, Münze::Keine,        false,  1000, Münze::Keine,        2100, Zwang::MitMünze},
+    {H::s, {},                    3, 1,  4000, Münze::Keine,        false,     0, Münze::Keine,        2000, Zwang::MitMünze},
+    {H::t, {H::l},                3, 1,  3000, Münze::Keine,        false,     0, Münze::Keine,        1500, Zwang::NachSafari},
 };
 
 constexpr Kaufzeile StapelC[] = { // zwei oder mehr, ab der fünften Runde des Menschen
-    {H::b, {H::f},                1, 3,   1100, Münze::Keine,       false,        0, Münze::Keine,      500, Zwang::Nie},
-    {H::p, {H::r},                1, 3,   6000, Münze::Keine,       false,        0, Münze::Keine,     3500, Zwang::Nie},
-    {H::l, {H::t},                1, 3,   5500, Münze::Keine,       false,        0, Münze::Keine,     3000, Zwang::Nie},
-    {H::w, {H::r},                2, 4,   5000, Münze::Keine,       false,        0, Münze::Achtel,    2500, Zwang::Nie},
-    {H::r, {H::p, H::w},          2, 4,   4000, Münze::Keine,       false,        0, Münze::Achtel,    2500, Zwang::Nie},
-    {H::f, {H::b},                2, 4,   3000, Münze::Keine,       false,        0, Münze::Achtel,    1000, Zwang::Nie},
+    {H::b, {H::f},                1, 3,  1100, Münze::Keine,        false,     0, Münze::Keine,         500, Zwang::Nie},
+    {H::p, {H::r},                1, 3,  6000, Münze::Keine,        false,     0, Münze::Keine,        3500, Zwang::Nie},
+    {H::l, {H::t},                1, 3,  5500, Münze::Keine,        false,     0, Münze::Keine,        3000, Zwang::Nie},
+    {H::w, {H::r},                2, 4,  5000, Münze::Keine,        false,     0, Münze::EineAusAcht,  2500, Zwang::Nie},
+    {H::r, {H::p, H::w},          2, 4,  4000, Münze::Keine,        false,     0, Münze::EineAusAcht,  2500, Zwang::Nie},
+    {H::f, {H::b},                2, 4,  3000, Münze::Keine,        false,     0, Münze::EineAusAcht,  1000, Zwang::Nie},
 };
 
 struct Siedlung {
@@ -161,7 +161,7 @@ class Landkauf {
 
     bool kaufeFreies(const Kaufzeile &zeile) {
         if (z.Arbeitsgeld.Zahl() < zeile.Freischwelle) return false;
-        if (!fällt(zeile.Frei)) return zeile.Frei == Münze::Kaufwurf || zeile.Frei == Münze::Achtel;
+        if (!fällt(zeile.Frei)) return zeile.Frei == Münze::Kaufwurf || zeile.Frei == Münze::EineAusAcht;
         z.Arbeitsgeld -= zeile.Preis;
         übernimm(zeile, siedlung(zeile.Hotel).Meldung);
         return true;
@@ -175,7 +175,7 @@ class Landkauf {
             return true;
         }
         if (eigen(zeile.Hotel)) return true;
-        if (zeile.Besetzt != Zwang::Sofort && !fällt(Münze::Viertel)) return false;
+        if (zeile.Besetzt != Zwang::Sofort && !fällt(Münze::VierAusFünf)) return false;
         Zwangsverkauf(p, s.Zwangspreis, z.Hotels[zeile.Hotel].Besitzer, s.Schlüssel);
         übernimm(zeile, s.Zwangsmeldung);
         return true;
@@ -194,13 +194,13 @@ class Landkauf {
         switch (münze) {
         case Münze::Keine:
             return true;
-        case Münze::Viertel:
+        case Münze::VierAusFünf:
             Zufallsentscheid(p, 2);
             return z.Zufallsmerker;
-        case Münze::Sechstel:
+        case Münze::EineAusSechs:
             Zufallsentscheid(p, 3);
             return z.Zufallsmerker;
-        case Münze::Achtel:
+        case Münze::EineAusAcht:
             Zufallsentscheid(p, 0);
             return z.Zufallsmerker;
         case Münze::Kaufwurf: {

@@ -84,6 +84,13 @@ constexpr const Eingangsplatz &eingangsplatz(int nummer) {
     return Eingangsplätze[static_cast<std::size_t>(nummer - 2)];
 }
 
+/// Der Platz des Hotels an diesem Feld; null, wenn es dort keinen hat.
+constexpr const Eingangsplatz *eingangsplatzVon(Hotelkürzel hotel, int feld) {
+    for (const Eingangsplatz &platz : Eingangsplätze)
+        if (platz.Hotel == hotel && platz.Feld == feld) return &platz;
+    return nullptr;
+}
+
 static_assert(std::all_of(Eingangsplätze.begin(), Eingangsplätze.end(), [](const Eingangsplatz &p) {
     return eingangsplatz(p.Nummer).Control == p.Control &&
            (p.Gegenüber == 0 ||

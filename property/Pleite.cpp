@@ -1,8 +1,135 @@
 #include "property/Pleite.h"
 
+#include "assistant/Ansagen.h"
+#include "model/Brett.h"
+#include "model/Geld.h"
+#include "property/Eingänge.h"
+
+#include <algorithm>
+#include <array>
+
 namespace velmo {
 
-void Pleitegehen(Programm &, const std::string &, Kurz, const std::string &) {}
-void Zwangsverkauf(Programm &, int, const Hotelbesitzer &, const std::string &) {}
+namespace {
+
+using H = Hotelkürzel;
+
+constexpr std::array Freigabe = {H::b, H::p, H::l, H::w, H::r, H::t, H::f, H::s};
+
+// Boomerangs Freigabe reicht mit Absicht einen Platz zu weit: auch Fujijamas Platz an Feld 4 wird frei.
+constexpr struct {
+    H Hotel;
+    int Platz;
+} Mitgerissen = {H::b, 39};
+
+constexpr const char *Verloren = "Verloren";
+
+/// Ein Steuerelement der Form, die den Ruin meldet; der Spieler kann sie während des Satzes geschlossen haben.
+template <class C> C &aufVerloren(Programm &p, const char *name) {
+    return dynamic_cast<C &>(*p.lade(Verloren).control(name));
+}
+
+void nimmAusDemSpiel(Programm &p, const Autobesitzer &fahrer) {
+    const auto wagen =
+        std::ranges::find_if(AlleAutos, [&](Autokürzel k) { return p.Zustand.Autos[k].Autobesitzer == fahrer; });
+    if (wagen == AlleAutos.end()) return;
+    p.Zustand.Autos[*wagen].Autobesitzer = Autobesitzer("pleite");
+    brett(p).Autobild(*wagen).Visible = false;
+}
+
+void gibFrei(Programm &p, H k) {
+    Spielzustand &z = p.Zustand;
+    Brett &b = brett(p);
+    Hoteldaten &h = z.Hotels[k];
+    b.Schild(k).Caption = "";
+    h.Besitzer = {};
+    h.Baustufen = {};
+    // Nur die Plätze werden frei; die Namen ihrer Besitzer bleiben stehen.
+    for (const Eingangsplatz &platz : Eingangsplätze)
+        if (platz.Hotel == k || (k == Mitgerissen.Hotel && platz.Nummer == Mitgerissen.Platz))
+            z.Eingang[platz.Nummer] = false;
+    for (const Stufe &s : Stufen)
+        if (s.Hotel == k) b.Gebäude(k, s.Stand).Visible = false;
+    h.Vollmerker = false;
+    h.Eingangszahl = 0;
+}
+
+void ruiniereComputer(Programm &p, const std::string &wer, int summe) {
+    Spielzustand &z = p.Zustand;
+    p.lade(Verloren);
+    nimmAusDemSpiel(p, Autobesitzer("c" + wer));
+    for (const H k : Freigabe)
+        if (z.Hotels[k].Besitzer == Hotelbesitzer("c" + wer)) gibFrei(p, k);
+    Eingangsauffrischung(p, false);
+    z.Verlierermerker = wer;
+    z.Siegmerker = z.Gegnerzahl == 1;
+    z.Gegnerzahl -= 1;
+    Ansagen(p, "Er konnte nicht eimal die Summe von " + std::to_string(summe) + " Bezahlen!", 10);
+    aufVerloren<Label>(p, "Label1").Caption = "Der Computer " + z.Verlierermerker + " hat Verloren!";
+    p.zeige(Verloren);
+}
+
+void ruiniereMensch(Programm &p, int summe) {
+    p.lade(Verloren);
+    p.Zustand.Verlierermerker = "Spieler";
+    Ansagen(p, "Sie konnten nicht einmal die Summe von " + std::to_string(summe) + " Bezahlen!", 0);
+    aufVerloren<Label>(p, "Label1").Caption = "Sie haben Verloren!";
+    aufVerloren<SSCommand>(p, "SSCommand1").Visible = false; // niemand lacht ihn aus
+    p.zeige(Verloren);
+}
+
+struct Verkaufszeile {
+    const char *Schlüssel;
+    H Hotel;
+};
+
+constexpr Verkaufszeile Verkaufstafel[] = {
+    {"Boomrang", H::b}, {"President", H::p}, {"Etoile", H::l}, {"Waikiki", H::w},
+    {"Royal", H::r},    {"Fujijama", H::f},  {"Safari", H::s}, {"Taj", H::t},
+};
+
+/// Nimmt den Schlüssel aus der Liste; was an die leere Stelle nachrückt, wird nicht noch einmal verglichen.
+void streicheAusListe(Spielzustand &z, const std::string &schlüssel) {
+    for (int i = 1; i <= 8; ++i) {
+        if (z.Hotelliste[i] != schlüssel) continue;
+        for (int j = i; j < 8; ++j)
+            z.Hotelliste[j] = z.Hotelliste[j + 1];
+        z.Hotelliste[8] = "";
+    }
+}
+
+/// Der Computer, den der Verkäufer nennt: "c1" genau, sonst nach der letzten Ziffer 2 oder 3.
+int verkaufenderComputer(const Hotelbesitzer &verkäufer) {
+    if (verkäufer.Text() == "c1") return 1;
+    return verkäufer.letztes() == "2" ? 2 : verkäufer.letztes() == "3" ? 3 : 0;
+}
+
+} // namespace
+
+void Pleitegehen(Programm &p, const std::string &Wer, Kurz Summe, const std::string &) {
+    if (Wer == Spieler.Text())
+        ruiniereMensch(p, Summe);
+    else
+        ruiniereComputer(p, Wer, Summe);
+}
+
+void Zwangsverkauf(Programm &p, int Betrag, const Hotelbesitzer &Verkäufer, const std::string &Schlüssel) {
+    Spielzustand &z = p.Zustand;
+    const std::string aktiv = z.Aktivcomputer.Text();
+    const std::string käufer = aktiv.empty() ? "" : aktiv.substr(aktiv.size() - 1);
+    for (const Verkaufszeile &zeile : Verkaufstafel)
+        if (zeile.Schlüssel == Schlüssel) brett(p).Schild(zeile.Hotel).Caption = "Computer " + käufer;
+    z.Arbeitsgeld -= Betrag;
+    const std::string schluss =
+        " Grundstück an Computer " + käufer + " verloren. Er muss nur " + std::to_string(Betrag) + " DM Bezahlen!";
+    if (const int computer = verkaufenderComputer(Verkäufer)) {
+        z.Computergeld[computer] += Betrag;
+        Ansagen(p, "Der Computer " + std::to_string(computer) + " hat aufgrund von Zwangsverkauf sein" + schluss, 1);
+    } else if (Verkäufer == Mensch) {
+        Ansagen(p, "Sie haben aufgrund von Zwangsverkauf ihr" + schluss, 1);
+        Geldbuchen(p, Betrag, true);
+        streicheAusListe(z, Schlüssel);
+    }
+}
 
 } // namespace velmo

@@ -1,0 +1,91 @@
+#include "shell/Gewinn.h"
+
+#include "media/Bilder.h"
+#include "model/Brett.h"
+#include "model/Spielbeginn.h"
+#include "platform/FormAnpassen.h"
+#include "shell/Bestenliste.h"
+#include "shell/Punkte.h"
+
+namespace velmo {
+
+namespace {
+
+constexpr Farbe Weiß{0xFFFFFF};
+
+} // namespace
+
+Gewinn::Gewinn(Programm &programm) : Form(programm, Formname, {0, 0, 12288, 9216}), p(programm) {
+    BackColor = Farbe{0x000000};
+    Label1.FontName = "Comic Sans MS";
+    Label1.FontSize = 24;
+    Label1.ForeColor = Weiß;
+    Label3.FontSize = 12;
+    Label3.Alignment = static_cast<double>(Ausrichtung::Mitte);
+    SSCommand1.Click = [this] { SSCommand1_Click(); };
+    SSCommand2.Click = [this] { SSCommand2_Click(); };
+    Timer1.Tick = [this] { Timer1_Timer(); };
+    Timer2.Tick = [this] { feuerwerk.starte(p); };
+    Entwurfsbilder(p, *this);
+}
+
+void Gewinn::Form_Load() {
+    if (p.Zustand.KleineSchrift) FormAnpassen(*this, 2);
+    Punkte = Siegpunkte(p);
+    fülleAnzeige();
+    trageEin(p, Punkte);
+    beginneMusik();
+    Label3.Caption = p.Zustand.Spielername + "   " + std::to_string(Punkte) + " Punkte";
+    Image1.Picture = p.Zustand.Spielerbild;
+    brett(p).Enabled = false;
+    Timer1.Interval = 10;
+    Timer2.Interval = 200;
+    feuerwerk.Winkelstreuung = 5;
+    feuerwerk.Fallstreuung = 60;
+    feuerwerk.Tempostreuung = 30;
+    feuerwerk.Teilchengröße = 30;
+}
+
+void Gewinn::Form_Unload() {
+    brett(p).Enabled = true;
+    MMControl1.Command(Befehl::Close);
+}
+
+void Gewinn::eigeneWerte(const Namensempfänger &e) {
+    e("Punkte", {[this] { return alsWert(Punkte); }, [this](const Wert &w) { ausWert(w, Punkte); }});
+    feuerwerk.eigeneWerte(e);
+}
+
+void Gewinn::fülleAnzeige() {
+    Left = 0;
+    Top = 0;
+    feuerwerk.ScaleWidth = Width = p.Screen().Width;
+    feuerwerk.ScaleHeight = Height = p.Screen().Height;
+}
+
+void Gewinn::beginneMusik() {
+    MMControl1.FileName = p.Zustand.Programmpfad + "/sound/win.mid";
+    brett(p).MMControl1.Command(Befehl::Close);
+    MMControl1.Command(Befehl::Open);
+    MMControl1.Command(Befehl::Play);
+}
+
+void Gewinn::SSCommand1_Click() {
+    p.entlade(Brett::Formname);
+    p.zeige("Menu");
+    SpielZurücksetzen(p.Zustand);
+    p.entlade(Formname);
+}
+
+void Gewinn::SSCommand2_Click() {
+    const bool zumFeuerwerk = SSCommand2.Caption() == "Feuerwerk";
+    SSCommand2.Caption = zumFeuerwerk ? "Pokal" : "Feuerwerk";
+    Picture1.Visible = !zumFeuerwerk;
+}
+
+void Gewinn::Timer1_Timer() {
+    feuerwerk.bewege(p);
+    geändert();
+}
+
+} // namespace velmo
