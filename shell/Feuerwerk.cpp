@@ -17,7 +17,8 @@ int gerundet(double zahl) { return static_cast<int>(std::nearbyint(zahl)); }
 std::array<int, 3> zieheFarbe(Laufzeit &l) {
     std::array<int, 3> farbe;
     do
-        for (int &teil : farbe) teil = l.Zufallszahl(128) + 128;
+        for (int &teil : farbe)
+            teil = l.Zufallszahl(128) + 128;
     while (std::abs(farbe[0] - farbe[1]) < 30 && std::abs(farbe[1] - farbe[2]) < 30 &&
            std::abs(farbe[0] - farbe[2]) < 30);
     return farbe;
@@ -59,7 +60,8 @@ void Feuerwerk::falle(Teilchen &t) {
     t.Tempo += 7;
     t.Aktiv = t.Tempo < 81;
     if (!t.Aktiv) return;
-    for (int &teil : t.Farbe) teil = gerundet((80 - t.Tempo) * teil / 80.0);
+    for (int &teil : t.Farbe)
+        teil = gerundet((80 - t.Tempo) * teil / 80.0);
     male(t, Teilchengröße);
 }
 
@@ -92,7 +94,8 @@ void Feuerwerk::eigeneWerte(const Namensempfänger &e) {
         feld("Tempo(" + n + ")", teilchen[i].Tempo);
         feld("PosX(" + n + ")", teilchen[i].PosX);
         feld("PosY(" + n + ")", teilchen[i].PosY);
-        for (std::size_t k = 0; k < 3; ++k) feld("Farbe(" + n + "," + std::to_string(k) + ")", teilchen[i].Farbe[k]);
+        for (std::size_t k = 0; k < 3; ++k)
+            feld("Farbe(" + n + "," + std::to_string(k) + ")", teilchen[i].Farbe[k]);
     }
 }
 

@@ -14,8 +14,8 @@ class Gewinn : public Form {
 
     Label Label1{*this, "Label1", {0, 0, 5772, 732}, "SIE HABEN GEWONNEN!"};
     PictureBox Picture1{*this, "Picture1", {1920, 1680, 6012, 5632}}; // der Pokal, mit Bild und Namen des Siegers
-    Image Image1{Picture1, "Image1", {2880, 1440, 1128, 1200}};
-    Shape Shape1{Picture1, "Shape1", {2880, 1440, 1152, 1200}};
+    Image Image1{Picture1, "Image1", {4800, 3120, 1128, 1200}};
+    Shape Shape1{Picture1, "Shape1", {4800, 3120, 1152, 1200}};
     Label Label3{Picture1, "Label3", {1680, 4920, 2532, 372}};
     velmo::SSCommand SSCommand2{*this, "SSCommand2", {6960, 6600, 852, 492}, "Feuerwerk"};
     velmo::SSCommand SSCommand1{*this, "SSCommand1", {2040, 6720, 732, 492}, "Menü"};

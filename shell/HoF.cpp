@@ -21,8 +21,10 @@ HoF::HoF(Programm &programm) : Form(programm, Formname, {0, 0, 9600, 7428}), p(p
     Label3.FontName = "Bookman Old Style";
     Label3.FontSize = 24;
     Label3.Alignment = static_cast<double>(Ausrichtung::Mitte);
-    for (Label *label : {&Label3, &Namending, &Zahlending}) label->ForeColor = Weiß;
-    for (Label *label : {&Namending, &Zahlending}) label->FontSize = 18;
+    for (Label *label : {&Label3, &Namending, &Zahlending})
+        label->ForeColor = Weiß;
+    for (Label *label : {&Namending, &Zahlending})
+        label->FontSize = 18;
     SSCommand1.Click = [this] { p.entlade(Formname); };
     Entwurfsbilder(p, *this);
 }
