@@ -1,9 +1,53 @@
 #pragma once
-// Eingänge am Weg: Anzeige der Plätze, Auffrischung, der Knopf auf dem Brett.
+// Eingänge am Weg: was der Mensch an jedem Hotel setzen kann, Anzeige der Plätze, das Ziehen, die Auffrischung, der
+// Knopf auf dem Brett.
 #include "include/Programm.h"
+#include "model/Eingangstafel.h"
+
+#include <array>
+#include <span>
 #include <string>
 
 namespace velmo {
+
+struct Hoteleingang {
+    Hotelkürzel Hotel;
+    const char *Text;
+    int Mindestgeld;           // DM, die der Mensch am Knopf haben muss
+    std::array<int, 10> Folge; // die Plätze in der Folge der Anzeige; 0: keiner mehr
+    std::array<int, 2> Fremde; // das Hotel gilt erst als voll, wenn auch einer von diesen gekauft ist; 0: keine
+
+    constexpr std::span<const int> Plätze() const { return {Folge.begin(), std::ranges::find(Folge, 0)}; }
+};
+
+namespace hoteleingänge {
+using H = Hotelkürzel;
+// Die 200 von Waikiki stehen über den Kosten seiner Plätze, und L'Étoile fragt nach zwei fremden: mit Absicht so.
+// clang-format off
+inline constexpr std::array<Hoteleingang, 8> Reihe = {{
+    // Hotel Text  Mindestgeld Plätze                       fremde
+    {H::r, "roy",   200, {11, 10, 9, 8, 3, 2, 4, 5, 6, 7}, {}},
+    {H::f, "fuji",  100, {36, 38, 39, 42, 50, 51},         {}},
+    {H::p, "presi", 250, {33, 32, 30, 29, 28, 27, 26},     {}},
+    {H::t, "taj",   100, {16, 17, 18, 19, 20},             {}},
+    {H::b, "boom",  100, {49, 41, 40, 37},                 {}},
+    {H::l, "leth",  250, {47, 46, 15, 14, 13, 12, 31, 34, 35}, {21, 11}},
+    {H::w, "wai",   200, {21, 22, 23, 24, 25},             {}},
+    {H::s, "saf",   150, {48, 45, 44, 43, 52},             {}},
+}};
+// clang-format on
+
+static_assert([] {
+    std::size_t zahl = 0;
+    for (const Hoteleingang &h : Reihe)
+        for (const int platz : h.Plätze()) {
+            if (eingangsplatz(platz).Hotel != h.Hotel) return false;
+            ++zahl;
+        }
+    return zahl == Eingangsplätze.size();
+}());
+} // namespace hoteleingänge
+inline constexpr const auto &Hoteleingänge = hoteleingänge::Reihe;
 
 /// Bietet die Plätze des Hotels an, das der Text nennt ("roy", "fuji", "presi", "taj", "boom", "leth", "wai", "saf").
 void Eingangsanzeige(Programm &, const std::string &Text);
@@ -11,10 +55,13 @@ void Eingangsanzeige(Programm &, const std::string &Text);
 void Eingangsauffrischung(Programm &, Flagge nachKauf);
 /// Hebt den Knopf "Eingänge Kaufen" hervor, wenn der Mensch Hotels hat, oder nimmt die Hervorhebung zurück.
 void Eingangsknopf(Programm &, Flagge);
-/// Der gelbe Eingang wird über den Platz gezogen, auf ihm abgelegt.
+/// Ist auf dem Platz oder ihm gegenüber ein Eingang?
+bool vergeben(const Spielzustand &, int platz);
+
+/// Der Pfeil am gelben Eingang blinkt.
+void pfeilTimer_Timer(Programm &);
+/// Der gelbe Eingang über einem Platz und auf ihm abgelegt.
 void PlatzDragOver(Programm &, int Platz, Ziehzustand);
 void PlatzDragDrop(Programm &, int Platz);
-/// Ein Takt des Zeitgebers pfeilTimer: der Pfeil blinkt.
-void pfeilTimer_Timer(Programm &);
 
 } // namespace velmo

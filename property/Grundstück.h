@@ -2,8 +2,50 @@
 // Grundstücke: Preise und Besitzer.
 #include "include/Programm.h"
 
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <string>
+
 namespace velmo {
 
+struct Grundstück {
+    Hotelkürzel Hotel;
+    int Preis, Zwangspreis;                  // DM
+    const char *Schlüssel, *Zwangsschlüssel; // in Hotelliste nach dem Kauf
+    Hotelkürzel Schlusspark;                 // wessen Freizeitpark beim Anbauen als letzte Stufe gilt
+    const char *Doppelkaufmeldung = nullptr; // falls es dem Menschen beim Kauf schon gehört; null: ungeprüft
+};
+
+namespace grundstückstafel {
+using H = Hotelkürzel;
+inline constexpr const char *Fehler = "Fehler in geldfeld_sscommand_click. Senden sie dies bitte an ";
+inline constexpr const char *SafariFehler = "Fehler in geldfeld_sscommand_click safari. Senden sie dies bitte an ";
+// "Boomrang", "Etoile" und "Taj" sind mit Absicht so: der Bau vergleicht mit der Spalte Schlüssel, "Taj" trifft er nie.
+// Ebenso der Zwangspreis von Safari und der Park, nach dem Fujijama fragt.
+// clang-format off
+inline constexpr std::array<Grundstück, 8> Reihe = {{
+    // Hotel Preis Zwang Schlüssel    nach Zwang   Park  Meldung
+    {H::b,  500,  250, "Boomrang",  "Boomrang",  H::b},
+    {H::p, 3500, 1750, "President", "President", H::p},
+    {H::w, 2500, 1250, "Waikiki",   "Waikiki",   H::w},
+    {H::t, 1500,  750, "Taj Mahal", "Taj",       H::t},
+    {H::s, 2500, 1000, "Safari",    "Safari",    H::s, SafariFehler},
+    {H::f, 1000,  500, "Fujijama",  "Fujijama",  H::p, Fehler},
+    {H::l, 3000, 1500, "Etoile",    "Etoile",    H::l, Fehler},
+    {H::r, 2500, 1250, "Royal",     "Royal",     H::r},
+}};
+// clang-format on
+} // namespace grundstückstafel
+inline constexpr const auto &Grundstücke = grundstückstafel::Reihe;
+
+constexpr const Grundstück &grundstück(Hotelkürzel k) { return Grundstücke[static_cast<std::size_t>(k)]; }
+
+static_assert(std::all_of(Grundstücke.begin(), Grundstücke.end(),
+                          [](const Grundstück &g) { return &g == &grundstück(g.Hotel); }));
+
+/// Das Hotel mit dem Schlüssel, wie ihn ein gewöhnlicher Kauf schreibt; ohne Wert, wenn es keins gibt.
+std::optional<Hotelkürzel> HotelZuSchlüssel(const std::string &Schlüssel);
 /// Beschriftet die Schilder der Hotels des Menschen mit seinem Namen.
 void Besitzanzeige(Programm &);
 
