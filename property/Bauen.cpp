@@ -52,7 +52,7 @@ void baueAn(Programm &p, Hotelkürzel k) {
         brett(p).Label1.Caption = "Sie haben schon alles gebaut!";
         return;
     }
-    const Baukosten &stufe = nächsteStufe(z, k);
+    const Baukosten &stufe = nächsteBaustufe(z, k);
     const bool gratis = z.Bauergebnis == 10;
     const bool verkauft = z.Bauergebnis == 1 || z.Bauergebnis == 2;
     if (gratis || (verkauft && bezahle(p, stufe))) errichte(p, stufe);
@@ -71,7 +71,7 @@ std::span<const Baukosten> Baufolge(Hotelkürzel k) {
     return {zeilen.begin(), zeilen.end()};
 }
 
-const Baukosten &nächsteStufe(const Spielzustand &z, Hotelkürzel k) {
+const Baukosten &nächsteBaustufe(const Spielzustand &z, Hotelkürzel k) {
     const auto folge = Baufolge(k);
     std::size_t i = folge.size() - 1;
     while (i > 0 && !steht(z, k, folge[i - 1].Stand))

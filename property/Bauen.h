@@ -80,7 +80,7 @@ inline constexpr const auto &Baukostentafel = baukosten::Reihe;
 /// Die Stufen des Hotels vom Hauptgebäude bis zum Freizeitpark.
 std::span<const Baukosten> Baufolge(Hotelkürzel);
 /// Die Stufe, die als nächste an der Reihe ist.
-const Baukosten &nächsteStufe(const Spielzustand &, Hotelkürzel);
+const Baukosten &nächsteBaustufe(const Spielzustand &, Hotelkürzel);
 /// Stehen alle Nebengebäude und der Freizeitpark des Hotels, das "park" nennt? Das Hauptgebäude zählt nicht.
 bool ausgebaut(const Spielzustand &, Hotelkürzel, Hotelkürzel park);
 /// Die Stufe steht von nun an, und ihr Gebäude steigt.
