@@ -27,6 +27,9 @@ DANK = """r:1 | r:2 r:8 g5 b5 c6 | c6:2. b5:4 | g5:2 f5:8 d5 es5 f5 | d6:2. b5:4
 TENOR = "es4:1 | es4:2. f4:4 | d4:2 d4 | f4:2 e4 | es4:2. c4:4 | as4:2 f4 | g4:2 es4 | c4:2 d4"
 
 PIANO = "x--.o--v|---.o-..|x-..o-.v|--.oo-o-"
+PIANO_RUHIG = "x---..-v|------..|x--..o--|x---o--."
+PIANO_FREI = "..x-...v|-.o..x..|..xo...v|--..o-.."
+PIANO_GEBROCHEN = "1.3.2.4.|.1324.3."
 BASS = "1--.5-a-|1--15-a-|1-.15--a|1--.5-3a"
 BESEN = {"fell": "o---o---", "schnarr": "..x...x.", "fuß": "..o...o.", "bass": "o......,|o..,o..."}
 RIDE = {"ride": "x.xox.xo", "fuß": "..o...o.", "schnarr": "..,..,o.|..o..,o,", "bass": "o......,|o..,,..."}
@@ -73,15 +76,17 @@ def stück():
     schluss.spiele(flöte, "r:1 | r:1 | r:2 g5:2 | ges5:1 | f5:2 b5 | b5:2. r:4", kraft=.8, rolle="gegen")
 
     # Begleitung
-    vorspiel.greife(piano, "x--x--o-|--ox--o-", (55, 72), roll=9)
+    vorspiel.breche(piano, "1.3.2.4.|1.32.4..|1.3.1.3.|1.3.1324", (55, 72), kraft=1.3)
     vorspiel.bass(bass, "1------a|1----5-a", von=3)
     vorspiel.trommle(trommel, BESEN, {4: FÜLLUNG}, von=3)
 
     for teil in (a1, a2, a3, solo, solo2, a4):
-        teil.greife(piano, PIANO, (54, 72), roll=6)
+        muster = PIANO_RUHIG if teil in (a1, a4) else PIANO_FREI if teil in (solo, solo2) else PIANO
+        teil.greife(piano, muster, (54, 72), roll=8 if muster is PIANO_RUHIG else 4)
         teil.bass(bass, BASS)
+    b1.breche(piano, PIANO_GEBROCHEN, (54, 72), kraft=1.25)
+    b2.greife(piano, "x---o-.v|----o---", (54, 72), roll=8)
     for teil in (b1, b2):
-        teil.greife(piano, "x---o-.v|----o---", (54, 72), roll=8)
         teil.bass(bass, "1--.5--a|1--15-a-")
         teil.fläche(geigen, (52, 74))
         teil.schwelle(geigen, (1, 70), (4, 104), (5, 78), (8, 112), (9, 90))

@@ -33,9 +33,11 @@ ANTWORT = """r:1 | r:2 r:8 a4 h4 c5 | a4:2. r:4 | r:2 f5:4 e5 | d5:2 r | e5:4. c
 ZWEITE = """e4:4. a4:8~4 g4 | fis4:4. e4:8~2 | f4:4. a4:8~4 d5 | c5:4. a4:8 f4:4. r:8
           | r:8 e4 g4 h4 h4:4. g4:8 | e4:4. a4:8~4 g4 | r:8 h4 d5 f5 d5:4. d5:8 | h4:4. gis4:8 d4:2
           | c5:4. e5:8~4 g5 | e5:4. c5:8~2 | e5:4. c5:8~4 a4 | e5:4. c5:8~8 a4 a4 c5
-          | d5:4. c5:8~4 a4 | gis4:4. gis4:8~4 e4 | e4:4. fis4:8~4 c5 | fis4:2 r"""
+          | d5:4. c5:8~4 a4 | gis4:4. gis4:8~4 d4 | e4:4. fis4:8~4 c5 | fis4:2 r"""
 
 GITARRE = "x.x-.x-v|-.x-.x-.|x.x-.x-v|-.xx-.x-"
+GITARRE_FREI = "x..x..x-|..x-..x.|..x..x-v|-..x.x.."
+GITARRE_GEBROCHEN = "1.32.43.|1.2.43.2"
 GITARRE_DICHT = "x.xx-.xv|-.x-.xx-|x.x-.x-v|-.xx-.x-"
 BASS = "1--.5--5|1--.5--a"
 LEISE = {"schüttel": ",o,o,o,o", "rand": "x..x..x.|..x..x..", "bass": "x..ox..o", "fuß": "..o...o."}
@@ -84,7 +86,11 @@ def stück():
     vorspiel.trommle(trommel, {"schüttel": ",o,o,o,o"}, von=3, bis=4)
     vorspiel.trommle(trommel, LEISE, {8: FÜLLUNG}, von=5)
     for teil in (a1, a2, b1, s, b2, a3):
-        teil.greife(gitarre, GITARRE_DICHT if teil in (a2, b2, a3) else GITARRE, (52, 70), roll=7)
+        if teil is b1:
+            teil.breche(gitarre, GITARRE_GEBROCHEN, (52, 70), kraft=1.35)
+        else:
+            muster = GITARRE if teil is a1 else GITARRE_FREI if teil is s else GITARRE_DICHT
+            teil.greife(gitarre, muster, (52, 70), roll=7, töne=3 if teil is s else None)
         teil.bass(bass, BASS, füllungen={8: "1-35-6-a", 16: "1--.5-3a"})
         füllungen = {8: FÜLLUNG_2} if teil is b2 else {8: FÜLLUNG, 16: FÜLLUNG_2}
         teil.trommle(trommel, MEHR if teil in (b1, b2, a3) else LEISE, füllungen)

@@ -33,6 +33,8 @@ EINWURF = """r:1 | r:2 r:8 g4' c5' e5' | r:1 | r:2 r:8 a4' d5' f5' | r:1 | r:2 r
 
 BASS = "1-.5-.1-|1-.5-.a-"
 GITARRE = ".x.x.xx.|.x.xo.xo"
+GITARRE_RUF = "x..x..x.|..xo.x.x"
+SCHLAG_AUF_SCHLAG = "x..x..x."
 EISEN = {"bass": "x..ox..o", "hihat": "oxoxoxox", "rand": "..x..x..|..x..x.o", "conga": ".,..,.,.", "congahoch": "...o..o.|...o...o", "cabasa": "o,x,o,x,"}
 GLOCKE = {"bass": "x..ox..o", "kuhglocke": "o.o.oo.o|o.oo.o.o", "schnarr": "...o..o.|...o..oo", "hihat": "oxoxoxox", "congatief": "......o.", "cabasa": "o,x,o,x,"}
 ABENDS = {"bass": "o.......|o...o...", "conga": "..o.,.,.", "congatief": "......o.|......oo", "cabasa": "o,o,o,o,", "claves": "x..x....|..x.x..."}
@@ -97,8 +99,9 @@ def stück():
     vorspiel.trommle(trommel, {"cabasa": "o,x,o,x,", "conga": ".,..,.,.", "congahoch": "...o..o."}, bis=4)
     vorspiel.trommle(trommel, EISEN, {8: FÜLLUNG}, von=5)
     for teil in (a1, b1, s, a2, b2):
-        teil.greife(gitarre, GITARRE, (52, 70), roll=4)
-        teil.bass(bass, BASS, füllungen={8: "1-3-5-a-", 16: "1-.5-3a-"})
+        teil.greife(gitarre, GITARRE_RUF if teil in (b1, b2) else GITARRE, (52, 70), roll=4, töne=None if teil in (b1, b2) else 3,
+                    füllungen={16: SCHLAG_AUF_SCHLAG})
+        teil.bass(bass, BASS, füllungen={8: "1-3-5-a-", 16: "1-.1-.1a"})
         teil.trommle(trommel, GLOCKE if teil in (b1, b2) else EISEN, {4: FÜLLUNG_2, 8: FÜLLUNG, 16: FÜLLUNG_3} if teil in (b1, b2) else {8: FÜLLUNG, 16: FÜLLUNG_3})
     for teil in (a1, a2):
         teil.breche(marimba, "1.3.2.4.|1.32.3.4", (53, 72), kraft=.6)

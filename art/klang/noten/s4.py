@@ -16,7 +16,7 @@ THEMA_SCHLUSS = """f5:8 f5' r d5 f5 g5 f5:4 | as5:8 as5' r f5 d5:4 r | g5:8 g5' 
 MITTE = """g5:2^ r:8 f5 es5 d5 | c5:4. es5:8 ges5:4 b5 | a5:2^ r:8 g5 f5 e5 | d5:4. f5:8 as5:4 h5
          | b5:4^ g5:8 es5 d5:4. c5:8 | b4:8 des5 e5 as5 ges5:4. e5:8 | f5:4 d5:8 c5 a4 c5 d5 f5 | ges5:4. es5:8 des5:4 a4"""
 
-TROMPETE = """d5:4' b4:8 d5 f5:4. d5:8 | f5:4' as5:8 f5 d5:4 r | r:8 es5 g5 b5 g5 es5 c5 es5 | e5:4^ g5 b5:8 g5 e5:4'
+TROMPETE = """[g4:8 a4 c5 cis5] d5:4' b4:8 d5 f5:4. d5:8 | f5:4' as5:8 f5 d5:4 r | r:8 es5 g5 b5 g5 es5 c5 es5 | e5:4^ g5 b5:8 g5 e5:4'
             | r:8 d5 f5 b5 d6:4^ b5:8 f5 | as5:8t g5 f5 d5:8 h4 d5:4 r | e5:8 g5 b5 d6 c6 b5 g5 e5 | f5:4' d5:8 a4 c5:4 r
             | d6:4^' d6:8 b5 r f5 g5:4 | as5:4' f5:8 as5 h5:4. as5:8 | g5:4. es5:8 d5 es5 g5 b5 | cis6:4^ b5:8 g5 e5 g5 b5:4
             | d6:8 b5 f5 d5 h4 d5 f5 as5 | g5:8 e5 d5 b4 a4 c5 d5 f5 | d5:4' r:8 g5 f5 des5 b4:4 | d5:8 b4 r f4:8' r:2"""
@@ -31,9 +31,9 @@ ANHANG = """d6:4. b5:8 as5 g5 f5 d5 | e5:8 d5 r b4 d5 c5 a4 c5 | d5:4' r:8 f5' r
 
 # Gegenstimmen
 POLSTER = """d4:2. f4:4 | f4:2 as4 | g4:2. es4:4 | e4:2 g4 | f4:2. d4:4 | d4:2 f4 | e4:2 g4 | d4:2 r"""
-HAUCH = """b4:4 r r:2 | r:1 | r:2 r:8 b4' r b4' | r:1 | r:2 r:8 a4' r a4' | r:4 h4:8' r d5:4' r | r:2 r:8 g4' r b4' | r:4 b4:8' r as4:4' r | r:2 a4:4' c5' | a4:4' r ges4' r"""
 RIFF = """r:8 d5' r d5' r:2 | r:8 d5' r d5' r:2 | r:8 es5' r es5' r:2 | r:8 e5' r e5' r:2 | r:8 d5' r d5' r:2 | r:8 d5' r d5' r:2 | r:8 d5' r d5' r:2 | r:8 d5' r c5' r:2"""
 
+PAUSE = "x......."
 KOMP = "x.....v.|-..x..x.|..x....v|-...x..."
 KOMP_SATT = "x..x..v.|-..x.x..|..x..x.v|-..x..x."
 BECKEN = {"ride": "x.xox.xo", "fuß": "..x...x.", "bass": "o.,.o.,."}
@@ -88,7 +88,7 @@ def stück():
         satz.unterstimme(stimme, SATZ, tiefe=tiefe, kraft=.95)
     b2.spiele(klarinette, MITTE)
     b2.spiele(trompete, "r:2 r:8 b4' r b4' | r:1 | r:2 r:8 a4' r c5' | r:1 | r:2 r:8 g4' r b4' | r:1 | r:4 a4:8' r c5:4' r | r:1", kraft=.8, rolle="gegen")
-    b2.spiele(posaune, "b3:1 | c4:2 ges3 | a3:1 | h3:2 f3 | b3:2 g3 | b3:2 e3 | a3:2 es3 | a3:2 es3", kraft=.85, rolle="gegen")
+    b2.spiele(posaune, "b3:1 | c4:2 ges3 | a3:2. f3:4 | h3:2 f3 | b3:2 g3 | b3:2 e3 | a3:2 c4 | a3:2 es3", kraft=.85, rolle="gegen")
     a4.spiele(klarinette, ENDE)
     schluss.spiele(klarinette, ANHANG)
     for tiefe, stimme in ((1, trompete), (2, sax), (3, posaune)):
@@ -102,9 +102,10 @@ def stück():
     vorspiel.trommle(trommel, LEISE, {6: FÜLLUNG}, von=5)
     vorspiel.greife(klavier, "x..x....|...x..x.", (53, 70), von=5)
     for teil in (a1, a2, b1, a3, t1, t2, k, satz, b2, a4, schluss):
-        teil.wandere(bass, bis=teil.takte - (teil is schluss))
+        teil.wandere(bass, bis=teil.takte - (teil in (a3, schluss)))
     for teil in (a1, a2, b1, a3, t1, t2, satz, b2, a4):
-        teil.greife(klavier, KOMP if teil in (a1, b1, b2, satz) else KOMP_SATT, (53, 70))
+        teil.greife(klavier, KOMP if teil in (a1, b1, b2, satz) else KOMP_SATT, (53, 70), füllungen={8: PAUSE} if teil is a3 else None)
+    a3.bass(bass, "1.......", von=8)  # alle halten an, die Trompete springt hinein
     k.greife(klavier, "x.......|....x...", (48, 62), kraft=.8, töne=2)
     schluss.greife(klavier, KOMP_SATT, (53, 70), bis=5)
     schluss.greife(klavier, ".x..x---", (53, 70), von=6)
@@ -114,7 +115,8 @@ def stück():
     for teil in (b1, t1, b2):
         teil.trommle(trommel, BECKEN, {8: FÜLLUNG})
     for teil in (a3, t2, satz, a4):
-        teil.trommle(trommel, LAUT, {teil.takte: FÜLLUNG_2 if teil is not a4 else FÜLLUNG, 4: dict(LAUT, schnarr=".o.....x")})
+        letzter = {"bass": PAUSE, "ride": PAUSE} if teil is a3 else FÜLLUNG if teil is a4 else FÜLLUNG_2
+        teil.trommle(trommel, LAUT, {4: dict(LAUT, schnarr=".o.....x"), teil.takte: letzter})
     schluss.trommle(trommel, LAUT, {4: FÜLLUNG}, bis=5)
     schluss.trommle(trommel, {"bass": ".x..x...", "schnarr": ".x..x...", "becken": "....o..."}, von=6)
     return st
