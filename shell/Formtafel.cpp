@@ -18,6 +18,13 @@ constexpr Formeintrag Tafel[] = {
 
 std::span<const Formeintrag> Formtafel() { return Tafel; }
 
+void brichAb(Programm &p, const Laufzeitfehler &fehler) {
+    p.MsgBox(fehler.what());
+    const Spielzustand &z = p.Zustand;
+    if (z.Bildschirmbreite > 0)
+        p.oberfläche.setzeModus(static_cast<int>(z.Bildschirmbreite), static_cast<int>(z.Bildschirmhöhe));
+}
+
 void starte(Programm &p) { p.zeige(Form1::Formname); }
 
 } // namespace velmo

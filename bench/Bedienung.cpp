@@ -1,0 +1,113 @@
+// Was ein Spieler mit Maus und Tastatur tut. Orte sind Twips.
+#include "bench/Befehle.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace velmo {
+
+namespace {
+
+/// Weit außerhalb der Anzeige liegt nichts.
+constexpr Punkt Nirgends{-1e6, -1e6};
+/// So eng liegen die Orte, an denen nach bloßer Fläche gesucht wird.
+constexpr double Raster = 120;
+
+bool bloß(const Eingabe &eingabe, const Form &form, Punkt p) {
+    const Treffer t = eingabe.trifft(p);
+    return t.form == &form && !t.control;
+}
+
+/// Ein Ort auf der bloßen Fläche der Form: ihre Mitte oder der nächste daran; ohne einen solchen die Mitte.
+Punkt bloßeFläche(const Eingabe &eingabe, const Form &form) {
+    const Punkt mitte{form.Left + form.Width / 2, form.Top + form.Height / 2};
+    const auto entfernung = [&](Punkt p) { return std::hypot(p.x - mitte.x, p.y - mitte.y); };
+    if (bloß(eingabe, form, mitte)) return mitte;
+    std::optional<Punkt> bester;
+    for (double x = form.Left + 1; x < form.Left + form.Width; x += Raster)
+        for (double y = form.Top + 1; y < form.Top + form.Height; y += Raster)
+            if (bloß(eingabe, form, {x, y}) && (!bester || entfernung({x, y}) < entfernung(*bester)))
+                bester = Punkt{x, y};
+    return bester.value_or(mitte);
+}
+
+/// Der Ort von "F.C [X Y]" oder "F [X Y]" auf der Anzeige.
+Punkt ort(Szene &s, Wörter w) {
+    if (w.size() == 2) throw Schreibfehler("zu X fehlt Y");
+    const std::string &name = w[0].text;
+    const bool form = name.find('.') == std::string::npos;
+    const VisualControl *c = form ? nullptr : &s.namen->control<VisualControl>(name);
+    const Form &f = form ? s.namen->form(name) : c->form;
+    if (form && w.size() == 1) return bloßeFläche(s.p().eingabe, f);
+    const Punkt ecke = form ? Punkt{f.Left, f.Top} : Eingabe::ort(*c);
+    if (w.size() == 1) return {ecke.x + c->Width / 2, ecke.y + c->Height / 2};
+    return {ecke.x + liesZahlwort(w[1]), ecke.y + liesZahlwort(w[2])};
+}
+
+/// Hin und drücken und los.
+Punkt drückeUndLöse(Szene &s, Wörter w, Maustaste taste) {
+    const Punkt hier = ort(s, w);
+    s.p().eingabe.bewege(hier);
+    s.p().eingabe.drücke(taste, hier);
+    s.p().eingabe.löse(taste, hier);
+    return hier;
+}
+
+} // namespace
+
+void klick(Szene &s, Wörter w) { drückeUndLöse(s, w, Maustaste::Links); }
+
+void rechts(Szene &s, Wörter w) { drückeUndLöse(s, w, Maustaste::Rechts); }
+
+void doppelklick(Szene &s, Wörter w) { s.p().eingabe.doppelklick(drückeUndLöse(s, w, Maustaste::Links)); }
+
+void drück(Szene &s, Wörter w) {
+    const Punkt hier = ort(s, w);
+    s.p().eingabe.bewege(hier);
+    s.p().eingabe.drücke(Maustaste::Links, hier);
+}
+
+void los(Szene &s, Wörter w) {
+    const Punkt hier = ort(s, w);
+    s.p().eingabe.bewege(hier);
+    s.p().eingabe.löse(Maustaste::Links, hier);
+}
+
+void maus(Szene &s, Wörter w) { s.p().eingabe.bewege(ort(s, w)); }
+
+void zieh(Szene &s, Wörter w) {
+    drück(s, w.first(1));
+    const bool weg = w.back().ist("weg");
+    Punkt hier{};
+    for (const Wort &ziel : w.subspan(1, w.size() - 1 - weg))
+        s.p().eingabe.bewege(hier = ort(s, Wörter(&ziel, 1)));
+    if (weg) s.p().eingabe.bewege(hier = Nirgends);
+    s.p().eingabe.löse(Maustaste::Links, hier);
+}
+
+void tippe(Szene &s, Wörter w) { s.p().eingabe.tippe(s.namen->control<TextBox>(w[0].text), liesText(w[1])); }
+
+void taste(Szene &s, Wörter w) {
+    const std::string &text = liesText(w[1]);
+    s.namen->form(w[0].text);
+    for (std::size_t i = 0; i < text.size();) {
+        const std::size_t anfang = i++;
+        while (i < text.size() && (text[i] & 0xC0) == 0x80)
+            ++i;
+        // Eine Taste kann die Form schließen.
+        if (Form *form = s.p().geladene(w[0].text)) s.p().eingabe.taste(*form, text.substr(anfang, i - anfang));
+    }
+}
+
+void wähle(Szene &s, Wörter w) {
+    auto &liste = s.namen->control<Listenelement>(w[0].text);
+    const auto &zeilen = liste.Zeilen();
+    const auto zeile =
+        w[1].zitiert ? std::ranges::find(zeilen, w[1].text) - zeilen.begin() : std::ptrdiff_t{liesGanzzahl(w[1])};
+    if (zeile < 0 || zeile >= liste.ListCount()) throw Schreibfehler(w[0].text + " hat keine Zeile " + w[1].text);
+    s.p().eingabe.wähle(liste, static_cast<int>(zeile));
+}
+
+void schließe(Szene &s, Wörter w) { s.p().eingabe.schließe(s.namen->form(w[0].text)); }
+
+} // namespace velmo

@@ -1,0 +1,174 @@
+#include "bench/Befehle.h"
+
+#include "model/Brett.h"
+
+#include <algorithm>
+#include <array>
+#include <iostream>
+#include <limits>
+
+namespace velmo {
+
+namespace {
+
+constexpr std::size_t Beliebig = std::numeric_limits<std::size_t>::max();
+constexpr Zeit LängsteRuhe = 120'000;
+constexpr Zeit LängstesBis = 60'000;
+
+void start(Szene &s, Wörter) { s.starte(); }
+
+/// Das neue Spiel, solange es die Formulare davor nicht gibt.
+void spielOhneMenü(Szene &s, Wörter w) {
+    s.starte();
+    Spielzustand &z = s.p().Zustand;
+    const auto mensch = std::ranges::find_if(Autotafel, [&](const Auto &a) { return w[0].text == a.Farbe; });
+    if (mensch == Autotafel.end()) throw Schreibfehler("unbekannte Farbe " + w[0].text);
+    z.Spielername = z.Spitzname = "Spieler 1";
+    z.Spielerfarbe = mensch->Text;
+    z.Gegnerzahl = liesGanzzahl(w[1]);
+    z.Schwierigkeit = liesGanzzahl(w[2]);
+    for (Kurz &geld : z.Computergeld)
+        geld = std::array{12000, 20000, 30000}[static_cast<std::size_t>(z.Schwierigkeit - 1)];
+    for (int n = 1; n <= 3; ++n) {
+        const Autokürzel k = mensch->Computer[static_cast<std::size_t>(n - 1)];
+        if (n <= z.Gegnerzahl)
+            z.Autos[k].Autobesitzer = Computer<Autobesitzer>(n);
+        else
+            brett(s.p()).Autobild(k).Visible = false;
+    }
+    z.Programmpfad = s.p().Ordner;
+    s.schiebeEin({"ruhe"});
+}
+
+void menü(Szene &s, Wörter) { s.schiebeEin({"start", "klick Intro"}); }
+
+void spiel(Szene &s, Wörter w) {
+    if (!s.p().kennt("Menu2")) return spielOhneMenü(s, w);
+    const auto zeile = [](const Wort &zahl) {
+        const int n = liesGanzzahl(zahl);
+        if (n < 1 || n > 3) throw Schreibfehler(zahl.text + " ist nicht 1 bis 3");
+        return std::to_string(n - 1);
+    };
+    s.schiebeEin({"menü", "klick Menu.Spieln", "wähle Menu2.List1 " + zitiere(w[0].text),
+                  "wähle Menu2.List2 " + zeile(w[1]), "wähle Menu2.List3 " + zeile(w[2]), "klick Menu2.Command2",
+                  "ruhe"});
+}
+
+int positiv(const Wort &w) {
+    const int n = liesGanzzahl(w);
+    if (n <= 0) throw Schreibfehler(w.text + " ist nicht größer als 0");
+    return n;
+}
+
+void anzeige(Szene &s, Wörter w) {
+    if (s.gestartet) throw Schreibfehler("anzeige gilt vor start");
+    if (w.size() == 2) throw Schreibfehler("es heißt anzeige DPI [BREITE HÖHE]");
+    s.fläche.Gefunden.DPI = positiv(w[0]);
+    if (w.size() == 1) return;
+    s.fläche.Gefunden.Breite = positiv(w[1]);
+    s.fläche.Gefunden.Höhe = positiv(w[2]);
+}
+
+void antwort(Szene &s, Wörter w) {
+    if (w[0].ist("abbrechen"))
+        s.fläche.Antworten.push_back(std::nullopt);
+    else
+        s.fläche.Antworten.push_back(liesText(w[0]));
+}
+
+Zeit liesDauer(const Wort &w) {
+    const int ms = liesGanzzahl(w);
+    if (ms < 0) throw Schreibfehler(w.text + " ist keine Dauer");
+    return ms;
+}
+
+void warte(Szene &s, Wörter w) { s.beginne({.grenze = s.fläche.Uhr + liesDauer(w[0])}); }
+
+void ruhe(Szene &s, Wörter) {
+    s.beginne({.grenze = s.fläche.Uhr + LängsteRuhe,
+               .erfüllt = [&s] { return s.ruhig(); },
+               .gescheitert = [&s] { s.prüfe(false, "ruhe ist nicht erreicht, es läuft " + s.unruhe(), "ruhe"); }});
+}
+
+void bis(Szene &s, Wörter w) {
+    const Vergleich v = liesVergleich(w.first(3));
+    const Zeit höchstens = w.size() > 3 ? liesDauer(w[3]) : LängstesBis;
+    s.finde(v.Name);
+    s.beginne({.grenze = s.fläche.Uhr + höchstens,
+               .erfüllt = [&s, v] { return v.gilt(s); },
+               .gescheitert =
+                   [&s, v] { s.prüfe(false, v.Name + " ist " + schreibe(s.finde(v.Name).lies()), v.Erwartung()); }});
+}
+
+void zufall(Szene &s, Wörter w) {
+    if (w[0].ist("leer") && w.size() == 1) return s.fläche.Vorgaben.clear();
+    for (const Wort &wort : w) {
+        const double v = liesZahlwort(wort);
+        if (v < 0 || v >= 1) throw Schreibfehler(wort.text + " liegt nicht in [0, 1)");
+        s.fläche.Vorgaben.push_back(v);
+    }
+}
+
+void saat(Szene &s, Wörter w) { s.fläche.Erzeuger.seed(static_cast<std::uint64_t>(liesGanzzahl(w[0]))); }
+
+void setze(Szene &s, Wörter w) {
+    const Vergleich v = liesVergleich(w);
+    const Zugang ziel = s.finde(v.Name);
+    if (!v.Gleichheit) throw Schreibfehler("es heißt setze NAME = WERT");
+    if (!ziel.setze) throw Schreibfehler(v.Name + " lässt sich nicht setzen");
+    s.p().behandle([&] { ziel.setze(v.erwartet); });
+}
+
+void zeige(Szene &s, Wörter w) {
+    const std::string wert = schreibe(s.finde(w[0].text).lies());
+    std::cout << w[0].text << " = " << wert << '\n';
+}
+
+// clang-format off
+constexpr Befehlseintrag Befehlstafel[] = {
+    // Name          Wörter       Befehl       auch am Ende, beginnt neu
+    {"start",        0, 0,        start,       true, true},
+    {"menü",         0, 0,        menü,        true},
+    {"spiel",        3, 3,        spiel,       true, true},
+    {"anzeige",      1, 3,        anzeige},
+    {"klick",        1, 3,        klick},
+    {"rechts",       1, 3,        rechts},
+    {"doppelklick",  1, 3,        doppelklick},
+    {"drück",        1, 3,        drück},
+    {"los",          1, 3,        los},
+    {"maus",         1, 3,        maus},
+    {"zieh",         2, Beliebig, zieh},
+    {"tippe",        2, 2,        tippe},
+    {"taste",        2, 2,        taste},
+    {"wähle",        2, 2,        wähle},
+    {"schließe",     1, 1,        schließe},
+    {"antwort",      1, 1,        antwort},
+    {"warte",        1, 1,        warte},
+    {"bis",          3, 4,        bis},
+    {"ruhe",         0, 0,        ruhe},
+    {"zufall",       1, Beliebig, zufall},
+    {"saat",         1, 1,        saat},
+    {"setze",        3, 3,        setze},
+    {"ruf",          1, Beliebig, ruf},
+    {"zeige",        1, 1,        zeige,       true},
+    {"erwarte",      2, Beliebig, erwarte,     true},
+    {"datei",        1, Beliebig, datei},
+    {"bytes",        2, Beliebig, bytes},
+    {"ordner",       1, 1,        ordner},
+    {"lösche",       1, 1,        lösche},
+    {"gesperrt",     1, 1,        gesperrt},
+};
+// clang-format on
+
+} // namespace
+
+const Befehlseintrag &findeBefehl(Wörter zeile) {
+    const auto befehl = std::ranges::find_if(Befehlstafel, [&](const auto &b) { return zeile[0].ist(b.Name); });
+    if (befehl == std::end(Befehlstafel)) throw Schreibfehler("unbekannter Befehl " + zeile[0].text);
+    const std::size_t zahl = zeile.size() - 1;
+    if (zahl < befehl->mindestens) throw Schreibfehler(std::string(befehl->Name) + ": da fehlt etwas");
+    if (zahl > befehl->höchstens) throw Schreibfehler(std::string(befehl->Name) + ": da steht zu viel");
+    return *befehl;
+}
+
+} // namespace velmo

@@ -1,0 +1,153 @@
+// Der Befehl "erwarte" in allen seinen Arten.
+#include "bench/Befehle.h"
+
+#include "platform/Dateien.h"
+#include "platform/Zeichen.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+
+namespace velmo {
+
+namespace {
+
+std::string klein(std::string text) {
+    for (char &c : text)
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    return text;
+}
+
+/// Ganz gleich, oder, wo die Erwartung auf … endet, ihr Anfang.
+bool passt(const std::string &text, const std::string &erwartet) {
+    static const std::string Rest = "…";
+    if (!erwartet.ends_with(Rest)) return text == erwartet;
+    return text.starts_with(erwartet.substr(0, erwartet.size() - Rest.size()));
+}
+
+void brauche(bool gilt) {
+    if (!gilt) throw Schreibfehler("erwarte: die Wörter passen nicht");
+}
+
+void erwarteMeldung(Szene &s, Wörter w) {
+    brauche(w.size() == 1);
+    const std::string &text = liesText(w[0]);
+    auto &buch = s.fläche.Meldungen;
+    if (buch.empty()) return s.prüfe(false, "meldung ist leer", zitiere(text));
+    s.prüfe(passt(buch.front(), text), "meldung ist " + zitiere(buch.front()), zitiere(text));
+    buch.pop_front();
+}
+
+void erwarteEingabe(Szene &s, Wörter w) {
+    brauche(w.size() <= 2);
+    const std::string &frage = liesText(w[0]);
+    const std::string *titel = w.size() == 2 ? &liesText(w[1]) : nullptr;
+    const auto beide = [&](const std::string &f, const std::string &t) {
+        return zitiere(f) + (titel ? " " + zitiere(t) : "");
+    };
+    const std::string erwartet = beide(frage, titel ? *titel : "");
+    auto &buch = s.fläche.Fragen;
+    if (buch.empty()) return s.prüfe(false, "eingabe ist leer", erwartet);
+    const Eingabefrage &alt = buch.front();
+    s.prüfe(passt(alt.Frage, frage) && (!titel || passt(alt.Titel, *titel)),
+            "eingabe ist " + beide(alt.Frage, alt.Titel), erwartet);
+    buch.pop_front();
+}
+
+void erwarteKeine(Szene &s, Wörter w) {
+    brauche(w.size() == 1 && (w[0].ist("meldung") || w[0].ist("eingabe")));
+    const auto &fläche = s.fläche;
+    const bool meldung = w[0].ist("meldung");
+    const bool keine = meldung ? fläche.Meldungen.empty() : fläche.Fragen.empty();
+    const std::string &erste = keine ? "" : meldung ? fläche.Meldungen.front() : fläche.Fragen.front().Frage;
+    s.prüfe(keine, w[0].text + " ist " + zitiere(erste), "leer");
+}
+
+/// Auch ein Element, dessen Form es nicht mehr gibt, hat seine Befehle im Buch.
+void erwarteTon(Szene &s, Wörter w) {
+    brauche(w.size() == 2);
+    auto &buch = s.fläche.Töne;
+    const auto hier = buch.find(w[0].text);
+    if (hier == buch.end()) s.namen->control<MMControl>(w[0].text);
+    const std::string ist = hier == buch.end() ? "" : std::exchange(hier->second, "");
+    s.prüfe(ist == liesText(w[1]), "ton " + w[0].text + " ist " + zitiere(ist), zitiere(w[1].text));
+}
+
+void erwarteFehler(Szene &s, Wörter w) {
+    static constexpr std::array Worte = {"überlauf", "typ", "index", "argument", "datei", "keiner", "ende"};
+    brauche(w.size() == 2 && (w[0].ist("=") || w[0].ist("<>")));
+    if (std::ranges::none_of(Worte, [&](const char *wort) { return w[1].ist(wort); }))
+        throw Schreibfehler("unbekannte Fehlerart " + w[1].text);
+    const std::string zeichen = w[0].ist("=") ? "" : "<> ";
+    s.prüfe((w[1].text == s.fehler()) == zeichen.empty(), std::string("fehler ist ") + s.fehler(), zeichen + w[1].text);
+}
+
+std::vector<std::string> zeilen(const std::string &text) {
+    std::vector<std::string> alle;
+    std::size_t anfang = 0;
+    while (anfang < text.size()) {
+        const auto ende = std::min(text.find("\r\n", anfang), text.size());
+        alle.push_back(text.substr(anfang, ende - anfang));
+        anfang = ende + 2;
+    }
+    return alle;
+}
+
+std::string aufgereiht(const std::vector<std::string> &zeilen) {
+    std::string text;
+    for (const std::string &zeile : zeilen)
+        text += (text.empty() ? "" : " ") + zitiere(zeile);
+    return zeilen.empty() ? "ohne Zeilen" : text;
+}
+
+void erwarteDatei(Szene &s, Wörter w) {
+    brauche(!w.empty());
+    const auto ort = s.ordner.ort(liesText(w[0]));
+    const bool fehlt = !std::filesystem::exists(ort), ordner = std::filesystem::is_directory(ort);
+    std::vector<std::string> ist;
+    if (!fehlt && !ordner) ist = zeilen(ausWindows1252(liesDatei(ort)));
+    const std::string was = "datei " + zitiere(w[0].text) + " ist " +
+                            (fehlt    ? "leer"
+                             : ordner ? "ein Ordner"
+                                      : aufgereiht(ist));
+    if (w.size() == 2 && w[1].ist("leer")) return s.prüfe(fehlt, was, "leer");
+    std::vector<std::string> soll;
+    for (const Wort &zeile : w.subspan(1))
+        soll.push_back(liesText(zeile));
+    s.prüfe(!fehlt && !ordner && ist == soll, was, aufgereiht(soll));
+}
+
+struct Erwartungsart {
+    const char *Wort;
+    void (*prüfe)(Szene &, Wörter);
+};
+
+constexpr Erwartungsart Arten[] = {{"meldung", erwarteMeldung}, {"eingabe", erwarteEingabe}, {"keine", erwarteKeine},
+                                   {"ton", erwarteTon},         {"fehler", erwarteFehler},   {"datei", erwarteDatei}};
+
+} // namespace
+
+bool Vergleich::gilt(Szene &s) const {
+    Wert ist = s.finde(Name).lies(), soll = erwartet;
+    // Dateinamen gelten in jeder Schreibung.
+    if (Name.ends_with(".FileName")) ist = klein(alsText(ist)), soll = klein(alsText(soll));
+    return gleich(ist, soll) == Gleichheit;
+}
+
+std::string Vergleich::Erwartung() const { return (Gleichheit ? "" : "<> ") + schreibe(erwartet); }
+
+Vergleich liesVergleich(Wörter w) {
+    if (w.size() != 3 || w[0].zitiert || !(w[1].ist("=") || w[1].ist("<>")))
+        throw Schreibfehler("es heißt NAME = WERT oder NAME <> WERT");
+    return {w[0].text, w[1].ist("="), liesWert(w[2])};
+}
+
+void erwarte(Szene &s, Wörter w) {
+    for (const Erwartungsart &art : Arten)
+        if (w[0].ist(art.Wort)) return art.prüfe(s, w.subspan(1));
+    const Vergleich v = liesVergleich(w);
+    const bool gilt = v.gilt(s);
+    s.prüfe(gilt, v.Name + " ist " + schreibe(s.finde(v.Name).lies()), v.Erwartung());
+}
+
+} // namespace velmo

@@ -1,0 +1,59 @@
+#include "bench/Prüffläche.h"
+
+#include "platform/Dateien.h"
+#include "platform/Form.h"
+#include "platform/Laufzeitfehler.h"
+
+#include <array>
+#include <utility>
+
+namespace velmo {
+
+std::string vollerName(const Control &c) { return std::string(c.form.Name) + "." + c.Name; }
+
+void Prüffläche::leere() {
+    Vorgaben.clear();
+    Antworten.clear();
+    Meldungen.clear();
+    Fragen.clear();
+    Töne.clear();
+    Modus.reset();
+}
+
+void Prüffläche::gibAb(Rast) {
+    if (Fahrer)
+        Fahrer();
+    else
+        ++Uhr;
+}
+
+double Prüffläche::Rnd() {
+    if (Vorgaben.empty()) return static_cast<double>(Erzeuger() >> 11) * 0x1p-53;
+    const double ziehung = Vorgaben.front();
+    Vorgaben.pop_front();
+    return ziehung;
+}
+
+std::optional<std::string> Prüffläche::InputBox(const std::string &frage, const std::string &titel) {
+    Fragen.push_back({frage, titel});
+    if (Antworten.empty()) return std::nullopt;
+    auto antwort = std::move(Antworten.front());
+    Antworten.pop_front();
+    return antwort;
+}
+
+void Prüffläche::ton(MMControl &c, Befehl befehl, bool warten) {
+    static constexpr std::array Worte = {"open", "play", "close"};
+    std::string &buch = Töne[vollerName(c)];
+    if (!buch.empty()) buch += ' ';
+    if (warten) buch += "wait ";
+    buch += Worte[static_cast<std::size_t>(befehl)];
+}
+
+void Prüffläche::öffneFilm(Animation &, const std::string &Datei) {
+    const std::string film = liesDatei(Datei);
+    if (film.substr(0, 4) != "RIFF" || film.size() < 12 || film.substr(8, 4) != "AVI ")
+        throw Laufzeitfehler(Fehlerart::Datei);
+}
+
+} // namespace velmo

@@ -1,0 +1,137 @@
+#include "bench/Szene.h"
+
+#include "bench/Befehle.h"
+#include "shell/Formtafel.h"
+
+#include <array>
+#include <iostream>
+#include <ranges>
+
+namespace velmo {
+
+namespace {
+
+/// Das Skript ist zu Ende, während eine Routine wartet.
+struct Skriptende {};
+/// Ein neues Programm soll beginnen, während eine Routine des alten wartet.
+struct Neuanfang {};
+
+constexpr std::array Fehlerworte = {"argument", "überlauf", "index", "typ", "datei"};
+
+} // namespace
+
+Szene::Szene(std::string name, std::string_view skript) : datei(std::move(name)) {
+    if (skript.starts_with("\xEF\xBB\xBF")) skript.remove_prefix(3);
+    int nummer = 0;
+    for (const auto teil : std::views::split(skript, '\n')) {
+        std::string text(teil.begin(), teil.end());
+        if (text.ends_with('\r')) text.pop_back();
+        rest.push_back({++nummer, std::move(text)});
+    }
+    fläche.Fahrer = [this] { imWarten(); };
+    neuesProgramm();
+}
+
+Bilanz Szene::spiele() {
+    try {
+        laufe();
+    } catch (const Skriptende &) {
+    } catch (const std::exception &fehler) {
+        melde(fehler.what());
+        ++bilanz.gescheitert;
+    }
+    return bilanz;
+}
+
+void Szene::laufe() {
+    while (zeitbefehl || !rest.empty()) {
+        try {
+            if (zeitbefehl)
+                zeitschritt();
+            else
+                nächsterBefehl();
+            if (gestartet && p().Formen().empty()) beende("ende");
+        } catch (const Laufzeitfehler &fehler) {
+            brichAb(p(), fehler);
+            schlusswort = fehler.what();
+            beende(Fehlerworte[static_cast<std::size_t>(fehler.Art())]);
+        } catch (const Programmende &) {
+            beende("ende");
+        } catch (const Neuanfang &) {
+        } catch (const Skriptende &) {
+            return;
+        }
+    }
+}
+
+void Szene::nächsterBefehl() {
+    std::vector<Wort> wörter;
+    const int außen = zeile;
+    Zeile hier;
+    while (wörter.empty()) {
+        if (rest.empty()) {
+            if (wartende > 0) throw Skriptende{};
+            return;
+        }
+        hier = std::move(rest.front());
+        rest.pop_front();
+        zeile = hier.nummer;
+        wörter = zerlege(hier.text);
+    }
+    const Befehlseintrag &befehl = findeBefehl(wörter);
+    if (ende != std::string_view("keiner") && !befehl.auchAmEnde)
+        throw Schreibfehler("das Programm ist zu Ende" + (schlusswort.empty() ? "" : ": " + schlusswort));
+    if (befehl.beginntNeu && wartende > 0) {
+        rest.push_front(std::move(hier));
+        throw Neuanfang{};
+    }
+    befehl.führeAus(*this, Wörter(wörter).subspan(1));
+    zeile = außen; // beim Fehler bleibt die Zeile stehen, die ihn machte
+}
+
+void Szene::starte() {
+    if (gestartet || ende != std::string_view("keiner")) {
+        fläche.leere();
+        neuesProgramm();
+    }
+    gestartet = true;
+    p().behandle([this] { velmo::starte(p()); });
+}
+
+void Szene::neuesProgramm() {
+    namen.reset();
+    programm.reset();
+    ende = "keiner";
+    schlusswort.clear();
+    ergebnis = Leer{};
+    gestartet = false;
+    programm = std::make_unique<Programm>(fläche, Formtafel(), ordner.Pfad());
+    namen = std::make_unique<Namen>(*programm, fläche);
+}
+
+void Szene::schiebeEin(std::initializer_list<std::string> zeilen) {
+    for (const std::string &text : std::views::reverse(zeilen))
+        rest.push_front({zeile, text});
+}
+
+void Szene::beende(const char *fehler) {
+    if (ende != std::string_view("keiner")) return;
+    ende = fehler;
+    gestartet = false;
+    if (zeitbefehl && !erfüllt()) zeitIstUm();
+}
+
+Zugang Szene::finde(const std::string &Name) {
+    if (Name == "ergebnis") return {[this] { return ergebnis; }, {}};
+    if (Name == "fehler") return {[this] { return Wert(std::string(ende)); }, {}};
+    return namen->finde(Name);
+}
+
+void Szene::prüfe(bool gilt, const std::string &ist, const std::string &erwartet) {
+    ++(gilt ? bilanz.bestanden : bilanz.gescheitert);
+    if (!gilt) melde(ist + ", erwartet " + erwartet);
+}
+
+void Szene::melde(const std::string &text) const { std::cout << datei << ':' << zeile << ": " << text << '\n'; }
+
+} // namespace velmo
