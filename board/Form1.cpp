@@ -11,6 +11,7 @@
 #include "platform/FormAnpassen.h"
 #include "property/Bauen.h"
 #include "property/Eingänge.h"
+#include "property/Exchange.h"
 
 namespace velmo {
 
@@ -47,7 +48,7 @@ void Form1::verbindeKnöpfe() {
     };
     Command2.Click = [this] { p.zeige("Karten"); };
     SSCommand1.Click = [this] { Ansagen(p, "Wollen Sie wirklich beenden?", 100); };
-    SSCommand2.Click = [this] { p.zeige("Exchange"); };
+    SSCommand2.Click = [this] { ExchangeÖffnen(p); };
     Picture2.Click = SSCommand2.Click;
     SSCommand3.Click = [this] { p.zeige("frmHilfe"); };
     Label1.MouseDown = [this](Maustaste taste, double, double) { Label1_MouseDown(taste); };

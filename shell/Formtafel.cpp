@@ -1,7 +1,13 @@
 #include "shell/Formtafel.h"
 
 #include "board/Form1.h"
+#include "property/Baufeld.h"
+#include "property/Bauphase.h"
 #include "property/Bezahlen.h"
+#include "property/Exchange.h"
+#include "property/Karten.h"
+#include "property/eingang.h"
+#include "property/geldfeld.h"
 #include "shell/Gewinn.h"
 #include "shell/HoF.h"
 #include "shell/Verloren.h"
@@ -11,7 +17,9 @@ namespace velmo {
 namespace {
 
 constexpr Formeintrag Tafel[] = {
-    eintrag<Form1>(), eintrag<Bezahlen>(), eintrag<Verloren>(), eintrag<Gewinn>(), eintrag<HoF>(),
+    eintrag<Form1>(),    eintrag<Baufeld>(), eintrag<Bauphase>(), eintrag<Exchange>(),
+    eintrag<Karten>(),   eintrag<eingang>(), eintrag<geldfeld>(), eintrag<Bezahlen>(),
+    eintrag<Verloren>(), eintrag<Gewinn>(),  eintrag<HoF>(),
 };
 
 } // namespace

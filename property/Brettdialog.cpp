@@ -1,0 +1,29 @@
+#include "property/Brettdialog.h"
+
+#include "model/Brett.h"
+#include "platform/FormAnpassen.h"
+
+#include <cmath>
+
+namespace velmo {
+
+Brettdialog::Brettdialog(Programm &programm, const char *Name, double Breite, double Höhe)
+    : Form(programm, Name, {0, 0, Breite, Höhe}), p(programm) {
+    MouseDown = zieht();
+}
+
+Maushandler Brettdialog::zieht() {
+    return [this](auto...) { p.eingabe.zieheForm(*this); };
+}
+
+void Brettdialog::Form_Load() {
+    if (p.Zustand.KleineSchrift) FormAnpassen(*this, 0);
+    const Bildschirm schirm = p.Screen();
+    Left = std::trunc((schirm.Width - Width) / 2);
+    Top = std::trunc((schirm.Height - Height) / 2);
+    brett(p).Enabled = false;
+}
+
+void Brettdialog::Form_Unload() { brett(p).Enabled = true; }
+
+} // namespace velmo

@@ -1,7 +1,0 @@
-#include "property/Tausch.h"
-
-namespace velmo {
-
-void ExchangeÖffnen(Programm &p) { p.zeige("Exchange"); }
-
-} // namespace velmo
