@@ -8,7 +8,7 @@ from klangbau import (BLECH, BRETT, FELL, GLAS, GLOCKE, GLOCKENSPIEL, HOLZBLOCK,
 
 def filzstoß(dauer, tief, saat, hell=900):
     """Weicher Aufprall: dumpfer Körper und ein Hauch Stoff."""
-    y = schlag(dauer, tief, ((1, 1, 1), (1.7, .4, .6)), dauer / 6, .005)
+    y = schlag(dauer, tief, ((1, 1, 1), (1.7, .4, .6)), dauer / 6, min(.005, .9 / tief))
     y += .25 * filtern(rauschen(dauer, saat), ("tief", hell, .7)) * np.exp(-zeit(dauer) / (dauer / 12))
     return y / np.abs(y).max()
 
@@ -19,13 +19,13 @@ def holz(dauer, grund, abkling=.02, kontakt=.0005, moden=HOLZBLOCK):
 
 
 def marimba(tonhöhe, dauer=.9, stärke=1.):
-    """Je stärker, desto kürzer der Kontakt, desto heller."""
-    y = schlag(dauer, note(tonhöhe), MARIMBA, .45 * (60 / tonhöhe) ** 3, .0042 - .0022 * stärke)
+    """Je stärker, desto kürzer der Kontakt (immer unter einer Schwingung), desto heller."""
+    y = schlag(dauer, note(tonhöhe), MARIMBA, .5 * (60 / tonhöhe) ** 3, (1.0 - .6 * stärke) / note(tonhöhe))
     return stärke * y / np.abs(y).max()
 
 
 def glockenspiel(tonhöhe, dauer=1.6):
-    y = schlag(dauer, note(tonhöhe), GLOCKENSPIEL, .55, .0006)
+    y = schlag(dauer, note(tonhöhe), GLOCKENSPIEL, .55, .0003)
     return y / np.abs(y).max()
 
 
@@ -101,7 +101,7 @@ def money_click():
 
 def motor(dauer, drehzahl, lauter, saat):
     """Aufziehauto: Zündfolge im Blechkasten, Zahnrad und Rädergeklapper. Die Kurven sind Linien über die Dauer."""
-    zündung = falten(impulse(dauer, drehzahl, saat, .012, .22), schlag(.06, 235, BRETT, .011, .0022))[:anzahl(dauer)]
+    zündung = falten(impulse(dauer, drehzahl, saat, .012, .22), schlag(.06, 290, BRETT, .011, .0016))[:anzahl(dauer)]
     blech = falten(impulse(dauer, drehzahl * .5, saat + 1, .02, .3), eigenton(.04, 900, BLECH, .006))[:anzahl(dauer)]
     zahn = np.sin(2 * np.pi * np.cumsum(drehzahl * 9) / RATE) * (1 + .5 * np.sin(2 * np.pi * np.cumsum(drehzahl) / RATE))
     zahn = filtern(np.tanh(1.5 * zahn), ("tief", 1500, .7))
@@ -151,14 +151,14 @@ def kasse():
     for wann, grund, stärke in ((.002, 520, .7), (.028, 760, .5), (.052, 610, .45)):
         legen(bild, wann, holz(.09, grund, .012, .0007, BLECH), stärke, -.2)
     legen(bild, .05, filzstoß(.14, 120, 71), .5, -.1)
-    glocke = schlag(1.1, 2093, GLOCKE, .26, .0005)
+    glocke = schlag(1.1, 2093, GLOCKE, .26, .0002)
     legen(bild, .085, glocke / np.abs(glocke).max(), .62, .15)
     lauf = gleitband(rauschen(.26, 72), verlauf(.26, (0, 700), (.26, 1500)), 1.2) * bogen(.26, .05, .05)
     legen(bild, .1, lauf / np.abs(lauf).max(), .16, .1)
     legen(bild, .335, holz(.2, 205, .035, .002, BRETT), .6, .15)
     w = würfel(73)
     for k in range(7):
-        münze = schlag(.16, 3300 + 2400 * w.random_sample(), GLAS, .03, .0004)
+        münze = schlag(.16, 3300 + 2400 * w.random_sample(), GLAS, .03, .0002)
         legen(bild, .35 + .03 * k + .022 * w.random_sample(), münze / np.abs(münze).max(), .22 * .85 ** k, .3 - .1 * k)
     return raum(bild, .2, .6)
 
@@ -212,31 +212,31 @@ def glass():
     legen(bild, .44, filzstoß(.15, 160, 103), .45)
     for k in range(34):
         wann = .44 + .55 * w.random_sample() ** 2.2
-        y = schlag(.35, 1500 * 2 ** (1.9 * w.random_sample()), GLAS, .02 + .05 * w.random_sample(), .0004)
+        y = schlag(.35, 1500 * 2 ** (1.9 * w.random_sample()), GLAS, .02 + .05 * w.random_sample(), .0002)
         legen(bild, wann, y / np.abs(y).max(), (.34 - .45 * (wann - .44)) * (.4 + .6 * w.random_sample()), 1.4 * w.random_sample() - .7)
     t, pause = 1.0, .13
     while pause > .022:
-        y = schlag(.25, 2480, GLAS, .035, .0006)
+        y = schlag(.25, 2480, GLAS, .035, .0003)
         legen(bild, t, y / np.abs(y).max(), .2 * pause / .13 + .05, .35)
         t, pause = t + pause, pause * .84
     return raum(bild, .25, .7)
 
 
-LAUTE = {"a": ((820, 110, 1), (1280, 120, .6), (2700, 180, .22), (3600, 250, .12)),
-         "i": ((360, 70, 1), (2350, 150, .5), (3050, 200, .35), (3800, 250, .15)),
-         "o": ((500, 80, 1), (880, 100, .55), (2500, 180, .1), (3400, 250, .05))}
+LAUTE = {"a": ((820, 110, 1), (1280, 130, .8), (2700, 200, .5), (3600, 280, .35)),
+         "i": ((360, 80, .8), (2350, 160, .8), (3050, 220, .6), (3800, 280, .3)),
+         "o": ((500, 90, 1), (880, 110, .7), (2500, 200, .3), (3400, 280, .2))}
 
 
 def silbe(laut, höhe, fall, dauer, größe, saat):
     """Eine Lachsilbe: Hauch, dann Stimme, deren Höhe um `fall` Halbtöne abrutscht. `größe` kleiner eins ist ein kleinerer Mund."""
     f = halbton(höhe, verlauf(dauer, (0, -1.5), (.25 * dauer, .6), (dauer, -fall)))
     f = f * (1 + .012 * np.sin(2 * np.pi * 27 * zeit(dauer)))
-    lippen = falten(impulse(dauer, f, saat, .002, .06), np.diff(np.hanning(max(8, int(.45 * RATE / höhe)))))[:anzahl(dauer)]
+    lippen = falten(impulse(dauer, f, saat, .002, .06), np.diff(np.hanning(max(8, int(.2 * RATE / höhe)))))[:anzahl(dauer)]
     hauch = filtern(rauschen(dauer, saat + 1), ("hoch", 500, .7))
     stimme = lippen / np.abs(lippen).max() * verlauf(dauer, (0, 0), (.22 * dauer, .05), (.34 * dauer, 1), (.62 * dauer, .8), (.95 * dauer, 0), (dauer, 0))
     hauch *= verlauf(dauer, (0, 0), (.1 * dauer, 1), (.3 * dauer, .5), (.5 * dauer, .12), (dauer, 0))
     mund = tuple((fm / größe, b, s) for fm, b, s in LAUTE[laut])
-    return formanten(stimme + .1 * hauch, *mund) + .012 * filtern(hauch, ("hoch", 2500, .7)) + .02 * stimme
+    return formanten(stimme + .16 * hauch, *mund) + .012 * filtern(hauch, ("hoch", 2500, .7)) + .02 * stimme
 
 
 LACHER = (  # Mund, Seite, Stärke, Silben: (Zeit, Laut, Höhe, Fall, Dauer)
@@ -289,15 +289,15 @@ def intro():
         see *= verlauf(dauer, (0, 0), (.5, .5), (1.6, 1), (3.0, .35), (4.1, .75), (5.4, .22), (9.4, .1))
         legen(bild, 0, see / np.abs(see).max(), .17, seite)
     for schlagzahl, höhe, stärke in WEISE:
-        legen(bild, schlagzahl * SCHLAG, marimba(höhe, 1.2, stärke), .34, -.15)
+        legen(bild, schlagzahl * SCHLAG, marimba(höhe, 1.2, stärke), .5, -.15)
         if schlagzahl >= 8:
-            legen(bild, schlagzahl * SCHLAG, marimba(höhe - 12, 1.2, stärke), .2, -.3)
+            legen(bild, schlagzahl * SCHLAG, marimba(höhe - 12, 1.2, stärke), .34, -.3)
     for schlagzahl, höhe in BASS:
-        legen(bild, schlagzahl * SCHLAG, saite(1.2, note(höhe - 12), .5, .28, helle=1.5), .42)
+        legen(bild, schlagzahl * SCHLAG, saite(1.2, note(höhe - 12), .5, .22, helle=1.1), .28)
     for beginn, *griff in UKULELE:
         for achtel in ((0, 1.5) if beginn < 12 else (0,)):
             for k, höhe in enumerate(griff):
-                legen(bild, (beginn + achtel) * SCHLAG + .011 * k, saite(.7, note(höhe + 12 * (höhe < 60)), .16, .3), .085, .4)
+                legen(bild, (beginn + achtel) * SCHLAG + .011 * k, saite(.7, note(höhe + 12 * (höhe < 60)), .22, .2, helle=.9), .08, .4)
     besen = filtern(rauschen(.07, 123), ("hoch", 4500, .8)) * np.exp(-zeit(.07) / .016) * bogen(.07, .006, .02)
     for achtel in range(8, 26):
         legen(bild, achtel / 2 * SCHLAG + .008 * (achtel % 2), besen / np.abs(besen).max(), .05 + .035 * (achtel % 2), .3)
@@ -312,11 +312,11 @@ def intro():
     spur = motor(fahrt, verlauf(fahrt, (0, 60), (.9, 96), (1.35, 88), (1.75, 40), (fahrt, 30)),
                  verlauf(fahrt, (0, 0), (.8, .75), (1.3, .9), (1.75, .35), (fahrt, 0)), 126)
     seite = verlauf(fahrt, (0, -.9), (1.6, .35), (fahrt, .35))
-    legen(bild, 6.75, np.stack((spur * np.cos((seite + 1) * np.pi / 4), spur * np.sin((seite + 1) * np.pi / 4)), 1), .26)
-    legen(bild, 12 * SCHLAG, hupe(415, .13), .2, .1)
-    legen(bild, 12.5 * SCHLAG, hupe(415, .2), .22, .15)
+    legen(bild, 6.75, np.stack((spur * np.cos((seite + 1) * np.pi / 4), spur * np.sin((seite + 1) * np.pi / 4)), 1), .34)
+    legen(bild, 12 * SCHLAG, hupe(415, .13), .32, .1)
+    legen(bild, 12.5 * SCHLAG, hupe(415, .2), .34, .15)
     bremse = gleitband(rauschen(.3, 127), verlauf(.3, (0, 2100), (.3, 1500)), 30) * bogen(.3, .04, .08)
-    legen(bild, 8.2, bremse / np.abs(bremse).max(), .07, .35)
+    legen(bild, 8.2, bremse / np.abs(bremse).max(), .11, .35)
     legen(bild, 14 * SCHLAG, holz(.25, 420, .03), .22, .2)
     for höhe in (72, 76, 79, 86):
         legen(bild, 14 * SCHLAG, glockenspiel(höhe + 12, 1.2), .07, .2)
@@ -325,7 +325,7 @@ def intro():
 
 
 TAFEL = (  # Datei, Welle, Spitze in dB, Ausklang in s
-    ("intro.wav", intro, -2.0, .35),
+    ("intro.wav", intro, -3.0, .35),
     ("click2.wav", click2, -9.0, .03),
     ("click1.wav", click1, -4.0, .05),
     ("menuback.wav", menuback, -5.0, .08),
@@ -337,8 +337,8 @@ TAFEL = (  # Datei, Welle, Spitze in dB, Ausklang in s
     ("command_click.wav", command_click, -5.0, .04),
     ("kback.wav", kback, -4.0, .12),
     ("kbf.wav", kbf, -5.0, .05),
-    ("glass.wav", glass, -4.0, .25),
-    ("laugh.wav", laugh, -3.0, .12),
+    ("glass.wav", glass, -6.0, .25),
+    ("laugh.wav", laugh, -5.0, .12),
 )
 
 
