@@ -18,6 +18,8 @@ class Form : public Besitzer {
 
     Laufzeit &laufzeit;
     const char *const Name;
+    /// Eigen für jede geladene Form, auch wenn sie denselben Namen trägt wie eine frühere.
+    const std::uint64_t Nummer;
     Eigenschaft<double> Left, Top, Width, Height;
     Eigenschaft<bool> Visible{*this, false};
     Eigenschaft<bool> Enabled{*this, true};

@@ -1,0 +1,112 @@
+#include "window/Bedienelemente.h"
+
+#include "include/Programm.h"
+#include "window/Farbtöne.h"
+#include "window/Schrift.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+namespace velmo {
+
+namespace {
+
+/// Schrift in Längen des Fensters.
+void nimmSchrift(QWidget &w, const Schriftelement &e, const Maß &m) {
+    w.setFont(schrift(e.FontName, e.FontSize, e.FontBold, m.jeTwip / m.dichte));
+}
+
+Bedienelement textfeld(TextBox &feld, QWidget *form, Programm &p, const Bearbeiter &bearbeite) {
+    auto *w = new QLineEdit(form);
+    QObject::connect(w, &QLineEdit::textEdited, w, [&, bearbeite](const QString &neu) {
+        bearbeite([&] { p.eingabe.tippe(feld, neu.normalized(QString::NormalizationForm_C).toStdString()); });
+    });
+    return {w, [w, &feld](const Maß &m) {
+                nimmSchrift(*w, feld, m);
+                if (w->text() != text(feld.Text)) w->setText(text(feld.Text));
+            }};
+}
+
+Bedienelement textfläche(TextBox &feld, QWidget *form) {
+    auto *w = new QPlainTextEdit(form);
+    w->setReadOnly(true);
+    w->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    return {w, [w, &feld](const Maß &m) {
+                nimmSchrift(*w, feld, m);
+                if (w->toPlainText() != text(feld.Text)) w->setPlainText(text(feld.Text));
+            }};
+}
+
+void doppelklick(Programm &p, const VisualControl &c) {
+    const Punkt ecke = Eingabe::ort(c);
+    p.eingabe.doppelklick({ecke.x + c.Width / 2, ecke.y + c.Height / 2});
+}
+
+Bedienelement liste(Listenelement &l, QWidget *form, Programm &p, const Bearbeiter &bearbeite) {
+    auto *w = new QListWidget(form);
+    w->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    QObject::connect(w, &QListWidget::currentRowChanged, w,
+                     [&, bearbeite](int zeile) { bearbeite([&] { p.eingabe.wähle(l, zeile); }); });
+    QObject::connect(w, &QListWidget::itemDoubleClicked, w, [&, bearbeite] { bearbeite([&] { doppelklick(p, l); }); });
+    return {w, [w, &l](const Maß &m) {
+                const QSignalBlocker still(w);
+                nimmSchrift(*w, l, m);
+                QStringList zeilen, da;
+                for (const std::string &z : l.Zeilen())
+                    zeilen << text(z);
+                for (int i = 0; i < w->count(); ++i)
+                    da << w->item(i)->text();
+                if (zeilen != da) {
+                    w->clear();
+                    w->addItems(zeilen);
+                }
+                const int zeile = static_cast<int>(l.ListIndex);
+                if (w->currentRow() != zeile) w->setCurrentRow(zeile);
+                if (w->currentItem()) w->scrollToItem(w->currentItem());
+            }};
+}
+
+Bedienelement auswahl(Listenelement &l, QWidget *form, Programm &p, const Bearbeiter &bearbeite) {
+    auto *w = new QComboBox(form);
+    QObject::connect(w, &QComboBox::activated, w,
+                     [&, bearbeite](int zeile) { bearbeite([&] { p.eingabe.wähle(l, zeile); }); });
+    return {w, [w, &l](const Maß &m) {
+                const QSignalBlocker still(w);
+                nimmSchrift(*w, l, m);
+                if (w->count() != l.ListCount()) {
+                    w->clear();
+                    for (const std::string &z : l.Zeilen())
+                        w->addItem(text(z));
+                }
+                w->setCurrentIndex(static_cast<int>(l.ListIndex));
+            }};
+}
+
+Bedienelement rollbalken(VScrollBar &leiste, QWidget *form, Programm &p, const Bearbeiter &bearbeite) {
+    auto *w = new QScrollBar(Qt::Vertical, form);
+    w->setRange(0, 1);
+    w->setPageStep(1);
+    QObject::connect(w, &QScrollBar::valueChanged, w,
+                     [&, bearbeite](int wert) { bearbeite([&] { p.eingabe.rolle(leiste, wert); }); });
+    return {w, [w, &leiste](const Maß &) {
+                const QSignalBlocker still(w);
+                w->setValue(static_cast<int>(leiste.Value));
+            }};
+}
+
+} // namespace
+
+Bedienelement bedienelement(VisualControl &c, QWidget *form, Programm &p, const Bearbeiter &bearbeite) {
+    if (auto *feld = dynamic_cast<TextBox *>(&c))
+        return feld->MultiLine ? textfläche(*feld, form) : textfeld(*feld, form, p, bearbeite);
+    if (auto *l = dynamic_cast<ComboBox *>(&c)) return auswahl(*l, form, p, bearbeite);
+    if (auto *l = dynamic_cast<Listenelement *>(&c)) return liste(*l, form, p, bearbeite);
+    if (auto *leiste = dynamic_cast<VScrollBar *>(&c)) return rollbalken(*leiste, form, p, bearbeite);
+    return {};
+}
+
+} // namespace velmo

@@ -1,0 +1,45 @@
+#include "window/Bildspeicher.h"
+
+#include "window/Schrift.h"
+
+#include <QImageReader>
+
+namespace velmo {
+
+namespace {
+
+constexpr int FertigeKiB = 384 << 10, RoheKiB = 64 << 10;
+
+int kosten(const QSize &g) { return static_cast<int>(qint64(g.width()) * g.height() * 4 / 1024 + 1); }
+
+} // namespace
+
+Bildspeicher::Bildspeicher() : fertige(FertigeKiB), rohe(RoheKiB) {}
+
+const QImage &Bildspeicher::roh(const QString &Datei) {
+    if (const QImage *da = rohe.object(Datei)) return *da;
+    QImageReader leser(Datei);
+    QImage gelesen = leser.read();
+    gelesen =
+        gelesen.convertToFormat(gelesen.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+    auto *bild = new QImage(std::move(gelesen));
+    rohe.insert(Datei, bild, std::min(kosten(bild->size()), RoheKiB));
+    return *bild;
+}
+
+QSize Bildspeicher::rohgröße(const std::string &Datei) { return Datei.empty() ? QSize() : roh(text(Datei)).size(); }
+
+QPixmap Bildspeicher::bild(const std::string &Datei, const QSize &größe) {
+    if (Datei.empty() || größe.isEmpty()) return {};
+    const Schlüssel schlüssel{text(Datei), größe};
+    if (const QPixmap *da = fertige.object(schlüssel)) return *da;
+    if (inEile && letzte.contains(schlüssel.Datei)) return letzte[schlüssel.Datei];
+    const QImage &ganz = roh(schlüssel.Datei);
+    if (ganz.isNull()) return {};
+    QPixmap fertig = QPixmap::fromImage(ganz.scaled(größe, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    letzte[schlüssel.Datei] = fertig;
+    fertige.insert(schlüssel, new QPixmap(fertig), kosten(größe));
+    return fertig;
+}
+
+} // namespace velmo

@@ -1,0 +1,41 @@
+#pragma once
+// Die Bilder in der Größe, in der sie gezeigt werden. Jede Größe entsteht einmal.
+#include <QCache>
+#include <QHash>
+#include <QImage>
+#include <QPixmap>
+
+#include <string>
+
+namespace velmo {
+
+class Bildspeicher {
+  public:
+    Bildspeicher();
+    /// Das Bild der Datei in der Größe; ein leeres, wenn es sich nicht lesen lässt. In Eile ist es eines von anderer
+    /// Größe, wenn es eines gibt.
+    QPixmap bild(const std::string &Datei, const QSize &);
+    /// Die Größe des Bildes auf der Platte, ein Viertel Bildpunkt des Entwurfs je Punkt.
+    QSize rohgröße(const std::string &Datei);
+    /// Solange der Spieler am Fenster zieht, genügen die Bilder der alten Größe.
+    void eile(bool an) { inEile = an; }
+
+  private:
+    const QImage &roh(const QString &Datei);
+
+    struct Schlüssel {
+        QString Datei;
+        QSize größe;
+        bool operator==(const Schlüssel &) const = default;
+    };
+    friend size_t qHash(const Schlüssel &s, size_t keim) {
+        return qHashMulti(keim, s.Datei, s.größe.width(), s.größe.height());
+    }
+
+    QCache<Schlüssel, QPixmap> fertige; // Kosten in KiB
+    QCache<QString, QImage> rohe;
+    QHash<QString, QPixmap> letzte;
+    bool inEile = false;
+};
+
+} // namespace velmo

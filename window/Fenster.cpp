@@ -1,0 +1,220 @@
+#include "window/Fenster.h"
+
+#include "include/Programm.h"
+#include "window/Farbtöne.h"
+#include "window/Schrift.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPainter>
+#include <QScreen>
+#include <QShortcut>
+
+#include <algorithm>
+#include <ranges>
+
+namespace velmo {
+
+namespace {
+
+constexpr QSize Entwurf(800, 600);
+constexpr int Ruhezeit = 150; // ms
+
+/// Die größte bequeme Größe, die auf den Bildschirm passt.
+QSize anfangsgröße(const QSize &bildschirm) {
+    const QSize platz = bildschirm * 0.85;
+    for (const int drittel : {9, 6, 4, 3, 2}) {
+        const QSize größe = Entwurf * drittel / 2;
+        if (größe.width() <= platz.width() && größe.height() <= platz.height()) return größe;
+    }
+    return Entwurf.scaled(platz, Qt::KeepAspectRatio);
+}
+
+} // namespace
+
+/// Das Bild, das der Spieler zieht, unter dem Zeiger.
+class Fenster::Ziehbild : public QWidget {
+  public:
+    explicit Ziehbild(QWidget *anzeige) : QWidget(anzeige) {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        hide();
+    }
+    void zeige(const QPixmap &neu, const QRect &ort) {
+        bild = neu;
+        setGeometry(ort);
+        setVisible(true);
+        raise();
+    }
+
+  protected:
+    void paintEvent(QPaintEvent *) override { QPainter(this).drawPixmap(rect(), bild); }
+
+  private:
+    QPixmap bild;
+};
+
+Fenster::Fenster(Umgebung &u, std::function<void()> schließt)
+    : u(u), schließt(std::move(schließt)), anzeige(this), ziehbild(new Ziehbild(&anzeige)) {
+    setWindowTitle("Velmo");
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    anzeige.setMouseTracking(true);
+    setMinimumSize(Entwurf / 2);
+    resize(anfangsgröße(QGuiApplication::primaryScreen()->availableSize()));
+    for (const char *taste : {"F11", "Alt+Return", "Alt+Enter"})
+        connect(new QShortcut(QKeySequence(taste), this), &QShortcut::activated, this, [this] { wechsleVollbild(); });
+    beruhigt.setSingleShot(true);
+    beruhigt.setInterval(Ruhezeit);
+    beruhigt.callOnTimeout([this] {
+        this->u.bilder.eile(false);
+        for (auto &[nummer, fläche] : flächen)
+            fläche->update();
+    });
+    messe();
+}
+
+void Fenster::wechsleVollbild() { setWindowState(windowState() ^ Qt::WindowFullScreen); }
+
+void Fenster::messe() {
+    const double dichte = devicePixelRatioF();
+    const double strecke =
+        std::min(width() / double(Entwurf.width()), height() / double(Entwurf.height())); // je Bildpunkt des Entwurfs
+    const QSize größe(static_cast<int>(Entwurf.width() * strecke), static_cast<int>(Entwurf.height() * strecke));
+    anzeige.setGeometry((width() - größe.width()) / 2, (height() - größe.height()) / 2, größe.width(), größe.height());
+    maß = {strecke * dichte / 12, dichte};
+}
+
+Formfläche *Fenster::fläche(const Form &form) const {
+    const auto hier = flächen.find(form.Nummer);
+    return hier == flächen.end() ? nullptr : hier->second;
+}
+
+void Fenster::folge() {
+    const auto formen = u.p.Formen();
+    std::erase_if(flächen, [&](const auto &eintrag) {
+        if (std::ranges::any_of(formen, [&](const Form *f) { return f->Nummer == eintrag.first; })) return false;
+        eintrag.second->hide();
+        eintrag.second->deleteLater();
+        return true;
+    });
+    for (const Form *form : formen) {
+        Formfläche *&fläche = flächen[form->Nummer];
+        if (!fläche) {
+            fläche = new Formfläche(&anzeige, u);
+            if (windowIcon().isNull() && !form->Icon().leer()) setWindowIcon(QIcon(text(form->Icon().Datei)));
+        }
+        fläche->folge(*form, maß, u.p.eingabe.gezogen());
+    }
+    folgeReihenfolge(formen);
+    folgeVorderster(formen);
+    folgeGezogenem();
+}
+
+void Fenster::folgeReihenfolge(const std::vector<Form *> &formen) {
+    std::vector<std::uint64_t> neu;
+    for (const Form *form : formen)
+        neu.push_back(form->Nummer);
+    if (neu == reihenfolge) return;
+    reihenfolge = std::move(neu);
+    for (const std::uint64_t nummer : reihenfolge)
+        flächen[nummer]->raise();
+}
+
+/// Eine Form, die nach vorn kommt, nimmt die Tastatur: ihr erstes Textfeld, sonst das Fenster.
+void Fenster::folgeVorderster(const std::vector<Form *> &formen) {
+    const auto vorn = std::ranges::find_if(formen | std::views::reverse,
+                                           [](const Form *f) { return f->Visible() && f->Enabled() && !f->Topmost(); });
+    const std::uint64_t nummer = vorn == std::ranges::rend(formen) ? 0 : (*vorn)->Nummer;
+    if (nummer == vorderste) return;
+    vorderste = nummer;
+    QWidget *feld = nummer ? flächen[nummer]->findChild<QLineEdit *>() : nullptr;
+    (feld ? feld : this)->setFocus();
+}
+
+void Fenster::folgeGezogenem() {
+    const VisualControl *gezogen = u.p.eingabe.gezogen();
+    const auto *bild = dynamic_cast<const Image *>(gezogen);
+    const Formfläche *quelle = gezogen ? fläche(gezogen->form) : nullptr;
+    if (!bild || !quelle || !quelle->stück(*bild)) return ziehbild->hide();
+    const Punkt zeiger = u.p.eingabe.zeiger();
+    const Stück &s = *quelle->stück(*bild);
+    const QRect punkte = maß.rechteck({zeiger.x - s.Width / 2, zeiger.y - s.Height / 2, s.Width, s.Height});
+    ziehbild->zeige(u.bilder.bild(s.bild, punkte.size()), maß.fensterrechteck(punkte));
+}
+
+/// Die Hand zeigt, was sich anfassen lässt.
+void Fenster::folgeZeiger(Punkt p) {
+    const Treffer t = u.p.eingabe.trifft(p);
+    Qt::CursorShape zeiger = Qt::ArrowCursor;
+    if (t.control && t.control->Click) zeiger = Qt::PointingHandCursor;
+    if (t.control && t.control->DragMode) zeiger = Qt::OpenHandCursor;
+    if (u.p.eingabe.gezogen()) zeiger = Qt::ClosedHandCursor;
+    if (anzeige.cursor().shape() != zeiger) anzeige.setCursor(zeiger);
+}
+
+Punkt Fenster::ort(const QMouseEvent &e) const {
+    const QPointF p = (e.position() - QPointF(anzeige.pos())) * maß.dichte / maß.jeTwip;
+    return {p.x(), p.y()};
+}
+
+void Fenster::paintEvent(QPaintEvent *e) {
+    QPainter p(this);
+    p.fillRect(e->rect(), farbton::Tisch);
+}
+
+void Fenster::resizeEvent(QResizeEvent *) {
+    u.bilder.eile(isVisible());
+    beruhigt.start();
+    messe();
+    folge();
+}
+
+void Fenster::closeEvent(QCloseEvent *e) {
+    e->ignore();
+    schließt();
+}
+
+void Fenster::keyPressEvent(QKeyEvent *e) {
+    const auto formen = u.p.Formen();
+    const auto vorn = std::ranges::find_if(formen | std::views::reverse, [](const Form *f) { return f->Visible(); });
+    if (e->text().isEmpty() || vorn == std::ranges::rend(formen)) return QWidget::keyPressEvent(e);
+    u.bearbeite([&] { u.p.eingabe.taste(**vorn, e->text().toStdString()); });
+}
+
+void Fenster::mouseMoveEvent(QMouseEvent *e) {
+    const Punkt p = ort(*e);
+    u.bearbeite([&] {
+        u.p.eingabe.bewege(p);
+        folgeZeiger(p);
+    });
+}
+
+namespace {
+
+std::optional<Maustaste> maustaste(const QMouseEvent &e) {
+    if (e.button() == Qt::LeftButton) return Maustaste::Links;
+    if (e.button() == Qt::RightButton) return Maustaste::Rechts;
+    return std::nullopt;
+}
+
+} // namespace
+
+void Fenster::mousePressEvent(QMouseEvent *e) {
+    if (const auto taste = maustaste(*e)) u.bearbeite([&] { u.p.eingabe.drücke(*taste, ort(*e)); });
+}
+
+void Fenster::mouseReleaseEvent(QMouseEvent *e) {
+    if (const auto taste = maustaste(*e)) u.bearbeite([&] { u.p.eingabe.löse(*taste, ort(*e)); });
+}
+
+/// Zwei rasche Drücke sind zwei, außer wo ein Doppelklick etwas bedeutet.
+void Fenster::mouseDoubleClickEvent(QMouseEvent *e) {
+    const VisualControl *c = u.p.eingabe.trifft(ort(*e)).control;
+    if (!c || !c->DblClick) return mousePressEvent(e);
+    u.bearbeite([&] { u.p.eingabe.doppelklick(ort(*e)); });
+}
+
+} // namespace velmo

@@ -1,0 +1,242 @@
+#include "window/Formfläche.h"
+
+#include "include/Programm.h"
+#include "window/Farbtöne.h"
+#include "window/Knopf.h"
+#include "window/Malen.h"
+#include "window/Schrift.h"
+#include "window/Umriss.h"
+
+#include <QApplication>
+#include <QHelpEvent>
+#include <QPaintEvent>
+#include <QToolTip>
+
+#include <algorithm>
+
+namespace velmo {
+
+namespace {
+
+/// Drückt den Knopf in seiner Mitte, wie es die Maus täte.
+void drücke(Eingabe &eingabe, const VisualControl &c) {
+    const Punkt ecke = Eingabe::ort(c), mitte{ecke.x + c.Width / 2, ecke.y + c.Height / 2};
+    eingabe.drücke(Maustaste::Links, mitte);
+    eingabe.löse(Maustaste::Links, mitte);
+}
+
+} // namespace
+
+Formfläche::Formfläche(QWidget *anzeige, Umgebung &u) : QWidget(anzeige), u(u) {
+    setMouseTracking(true);
+    hide();
+}
+
+void Formfläche::folge(const Form &form, const Maß &m, const VisualControl *gezogen) {
+    if (gezogen && &gezogen->form != &form) gezogen = nullptr;
+    if (stand == form.Stand() && m == maß && gezogen == gezogenes) return;
+    const bool ganz = !stand || m != maß;
+    stand = form.Stand();
+    maß = m;
+    gezogenes = gezogen;
+    folgePlatz(form);
+    folgeListe(form, gezogen);
+    folgeZeichnung(form);
+    folgeBedienelemente(form);
+    if (ganz) update();
+    setVisible(form.Visible);
+}
+
+void Formfläche::folgePlatz(const Form &form) {
+    const Bildschirm schirm = u.p.Screen();
+    const bool füllt = form.Left <= 0 && form.Top <= 0 && form.Left + form.Width >= schirm.Width &&
+                       form.Top + form.Height >= schirm.Height;
+    größe = maß.rechteck({0, 0, form.Width, form.Height}).size();
+    umriss = form.region() ? umrissVon(*form.region(), schirm.TwipsPerPixelX * maß.jeTwip) : QPainterPath();
+    rand = füllt || form.region() ? 0 : static_cast<int>(std::ceil(maß.strich(10) / maß.dichte) * maß.dichte);
+    const QPoint ecke(maß.punkt(form.Left), maß.punkt(form.Top));
+    setGeometry(maß.fensterrechteck(QRect(ecke, größe).adjusted(-rand, -rand, rand, rand)));
+    setAttribute(Qt::WA_OpaquePaintEvent, umriss.isEmpty() && rand == 0);
+    const Grund neu{form.Picture().Datei, form.BackColor, füllt};
+    if (neu == grund) return;
+    grund = neu;
+    update();
+}
+
+void Formfläche::folgeListe(const Form &form, const VisualControl *gezogen) {
+    Zeichenliste neu = zeichenliste(form);
+    if (gezogen) blendeVerdeckendes(neu, gezogen);
+    std::swap(neu, liste);
+    const Zeichenliste &alt = neu;
+    for (std::size_t i = 0; i < std::max(alt.size(), liste.size()); ++i) {
+        if (i < alt.size() && i < liste.size() && alt[i] == liste[i]) continue;
+        if (i < alt.size() && alt[i].sichtbar) erneuere(malbereich(alt[i], maß));
+        if (i < liste.size() && liste[i].sichtbar) erneuere(malbereich(liste[i], maß));
+    }
+}
+
+/// Während der Spieler zieht, scheinen die Ziele durch das, was vor ihnen steht.
+void Formfläche::blendeVerdeckendes(Zeichenliste &alle, const VisualControl *gezogen) const {
+    for (auto vorn = alle.begin(); vorn != alle.end(); ++vorn) {
+        if (vorn->sorte != Sorte::Bild || vorn->ablage || vorn->control == gezogen) continue;
+        const QRect bereich = malbereich(*vorn, maß);
+        vorn->blass = std::any_of(alle.begin(), vorn, [&](const Stück &ziel) {
+            return ziel.ablage && ziel.sichtbar && ziel.sorte == Sorte::Bild &&
+                   malbereich(ziel, maß).intersects(bereich);
+        });
+    }
+}
+
+void Formfläche::folgeZeichnung(const Form &form) {
+    static const std::vector<std::pair<Rechteck, Farbe>> keine;
+    const auto &neu = form.Zeichnung() ? *form.Zeichnung() : keine;
+    const auto gleich = [&](std::size_t i) {
+        const auto &[a, fa] = zeichnung[i];
+        const auto &[b, fb] = neu[i];
+        return fa == fb && a.Left == b.Left && a.Top == b.Top && a.Width == b.Width && a.Height == b.Height;
+    };
+    for (std::size_t i = 0; i < std::max(neu.size(), zeichnung.size()); ++i) {
+        if (i < neu.size() && i < zeichnung.size() && gleich(i)) continue;
+        if (i < zeichnung.size()) erneuere(maß.rechteck(zeichnung[i].first));
+        if (i < neu.size()) erneuere(maß.rechteck(neu[i].first));
+    }
+    zeichnung = neu;
+}
+
+void Formfläche::folgeBedienelemente(const Form &form) {
+    for (const Stück &s : liste) {
+        QWidget *widget = nullptr;
+        if (s.sorte == Sorte::Knopf) {
+            Knopf *&knopf = knöpfe[s.control];
+            auto *c = const_cast<VisualControl *>(static_cast<const VisualControl *>(s.control));
+            if (!knopf) {
+                knopf = new Knopf(this, u.bilder);
+                connect(knopf, &Knopf::clicked, this, [this, c] { u.bearbeite([&] { drücke(u.p.eingabe, *c); }); });
+            }
+            knopf->zeige(s, maß);
+            widget = knopf;
+        } else if (s.sorte == Sorte::Bedienelement) {
+            auto *c = const_cast<VisualControl *>(static_cast<const VisualControl *>(s.control));
+            auto [hier, frisch] = bedienelemente.try_emplace(s.control);
+            if (frisch) hier->second = bedienelement(*c, this, u.p, u.bearbeite);
+            if (!hier->second.widget) continue;
+            hier->second.folge(maß);
+            widget = hier->second.widget;
+            widget->setEnabled(!s.gesperrt && form.Enabled);
+            widget->setToolTip(text(s.hinweis));
+        }
+        if (!widget) continue;
+        widget->setGeometry(maß.fensterrechteck(maß.rechteck(s.ort()).translated(rand, rand)));
+        widget->setVisible(s.sichtbar);
+    }
+}
+
+const Stück *Formfläche::stück(const Control &c) const {
+    const auto hier = std::find_if(liste.begin(), liste.end(), [&](const Stück &s) { return s.control == &c; });
+    return hier == liste.end() ? nullptr : &*hier;
+}
+
+void Formfläche::versetze(const Control &c, double dx, double dy) {
+    const Stück *s = stück(c);
+    if (!s) return;
+    erneuere(
+        malbereich(*s, maß).translated(versetztes == &c ? ortVon(*s).topLeft() - malort(*s, maß).topLeft() : QPoint()));
+    versetztes = dx == 0 && dy == 0 ? nullptr : &c;
+    versatz = {dx, dy};
+    erneuere(malbereich(*s, maß).translated(ortVon(*s).topLeft() - malort(*s, maß).topLeft()));
+}
+
+void Formfläche::erneuere(const Control &c) {
+    if (const Stück *s = stück(c)) erneuere(malbereich(*s, maß));
+}
+
+void Formfläche::erneuere(const QRect &punkte) {
+    update(maß.fensterrechteck(punkte.translated(rand, rand)).adjusted(-1, -1, 1, 1));
+}
+
+QRect Formfläche::ortVon(const Stück &s) const {
+    const QRect ort = malort(s, maß);
+    return s.control != versetztes ? ort : ort.translated(maß.punkt(versatz.x()), maß.punkt(versatz.y()));
+}
+
+void Formfläche::maleAlles(QPainter &p, const QRect &bereich) {
+    const QRect ganz(QPoint(), größe);
+    if (!grund.bild.empty()) maleBild(p, u.bilder, grund.bild, ganz);
+    if (grund.bild.empty() || u.bilder.rohgröße(grund.bild).isEmpty())
+        malePapier(p, maß, ganz, farbton::aus(grund.farbe), umriss.isEmpty() && !grund.füllt);
+    for (const auto &[r, farbe] : zeichnung)
+        p.fillRect(maß.rechteck(r), farbton::aus(farbe));
+    for (const Stück &s : liste) {
+        const QRect ort = ortVon(s);
+        if (!s.sichtbar || !malbereich(s, maß).translated(ort.topLeft() - malort(s, maß).topLeft()).intersects(bereich))
+            continue;
+        if (s.sorte == Sorte::Film) {
+            if (const QImage *film = u.filmbild(s.control)) p.drawImage(ort, *film);
+            continue;
+        }
+        p.setOpacity(s.blass ? 0.4 : 1);
+        male(p, u.bilder, maß, s, ort);
+    }
+    p.setOpacity(1);
+}
+
+void Formfläche::paintEvent(QPaintEvent *e) {
+    const auto punkte = [this](const QRect &r) {
+        return QRectF(r.x() * maß.dichte, r.y() * maß.dichte, r.width() * maß.dichte, r.height() * maß.dichte)
+            .toAlignedRect();
+    };
+    const QRect bereich = punkte(e->rect()).translated(-rand, -rand);
+    QPainter p(this);
+    p.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    p.scale(1 / maß.dichte, 1 / maß.dichte);
+    p.translate(rand, rand);
+    if (umriss.isEmpty()) {
+        if (rand > 0 && !QRect(QPoint(), größe).contains(bereich)) maleSchatten(p, QRect(QPoint(), größe), rand);
+        return maleAlles(p, bereich);
+    }
+    // Eine Form mit Umriss wird gezeichnet und dann mit glattem Rand ausgeschnitten.
+    const QRect teil = bereich.intersected(umriss.boundingRect().toAlignedRect().adjusted(-2, -2, 2, 2));
+    if (teil.isEmpty()) return;
+    QPixmap blatt(teil.size());
+    blatt.fill(Qt::transparent);
+    {
+        QPainter q(&blatt);
+        q.setRenderHints(p.renderHints());
+        q.translate(-teil.topLeft());
+        maleAlles(q, teil);
+    }
+    p.setPen(Qt::NoPen);
+    p.setBrush(blatt);
+    p.setBrushOrigin(teil.topLeft());
+    p.drawPath(umriss);
+}
+
+bool Formfläche::event(QEvent *e) {
+    if (e->type() != QEvent::ToolTip) return QWidget::event(e);
+    const auto *wo = static_cast<QHelpEvent *>(e);
+    const QPoint hier(static_cast<int>(wo->x() * maß.dichte) - rand, static_cast<int>(wo->y() * maß.dichte) - rand);
+    const auto s = std::find_if(liste.rbegin(), liste.rend(), [&](const Stück &s) {
+        return s.sichtbar && s.sorte != Sorte::Rahmen && s.sorte != Sorte::Linie && ortVon(s).contains(hier);
+    });
+    if (s == liste.rend() || s->hinweis.empty())
+        QToolTip::hideText();
+    else
+        QToolTip::showText(wo->globalPos(), text(s->hinweis), this);
+    return true;
+}
+
+/// Die Tabulatortaste bleibt in der Form.
+bool Formfläche::focusNextPrevChild(bool weiter) {
+    const auto alle = findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+    QList<QWidget *> erreichbar;
+    for (QWidget *w : alle)
+        if (w->isVisible() && w->isEnabled() && (w->focusPolicy() & Qt::TabFocus)) erreichbar << w;
+    if (erreichbar.isEmpty()) return false;
+    const auto jetzt = erreichbar.indexOf(QApplication::focusWidget());
+    const auto n = erreichbar.size();
+    const auto nächstes = jetzt < 0 ? (weiter ? 0 : n - 1) : (jetzt + (weiter ? 1 : n - 1)) % n;
+    erreichbar[nächstes]->setFocus(weiter ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
+}
+
+} // namespace velmo

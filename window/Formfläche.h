@@ -1,0 +1,83 @@
+#pragma once
+// Eine Form auf der Anzeige: zeichnet die Abschrift ihres Zustands und nur, was sich daran geändert hat. Mausereignisse
+// lässt sie zum Fenster durch.
+#include "window/Bedienelemente.h"
+#include "window/Bildspeicher.h"
+#include "window/Maß.h"
+#include "window/Zeichenliste.h"
+
+#include <QPainterPath>
+#include <QWidget>
+
+#include <functional>
+#include <map>
+#include <optional>
+
+namespace velmo {
+
+class Knopf;
+
+/// Was alle Formflächen gemeinsam haben.
+struct Umgebung {
+    Programm &p;
+    Bildspeicher bilder;
+    Bearbeiter bearbeite;
+    /// Das laufende Bild eines Films; null, wenn keins läuft.
+    std::function<const QImage *(const Control *)> filmbild;
+};
+
+class Formfläche : public QWidget {
+  public:
+    Formfläche(QWidget *anzeige, Umgebung &);
+
+    /// Bringt die Fläche auf den Stand der Form; gezogen ist das Steuerelement, das der Spieler gerade zieht.
+    void folge(const Form &, const Maß &, const VisualControl *gezogen);
+    /// Zeichnet alles neu, auch was sich nicht geändert hat.
+    void vergissStand() { stand.reset(); }
+
+    /// Wo das Steuerelement zu sehen ist, in Twips; nicht unter den Gezeichneten: null.
+    const Stück *stück(const Control &) const;
+    /// Zeigt es um dx, dy Twips verschoben.
+    void versetze(const Control &, double dx, double dy);
+    /// Zeichnet das Steuerelement neu.
+    void erneuere(const Control &);
+
+  protected:
+    void paintEvent(QPaintEvent *) override;
+    bool event(QEvent *) override;
+    bool focusNextPrevChild(bool weiter) override;
+
+  private:
+    struct Grund {
+        std::string bild;
+        Farbe farbe;
+        bool füllt = false; // die ganze Anzeige
+        bool operator==(const Grund &) const = default;
+    };
+    void folgePlatz(const Form &);
+    void folgeListe(const Form &, const VisualControl *gezogen);
+    void folgeZeichnung(const Form &);
+    void folgeBedienelemente(const Form &);
+    void blendeVerdeckendes(Zeichenliste &, const VisualControl *gezogen) const;
+    void erneuere(const QRect &punkte);
+    QRect ortVon(const Stück &) const;
+    void maleAlles(QPainter &, const QRect &bereich);
+
+    Umgebung &u;
+    Maß maß;
+    std::optional<std::uint64_t> stand;
+    const VisualControl *gezogenes = nullptr;
+    Grund grund;
+    QPainterPath umriss; // leer: das ganze Rechteck
+    int rand = 0;        // Bildpunkte ringsum für den Schatten
+    QSize größe;         // der Form, in Bildpunkten
+    Zeichenliste liste;
+    std::vector<std::pair<Rechteck, Farbe>> zeichnung;
+    const Control *versetztes = nullptr;
+    QPointF versatz; // Twips
+
+    std::map<const Control *, Knopf *> knöpfe;
+    std::map<const Control *, Bedienelement> bedienelemente;
+};
+
+} // namespace velmo

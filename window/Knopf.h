@@ -1,0 +1,38 @@
+#pragma once
+// Die Knöpfe des Spiels: ein Schalter des Systems (Tastatur, Vorlesen) in eigener Gestalt. Mit der Maus drückt ihn
+// die Eingabe des Spiels; mit der Tastatur meldet er sich über clicked.
+#include "window/Bildspeicher.h"
+#include "window/Maß.h"
+#include "window/Zeichenliste.h"
+
+#include <QAbstractButton>
+
+namespace velmo {
+
+class Knopf : public QAbstractButton {
+  public:
+    Knopf(QWidget *form, Bildspeicher &);
+    void zeige(const Stück &, const Maß &);
+
+  protected:
+    void paintEvent(QPaintEvent *) override;
+    void mousePressEvent(QMouseEvent *) override;
+    void mouseReleaseEvent(QMouseEvent *) override;
+    void mouseDoubleClickEvent(QMouseEvent *) override;
+    void mouseMoveEvent(QMouseEvent *) override;
+    void keyPressEvent(QKeyEvent *) override;
+    void enterEvent(QEnterEvent *) override;
+    void leaveEvent(QEvent *) override;
+    void focusInEvent(QFocusEvent *) override;
+
+  private:
+    void maleKörper(QPainter &, const QRectF &) const;
+    void maleInhalt(QPainter &, const QRect &) const;
+
+    Bildspeicher &bilder;
+    Stück stück;
+    Maß maß;
+    bool zeigtFokus = false;
+};
+
+} // namespace velmo

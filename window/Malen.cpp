@@ -1,0 +1,161 @@
+#include "window/Malen.h"
+
+#include "window/Farbtöne.h"
+#include "window/Schrift.h"
+
+#include <QLinearGradient>
+#include <QPainterPath>
+#include <QRadialGradient>
+
+#include <algorithm>
+
+namespace velmo {
+
+namespace {
+
+constexpr int Ausrichtungen[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
+
+QPen stift(const QColor &farbe, double breite) { return {farbe, breite, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin}; }
+
+void maleBeschriftung(QPainter &p, const Maß &m, const Stück &s, const QRect &ort) {
+    if (s.deckend) p.fillRect(ort, farbton::aus(s.grund));
+    const int ausrichtung = Ausrichtungen[std::clamp(s.ausrichtung, 0, 2)] | Qt::AlignTop | Qt::TextWordWrap;
+    maleText(p, ort, ausrichtung, text(s.text), schrift(s.schriftart, s.schriftgrad, s.fett, m.jeTwip),
+             s.gesperrt ? farbton::Blass : farbton::aus(s.farbe));
+}
+
+/// Das Wachsende steht auf der Unterkante seiner vollen Höhe; zu sehen ist sein oberer Teil.
+void maleWachsendes(QPainter &p, Bildspeicher &bilder, const Maß &m, const Stück &s, const QRect &ort) {
+    const QRect ganz(ort.topLeft(), m.rechteck({s.Left, s.Top, s.natürlicheBreite, s.natürlicheHöhe}).size());
+    const int hoch = std::min(m.punkt(s.Height), ganz.height());
+    const QPixmap bild = bilder.bild(s.bild, ganz.size());
+    if (bild.isNull() || hoch <= 0) return;
+    const QRectF quelle(0, 0, bild.width(), bild.height() * double(hoch) / ganz.height());
+    p.drawPixmap(QRectF(ganz.left(), ganz.bottom() + 1 - hoch, ganz.width(), hoch), bild, quelle);
+}
+
+void maleBildelement(QPainter &p, Bildspeicher &bilder, const Maß &m, const Stück &s, const QRect &ort) {
+    if (s.wächst)
+        maleWachsendes(p, bilder, m, s, ort);
+    else
+        maleBild(p, bilder, s.bild, ort);
+    if (s.rand > 0) {
+        const double breite = m.strich(2);
+        p.setPen(stift(farbton::Messing, breite));
+        p.setBrush(Qt::NoBrush);
+        p.drawRoundedRect(QRectF(ort).adjusted(breite / 2, breite / 2, -breite / 2, -breite / 2), breite * 2,
+                          breite * 2);
+    }
+}
+
+/// Ein Bildfeld ohne Bild ist eine flache Mulde.
+void maleBildfeld(QPainter &p, Bildspeicher &bilder, const Maß &m, const Stück &s, const QRect &ort) {
+    const double breite = m.strich(1);
+    const QRectF innen = QRectF(ort).adjusted(breite / 2, breite / 2, -breite / 2, -breite / 2);
+    if (!s.bild.empty()) {
+        maleBild(p, bilder, s.bild, ort);
+        if (s.rand <= 0) return;
+        p.setBrush(Qt::NoBrush);
+    } else {
+        QLinearGradient mulde(innen.topLeft(), innen.bottomLeft());
+        mulde.setColorAt(0, QColor(0x5C, 0x40, 0x24, 90));
+        mulde.setColorAt(1, QColor(0x5C, 0x40, 0x24, 40));
+        p.setBrush(mulde);
+    }
+    p.setPen(stift(farbton::Holzschatten, breite));
+    p.drawRoundedRect(innen, breite * 4, breite * 4);
+}
+
+void maleRahmen(QPainter &p, const Maß &m, const Stück &s, const QRect &ort) {
+    const double breite = m.strich(s.rand);
+    const QRectF innen = QRectF(ort).adjusted(breite / 2, breite / 2, -breite / 2, -breite / 2);
+    p.setPen(stift(farbton::aus(s.farbe), breite));
+    p.setBrush(Qt::NoBrush);
+    if (s.gestalt == Gestalt::Ellipse) p.drawEllipse(innen);
+    if (s.gestalt == Gestalt::Rechteck) p.drawRect(innen);
+    if (s.gestalt == Gestalt::GerundetesRechteck) {
+        const double rund = std::min(innen.width(), innen.height()) / 6;
+        p.drawRoundedRect(innen, rund, rund);
+    }
+}
+
+void maleLinie(QPainter &p, const Maß &m, const Stück &s) {
+    p.setPen(stift(farbton::aus(s.farbe), m.strich(s.rand)));
+    p.drawLine(QPointF(s.Left, s.Top) * m.jeTwip, QPointF(s.Left + s.Width, s.Top + s.Height) * m.jeTwip);
+}
+
+} // namespace
+
+QRect malort(const Stück &s, const Maß &m) {
+    if (s.sorte != Sorte::Bild || s.wächst || s.natürlicheBreite <= 0) return m.rechteck(s.ort());
+    return m.rechteck({s.Left, s.Top, s.natürlicheBreite, s.natürlicheHöhe});
+}
+
+QRect malbereich(const Stück &s, const Maß &m) {
+    QRect bereich = malort(s, m).normalized();
+    if (s.wächst) bereich |= m.rechteck({s.Left, s.Top, s.natürlicheBreite, s.natürlicheHöhe});
+    const int rand = s.sorte == Sorte::Linie ? static_cast<int>(m.strich(s.rand)) + 1 : 1;
+    return bereich.adjusted(-rand, -rand, rand, rand);
+}
+
+void male(QPainter &p, Bildspeicher &bilder, const Maß &m, const Stück &s, const QRect &ort) {
+    switch (s.sorte) {
+    case Sorte::Beschriftung:
+        return maleBeschriftung(p, m, s, ort);
+    case Sorte::Bild:
+        return maleBildelement(p, bilder, m, s, ort);
+    case Sorte::Bildfeld:
+        return maleBildfeld(p, bilder, m, s, ort);
+    case Sorte::Rahmen:
+        return maleRahmen(p, m, s, ort);
+    case Sorte::Linie:
+        return maleLinie(p, m, s);
+    case Sorte::Film:
+    case Sorte::Knopf:
+    case Sorte::Bedienelement:
+        return;
+    }
+}
+
+void maleBild(QPainter &p, Bildspeicher &bilder, const std::string &Datei, const QRect &r) {
+    const QPixmap bild = bilder.bild(Datei, r.size());
+    if (bild.isNull()) return;
+    if (bild.size() == r.size())
+        p.drawPixmap(r.topLeft(), bild);
+    else
+        p.drawPixmap(r, bild);
+}
+
+void maleText(QPainter &p, const QRect &r, int ausrichtung, const QString &t, const QFont &f, const QColor &farbe) {
+    if (t.isEmpty()) return;
+    p.setFont(eingepasst(f, r, ausrichtung, t));
+    p.setPen(farbe);
+    p.drawText(r, ausrichtung, t);
+}
+
+void malePapier(QPainter &p, const Maß &m, const QRect &r, const QColor &farbe, bool rahmen) {
+    p.fillRect(r, farbe);
+    if (!rahmen) return;
+    const double breite = m.strich(3);
+    const QRectF außen = QRectF(r).adjusted(breite / 2, breite / 2, -breite / 2, -breite / 2);
+    p.setBrush(Qt::NoBrush);
+    p.setPen(QPen(farbton::Holz, breite, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    p.drawRect(außen);
+    const double fein = m.strich(1), ab = breite * 1.5;
+    p.setPen(QPen(QColor(0x8A, 0x66, 0x3E, 110), fein, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    p.drawRect(QRectF(r).adjusted(ab, ab, -ab, -ab));
+}
+
+void maleSchatten(QPainter &p, const QRect &form, int breite) {
+    // Ringe, die nach außen schwächer werden; nach unten versetzt, denn das Licht kommt von oben.
+    const QRectF grund = QRectF(form).translated(0, breite / 4.0);
+    p.setPen(Qt::NoPen);
+    const int ringe = std::clamp(breite, 4, 16);
+    for (int i = 0; i < ringe; ++i) {
+        const double aus = breite * 0.75 * (ringe - i) / ringe;
+        p.setBrush(QColor(20, 10, 0, 90 / ringe));
+        p.drawRoundedRect(grund.adjusted(-aus, -aus, aus, aus), aus, aus);
+    }
+}
+
+} // namespace velmo

@@ -1,0 +1,28 @@
+#pragma once
+// Wie die gezeichneten Elemente aussehen. Orte sind Bildpunkte des Bildschirms, bezogen auf die Form.
+#include "window/Bildspeicher.h"
+#include "window/Maß.h"
+#include "window/Zeichenliste.h"
+
+#include <QPainter>
+
+namespace velmo {
+
+/// Wohin ein Stück gezeichnet wird.
+QRect malort(const Stück &, const Maß &);
+/// Was es höchstens überdeckt: mit Rand und geglätteten Kanten.
+QRect malbereich(const Stück &, const Maß &);
+
+/// Ein Stück außer Knöpfen und Bedienelementen, die selbst Fenster sind.
+void male(QPainter &, Bildspeicher &, const Maß &, const Stück &, const QRect &ort);
+
+/// Ein Bild im Rechteck, ohne Verzerrung der Kanten.
+void maleBild(QPainter &, Bildspeicher &, const std::string &Datei, const QRect &);
+/// Umbrochener Text; was nicht passt, wird kleiner.
+void maleText(QPainter &, const QRect &, int ausrichtung, const QString &, const QFont &, const QColor &);
+/// Der Grund einer Form ohne Bild: Papier in ihrer Farbe mit feinem Rahmen.
+void malePapier(QPainter &, const Maß &, const QRect &, const QColor &, bool rahmen);
+/// Der weiche Schatten ringsum, den eine Form auf die dahinter wirft.
+void maleSchatten(QPainter &, const QRect &form, int breite);
+
+} // namespace velmo

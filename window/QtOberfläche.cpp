@@ -1,0 +1,251 @@
+#include "window/QtOberfläche.h"
+
+#include "include/Programm.h"
+#include "shell/Formtafel.h"
+#include "window/Fenster.h"
+#include "window/Schrift.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QTime>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <thread>
+
+namespace velmo {
+
+namespace {
+
+constexpr Zeit Bildzeit = 16; // ms; ein Zeitgeber tickt nicht rascher, als die Anzeige zeigt
+
+using Dauer = std::chrono::duration<double, std::milli>;
+
+/// Solange sie lebt, ruhen Zeitgeber und Eingaben.
+class Halt {
+  public:
+    explicit Halt(bool &flagge) : flagge(flagge), vorher(flagge) { flagge = true; }
+    ~Halt() { flagge = vorher; }
+
+  private:
+    bool &flagge;
+    const bool vorher;
+};
+
+} // namespace
+
+QtOberfläche::QtOberfläche() : würfel(std::random_device{}()) {
+    uhr.start();
+    takt.setSingleShot(true);
+    takt.setTimerType(Qt::PreciseTimer);
+    takt.callOnTimeout([this] { takte(); });
+}
+
+QtOberfläche::~QtOberfläche() = default;
+
+int QtOberfläche::laufe(Programm &p, const Handler &beginn) {
+    umgebung.reset(new Umgebung{p,
+                                {},
+                                [this](const Handler &h) { bearbeite(h); },
+                                [this](const Control *c) {
+                                    const auto film = filme.find(c);
+                                    return film == filme.end() ? nullptr : &film->second->bild();
+                                }});
+    fenster = std::make_unique<Fenster>(*umgebung, [this] { schließe(); });
+    QTimer::singleShot(0, [&] {
+        bearbeite(beginn);
+        fenster->show();
+    });
+    QApplication::exec();
+    return endstand();
+}
+
+int QtOberfläche::endstand() {
+    hält = true;
+    try {
+        if (ausnahme) std::rethrow_exception(ausnahme);
+    } catch (const Laufzeitfehler &fehler) {
+        brichAb(umgebung->p, fehler);
+        return 1;
+    } catch (const Programmende &) {
+    }
+    return 0;
+}
+
+void QtOberfläche::bearbeite(const Handler &handler) {
+    if (hält || ausnahme) return;
+    ++tiefe;
+    tat = true;
+    try {
+        handler();
+    } catch (...) {
+        ausnahme = std::current_exception(); // darf Qt nicht durchqueren; gibAb reicht sie weiter
+    }
+    --tiefe;
+    if (ausnahme) {
+        if (tiefe == 0) QApplication::quit();
+        return;
+    }
+    fenster->folge();
+    plane();
+}
+
+void QtOberfläche::plane() {
+    const auto nächste = umgebung->p.nächsteFälligkeit();
+    if (sollSchließen)
+        takt.start(0);
+    else if (nächste)
+        takt.start(static_cast<int>(std::max<Zeit>(0, *nächste - jetzt())));
+    else
+        takt.stop();
+}
+
+void QtOberfläche::takte() {
+    if (hält) return;
+    if (sollSchließen) return schließe();
+    bearbeite([this] { umgebung->p.Fälliges(); });
+}
+
+/// Wer das Fenster schließt, geht: das Entladen des Menüs beendet das Programm, wo immer der Spieler gerade ist.
+void QtOberfläche::schließe() {
+    sollSchließen = hält;
+    bearbeite([this] {
+        Programm &p = umgebung->p;
+        if (p.geladene("Menu"))
+            p.entlade("Menu");
+        else
+            p.Ende();
+    });
+}
+
+void QtOberfläche::prüfeAusnahme() {
+    if (ausnahme) std::rethrow_exception(ausnahme);
+}
+
+double QtOberfläche::Sekunden() const { return QTime::currentTime().msecsSinceStartOfDay() / 1000.0; }
+Zeit QtOberfläche::kürzesterTakt() const { return Bildzeit; }
+
+void QtOberfläche::gibAb(Rast rast) {
+    fenster->folge();
+    if (rast == Rast::BisEreignis) {
+        plane();
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+        return prüfeAusnahme();
+    }
+    tat = false;
+    QCoreApplication::processEvents();
+    prüfeAusnahme();
+    if (!umgebung->p.Fälliges() && !tat) std::this_thread::sleep_for(Dauer(0.9));
+}
+
+/// Reiht den Schritt an die vorigen; falsch, wenn er mit dem nächsten zusammen gezeigt wird.
+bool QtOberfläche::beginneSchritt(double ms, double &beginn) {
+    constexpr double NeueReihe = 250;
+    const double nun = static_cast<double>(uhr.nsecsElapsed()) / 1e6;
+    beginn = nun - schrittzeit > NeueReihe ? nun : schrittzeit;
+    schrittzeit = beginn + ms;
+    if (schrittzeit < nun || schrittzeit - letztesBild < Bildzeit) return false;
+    letztesBild = schrittzeit;
+    return true;
+}
+
+void QtOberfläche::zeigeBild() { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }
+
+void QtOberfläche::zeigeSchritt(const Form &, double ms) {
+    double beginn;
+    if (!beginneSchritt(ms, beginn)) return;
+    const Halt halt(hält);
+    fenster->folge();
+    zeigeBild();
+    const double rest = schrittzeit - static_cast<double>(uhr.nsecsElapsed()) / 1e6;
+    if (rest > 0) std::this_thread::sleep_for(Dauer(rest));
+}
+
+void QtOberfläche::zeigeSchritt(const Control &c, double ms) {
+    Formfläche *fläche = fenster->fläche(c.form);
+    double beginn;
+    if (!fläche || !beginneSchritt(ms, beginn)) return;
+    const Halt halt(hält);
+    const Stück *vorher = fläche->stück(c);
+    const QPointF alt = vorher ? QPointF(vorher->Left, vorher->Top) : QPointF();
+    fenster->folge();
+    const Stück *nachher = fläche->stück(c);
+    if (!vorher || !nachher) return;
+    const QPointF weg = alt - QPointF(nachher->Left, nachher->Top);
+    // Ein kleiner Hüpfer von Feld zu Feld.
+    const double sprung = std::min(90.0, std::hypot(weg.x(), weg.y()) / 4);
+    for (;;) {
+        const double nun = static_cast<double>(uhr.nsecsElapsed()) / 1e6;
+        const double anteil = std::clamp((nun - beginn) / ms, 0.0, 1.0), rest = 1 - anteil;
+        fläche->versetze(c, weg.x() * rest, weg.y() * rest - 4 * sprung * anteil * rest);
+        zeigeBild();
+        if (anteil >= 1) return;
+        const double dann = std::min(nun + Bildzeit, schrittzeit) - static_cast<double>(uhr.nsecsElapsed()) / 1e6;
+        if (dann > 0) std::this_thread::sleep_for(Dauer(dann));
+    }
+}
+
+double QtOberfläche::Rnd() { return static_cast<double>(würfel() >> 8) / (1 << 24); }
+
+// Das Fenster behält seine Größe; die Anzeige darin ist immer die des Entwurfs.
+void QtOberfläche::setzeModus(int Breite, int Höhe) {
+    gemerkteAnzeige.Breite = Breite;
+    gemerkteAnzeige.Höhe = Höhe;
+}
+
+void QtOberfläche::MsgBox(const std::string &t, const std::string &titel) {
+    const Halt halt(hält);
+    if (!ausnahme) fenster->folge();
+    QMessageBox kasten(QMessageBox::NoIcon, text(titel), text(t), QMessageBox::Ok, fenster.get());
+    kasten.setTextFormat(Qt::PlainText);
+    kasten.exec();
+}
+
+std::optional<std::string> QtOberfläche::InputBox(const std::string &frage, const std::string &titel) {
+    const Halt halt(hält);
+    fenster->folge();
+    QInputDialog kasten(fenster.get());
+    kasten.setWindowTitle(text(titel));
+    kasten.setLabelText(text(frage));
+    kasten.setOkButtonText("OK");
+    kasten.setCancelButtonText("Abbrechen");
+    if (kasten.exec() != QDialog::Accepted) return std::nullopt;
+    return kasten.textValue().normalized(QString::NormalizationForm_C).toStdString();
+}
+
+void QtOberfläche::Beep() { QApplication::beep(); }
+
+void QtOberfläche::ton(MMControl &c, Befehl befehl, bool warten) {
+    töne.befehl(c, befehl);
+    if (!warten || !fenster) return;
+    const Halt halt(hält);
+    fenster->folge();
+    while (töne.klingt(c)) {
+        zeigeBild();
+        std::this_thread::sleep_for(Dauer(Bildzeit));
+    }
+}
+
+long QtOberfläche::Position(const MMControl &c) { return töne.Position(c); }
+long QtOberfläche::Length(const MMControl &c) { return töne.Length(c); }
+
+void QtOberfläche::öffneFilm(Animation &c, const std::string &Datei) {
+    auto film = std::make_unique<Film>(Datei);
+    film->neuesBild = [this, &c] {
+        if (Formfläche *fläche = fenster->fläche(c.form)) fläche->erneuere(c);
+    };
+    filme[&c] = std::move(film);
+}
+
+void QtOberfläche::spieleFilm(Animation &c) {
+    if (const auto film = filme.find(&c); film != filme.end()) film->second->spiele();
+}
+
+void QtOberfläche::vergiss(const Control &c) {
+    töne.vergiss(c);
+    filme.erase(&c);
+}
+
+} // namespace velmo
