@@ -157,7 +157,7 @@ def formanten(x, *stellen):
 # Bühne
 
 def orten(x, seite):
-    """Mono nach stereo, `seite` von -1 (links) bis 1 (rechts)."""
+    """Mono nach stereo, `seite` von -1 (links) bis 1 (rechts), fest oder als Verlauf."""
     w = (seite + 1) * np.pi / 4
     return np.stack((x * np.cos(w), x * np.sin(w)), 1)
 

@@ -17,7 +17,7 @@ import re
 from fractions import Fraction
 
 import harmonie
-import midi
+import vortrag
 from harmonie import Akkord
 
 TÖNE = {"c": 0, "d": 2, "e": 4, "f": 5, "g": 7, "a": 9, "h": 11, "b": 10}
@@ -106,75 +106,12 @@ class Stück:
                 bisher = akkord
         return bisher
 
-    # Ausgabe
-
-    def _glocke(self):
-        """Glockenförmig, Streuung eins."""
-        return (self.zufall.random() + self.zufall.random() + self.zufall.random() - 1.5) * 2
-
-    def _zähler(self, wann):
-        """Viertel in Zähler; gerade Achtel werden geschwungen, Triolen bleiben."""
-        ganz, rest = divmod(Fraction(wann), 1)
-        if self.swing != .5 and rest.denominator in (2, 4, 8, 16):
-            rest = float(rest)
-            rest = rest * 2 * self.swing if rest < .5 else self.swing + (rest - .5) * 2 * (1 - self.swing)
-        return round((ganz + rest) * midi.VIERTEL)
-
-    def _tempo(self, wann):
+    def tempo(self, wann):
+        """Schläge je Minute zur Zeit."""
         return [t for ab, t in self.tempi if ab <= max(wann, 0)][-1]
 
     def schreiben(self, pfad):
-        kopf = midi.Spur(self.titel)
-        kopf.takt(0, *self.takt)
-        for wann, tempo in self.tempi:
-            kopf.tempo(self._zähler(wann), tempo)
-        spuren = [kopf] + [self._spur(s) for s in self.stimmen]
-        letzter = max(e[0] for s in spuren for e in s.ereignisse)
-        midi.schreiben(pfad, spuren, letzter + 2 * midi.VIERTEL)
-
-    def _spur(self, stimme):
-        spur, kanal = midi.Spur(stimme.name), stimme.kanal
-        spur.programm(0, kanal, stimme.programm)
-        for nummer, wert in ((7, stimme.laut), (10, stimme.ort), (11, 100), (91, stimme.hall), (93, stimme.chor), (1, 0)):
-            spur.regler(0, kanal, nummer, wert)
-        for von, bis, a, b in stimme.schwellen:
-            schritte = int((bis - von) * 2)
-            for k in range(schritte + 1):
-                spur.regler(self._zähler(von + Fraction(k, 2)), kanal, 11, a + (b - a) * k / max(1, schritte))
-        gespielt = [self._gespielt(stimme, n) for n in sorted(stimme.noten, key=lambda n: (n.wann, n.höhe))]
-        for k, (an, aus, note, kraft) in enumerate(gespielt):
-            # Ein Ton endet, bevor derselbe wieder anschlägt.
-            wieder = min((a for a, _, m, _ in gespielt[k + 1:k + 24] if m.höhe == note.höhe and a > an), default=aus)
-            aus = max(an + 20, min(aus, wieder - 4))
-            spur.note(an, aus, kanal, note.höhe, kraft)
-            self._verzieren(spur, stimme, note, an, aus)
-        return spur
-
-    def _gespielt(self, stimme, note):
-        zähler_je_ms = self._tempo(note.wann) * midi.VIERTEL / 60000
-        streuung = 2.5 if stimme.kanal == 9 else 5
-        schub = (stimme.spät + streuung * self._glocke()) * zähler_je_ms if note.wann > 0 else 0
-        länge = {"'": .5, "_": 1.0}.get(next((z for z in note.zeichen if z in "'_"), ""), .93)
-        an = max(0, self._zähler(note.wann) + round(schub))
-        aus = an + max(30, round((self._zähler(note.wann + note.dauer) - self._zähler(note.wann)) * länge))
-        kraft = note.kraft + 14 * ("!" in note.zeichen) - 18 * ("," in note.zeichen) + 3.5 * self._glocke()
-        return an, aus, note, max(12, min(122, round(kraft)))
-
-    def _verzieren(self, spur, stimme, note, an, aus):
-        kanal = stimme.kanal
-        if "^" in note.zeichen:
-            for k in range(7):
-                spur.beugen(max(0, an - 2 + 9 * k), kanal, -.45 * (1 - k / 6))
-        if "%" in note.zeichen:
-            mitte = an + (aus - an) // 2
-            for k in range(9):
-                spur.beugen(mitte + (aus - mitte) * k // 8, kanal, -k / 8)
-            spur.beugen(aus + 12, kanal, 0)
-        if stimme.vibrato and note.dauer >= Fraction(5, 4) and note.rolle == "melodie":
-            start = an + min(midi.VIERTEL // 2, (aus - an) // 3)
-            for k in range(6):
-                spur.regler(start + k * 40, kanal, 1, stimme.vibrato * (k + 1) / 6)
-            spur.regler(aus, kanal, 1, 0)
+        vortrag.schreiben(self, pfad)
 
 
 class Teil:
@@ -297,7 +234,7 @@ class Teil:
             akkord = self._nächster(wann) if z == "v" else self.akkord(wann)
             griff = self._griff(stimme, akkord, lage, wann, wann + dauer)
             for k, höhe in enumerate(griff[-töne:] if töne else griff):
-                versatz = Fraction(round(k * roll * self.stück._tempo(wann) / 60), 1000)
+                versatz = Fraction(round(k * roll * self.stück.tempo(wann) / 60), 1000)
                 stimme.noten.append(Note(wann + versatz, dauer - versatz, höhe,
                                          stimme.kraft * self.kraft * kraft * KRAFT[z] - 2 * (k == 0), "griff"))
 

@@ -57,10 +57,7 @@ def menuback():
     rillen = impulse(dauer, verlauf(dauer, (0, 34), (.85, 95), (1.05, 60)), 22, .12, .5)
     leisten = falten(rillen, schlag(.04, 520, BRETT, .008, .0015))[:anzahl(dauer)] * lauter
     bild = .8 * papier / np.abs(papier).max() + .35 * leisten / np.abs(leisten).max()
-    weg = orten(bild, 0)
-    seite = verlauf(dauer, (0, -.15), (.85, .6), (1.05, .6))
-    weg[:, 0] = bild * np.cos((seite + 1) * np.pi / 4)
-    weg[:, 1] = bild * np.sin((seite + 1) * np.pi / 4)
+    weg = orten(bild, verlauf(dauer, (0, -.15), (.85, .6), (1.05, .6)))
     legen(weg, .86, holz(.16, 300, .03, .002, BRETT), .55, .55)
     return raum(weg, .18, .6)
 
@@ -114,11 +111,7 @@ def car():
     dauer = .78
     drehzahl = verlauf(dauer, (0, 34), (.12, 52), (.34, 88), (.52, 96), (.78, 46))
     lauter = verlauf(dauer, (0, 0), (.04, .75), (.3, 1), (.52, .9), (.7, .25), (.78, 0))
-    bild = leinwand(dauer, 2)
-    spur = motor(dauer, drehzahl, lauter, 51)
-    seite = verlauf(dauer, (0, -.35), (.78, .35))
-    bild[:, 0] = spur * np.cos((seite + 1) * np.pi / 4)
-    bild[:, 1] = spur * np.sin((seite + 1) * np.pi / 4)
+    bild = orten(motor(dauer, drehzahl, lauter, 51), verlauf(dauer, (0, -.35), (.78, .35)))
     return raum(bild, .12, .5)
 
 
@@ -312,7 +305,7 @@ def intro():
     spur = motor(fahrt, verlauf(fahrt, (0, 60), (.9, 96), (1.35, 88), (1.75, 40), (fahrt, 30)),
                  verlauf(fahrt, (0, 0), (.8, .75), (1.3, .9), (1.75, .35), (fahrt, 0)), 126)
     seite = verlauf(fahrt, (0, -.9), (1.6, .35), (fahrt, .35))
-    legen(bild, 6.75, np.stack((spur * np.cos((seite + 1) * np.pi / 4), spur * np.sin((seite + 1) * np.pi / 4)), 1), .34)
+    legen(bild, 6.75, orten(spur, seite), .34)
     legen(bild, 12 * SCHLAG, hupe(415, .13), .32, .1)
     legen(bild, 12.5 * SCHLAG, hupe(415, .2), .34, .15)
     bremse = gleitband(rauschen(.3, 127), verlauf(.3, (0, 2100), (.3, 1500)), 30) * bogen(.3, .04, .08)
