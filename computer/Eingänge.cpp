@@ -118,7 +118,7 @@ class Eingangssuche {
             if (feld == 0) break;
             const Eingangsplatz *platz = eingangsplatzVon(hotel, feld);
             // Zwei Eingänge liegen sich nie gegenüber.
-            if (!z.Eingang[platz->Nummer] && !(platz->Gegenüber && z.Eingang[platz->Gegenüber])) return platz;
+            if (!vergeben(z, platz->Nummer)) return platz;
         }
         return nullptr;
     }

@@ -3,6 +3,7 @@
 #include "computer/Computer.h"
 #include "computer/Zufallsentscheid.h"
 #include "model/Brett.h"
+#include "property/Grundstück.h"
 #include "property/Pleite.h"
 
 #include <optional>
@@ -77,22 +78,21 @@ struct Siedlung {
     const char *Anlieger; // wie der Anliegername es nennt
     int Gruppe;
     int Zwangspreis;
-    const char *Schlüssel;
     const char *Meldung;       // der Name in der Meldung eines freien Kaufs
     const char *Zwangsmeldung; // und der eines erzwungenen
 };
 
 // Royals Zwangspreis von 12500 und die Zwangsmeldung "Taj", die niemand kennt, sind mit Absicht so.
 constexpr std::array<Siedlung, 8> Siedlungen = {{
-    // Hotel Anlieger  Gruppe Zwang  Schlüssel    Meldung      erzwungen
-    {H::b, "Boomerang", 2,    250, "Boomrang",  "Boomerang", "Boomerang"},
-    {H::p, "President", 1,   1750, "President", "President", "President"},
-    {H::w, "Waikiki",   2,   1250, "Waikiki",   "Waikiki",   "Waikiki"},
-    {H::t, "Taj",       3,    750, "Taj",       "Taj Mahal", "Taj"},
-    {H::s, "Safari",    3,   1000, "Safari",    "Safari",    "Safari"},
-    {H::f, "Fujijama",  2,    500, "Fujijama",  "Fujijama",  "Fujijama"},
-    {H::l, "Etoile",    1,   1500, "Etoile",    "Etoile",    "Etoile"},
-    {H::r, "Royal",     2,  12500, "Royal",     "Royal",     "Royal"},
+    // Hotel Anlieger  Gruppe Zwang  Meldung      erzwungen
+    {H::b, "Boomerang", 2,    250, "Boomerang", "Boomerang"},
+    {H::p, "President", 1,   1750, "President", "President"},
+    {H::w, "Waikiki",   2,   1250, "Waikiki",   "Waikiki"},
+    {H::t, "Taj",       3,    750, "Taj Mahal", "Taj"},
+    {H::s, "Safari",    3,   1000, "Safari",    "Safari"},
+    {H::f, "Fujijama",  2,    500, "Fujijama",  "Fujijama"},
+    {H::l, "Etoile",    1,   1500, "Etoile",    "Etoile"},
+    {H::r, "Royal",     2,  12500, "Royal",     "Royal"},
 }};
 
 struct Stufenzeile {
@@ -176,7 +176,7 @@ class Landkauf {
         }
         if (eigen(zeile.Hotel)) return true;
         if (zeile.Besetzt != Zwang::Sofort && !fällt(Münze::VierAusFünf)) return false;
-        Zwangsverkauf(p, s.Zwangspreis, z.Hotels[zeile.Hotel].Besitzer, s.Schlüssel);
+        Zwangsverkauf(p, s.Zwangspreis, z.Hotels[zeile.Hotel].Besitzer, grundstück(zeile.Hotel).Zwangsschlüssel);
         übernimm(zeile, s.Zwangsmeldung);
         return true;
     }

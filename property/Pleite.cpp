@@ -4,6 +4,7 @@
 #include "model/Brett.h"
 #include "model/Geld.h"
 #include "property/Eingänge.h"
+#include "property/Grundstück.h"
 
 #include <algorithm>
 #include <array>
@@ -78,16 +79,6 @@ void ruiniereMensch(Programm &p, int summe) {
     p.zeige(Verloren);
 }
 
-struct Verkaufszeile {
-    const char *Schlüssel;
-    H Hotel;
-};
-
-constexpr Verkaufszeile Verkaufstafel[] = {
-    {"Boomrang", H::b}, {"President", H::p}, {"Etoile", H::l}, {"Waikiki", H::w},
-    {"Royal", H::r},    {"Fujijama", H::f},  {"Safari", H::s}, {"Taj", H::t},
-};
-
 /// Nimmt den Schlüssel aus der Liste; was an die leere Stelle nachrückt, wird nicht noch einmal verglichen.
 void streicheAusListe(Spielzustand &z, const std::string &schlüssel) {
     for (int i = 1; i <= 8; ++i) {
@@ -117,8 +108,8 @@ void Zwangsverkauf(Programm &p, int Betrag, const Hotelbesitzer &Verkäufer, con
     Spielzustand &z = p.Zustand;
     const std::string aktiv = z.Aktivcomputer.Text();
     const std::string käufer = aktiv.empty() ? "" : aktiv.substr(aktiv.size() - 1);
-    for (const Verkaufszeile &zeile : Verkaufstafel)
-        if (zeile.Schlüssel == Schlüssel) brett(p).Schild(zeile.Hotel).Caption = "Computer " + käufer;
+    for (const Grundstück &g : Grundstücke)
+        if (g.Zwangsschlüssel == Schlüssel) brett(p).Schild(g.Hotel).Caption = "Computer " + käufer;
     z.Arbeitsgeld -= Betrag;
     const std::string schluss =
         " Grundstück an Computer " + käufer + " verloren. Er muss nur " + std::to_string(Betrag) + " DM Bezahlen!";
