@@ -1,0 +1,323 @@
+"""Das Brettbild: bilder/formen/form1/picture1.jpg."""
+import math
+import os
+import random
+import sys
+
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+from kasten import *       # noqa: E402,F403
+from bauteile import *     # noqa: E402,F403
+from pflanzen import *     # noqa: E402,F403
+import brettbauten as bauten       # noqa: E402
+import gelaende            # noqa: E402
+from gelaende import KÜSTE, abstand, weich     # noqa: E402
+from tafeln import BANK, BRETT, FELDER, GEBÄUDE, PLÄTZE, RATHAUS, mitte      # noqa: E402
+
+BREITE = 40                 # Fahrbahn mit Bordsteinen
+ZWISCHEN = {30: [(612, 184), (648, 196)]}      # Wegpunkte nach einem Feld
+TON = {"g": "#f0bb3a", "b": "#3f7fc4", "e": "#45a455", "a": "#e0702e"}
+
+
+def flach(punkte, z, dick, stoff_, rund=0.0):
+    return prisma([tuple(welt(x, y).xy) for x, y in punkte], z, dick, stoff_, rund)
+
+
+def kasten_(x, y, b, h, r):
+    """Abgerundetes Rechteck um (x, y)."""
+    return [(x + sx * (b / 2 - r) + r * math.cos(a), y + sy * (h / 2 - r) + r * math.sin(a))
+            for sx, sy, a0 in ((1, 1, 0), (-1, 1, 90), (-1, -1, 180), (1, -1, 270))
+            for a in [math.radians(a0 + 18 * i) for i in range(6)]]
+
+
+def kreis(x, y, r, von=0, bis=360, n=24):
+    return [(x + r * math.cos(math.radians(von + (bis - von) * i / n)), y + r * math.sin(math.radians(von + (bis - von) * i / n)))
+            for i in range(n + (bis - von < 360))]
+
+
+def straße():
+    punkte = []
+    for f in FELDER:
+        punkte += [mitte(f)] + ZWISCHEN.get(f, [])
+    linie = weich(punkte, 10)
+    band(linie, BREITE, stoff("#d9d3c6", rau=.7, fleck=.06), .1, .75, zu=True, rund=.2)
+    band(linie, BREITE - 4, stoff("#5f6168", rau=.85, fleck=.10, korn=.35, kornmass=2), .1, .85, zu=True, rund=0)
+    return linie
+
+
+# ------------------------------------------------ Feldzeichen, gemalt, in Entwurfspunkten um die Mitte
+
+HELL, TINTE = "#fff7e4", "#2c4a78"
+
+
+def schein(x, y, ton, drehung):
+    c, s = math.cos(math.radians(drehung)), math.sin(math.radians(drehung))
+
+    def dreh(p):
+        return [(x + c * a - s * b, y + s * a + c * b) for a, b in p]
+    return [(dreh([(-9, -4.6), (9, -4.6), (9, 4.6), (-9, 4.6)]), "#fff9e8"),
+            (dreh([(-8, -3.6), (8, -3.6), (8, 3.6), (-8, 3.6)]), ton),
+            (dreh(kreis(0, 0, 2.5)), "#fff9e8"),
+            (dreh(kreis(-5.6, 0, .9)), "#fff9e8"), (dreh(kreis(5.6, 0, .9)), "#fff9e8")]
+
+
+def zeichen_g():
+    return schein(1.6, -2.4, "#b3543c", -14) + schein(-1.2, 1.8, "#3c8a50", 8)
+
+
+def zeichen_b():
+    blatt = [([(-12, -8), (12, -8), (12, 8), (-12, 8)], HELL), ([(-11.2, -7.2), (11.2, -7.2), (11.2, 7.2), (-11.2, 7.2)], "#2b5f9f")]
+
+    def strich(a, e, w=.62):
+        dx, dy = e[0] - a[0], e[1] - a[1]
+        l = math.hypot(dx, dy)
+        nx, ny = -dy / l * w, dx / l * w
+        return ([(a[0] + nx, a[1] + ny), (e[0] + nx, e[1] + ny), (e[0] - nx, e[1] - ny), (a[0] - nx, a[1] - ny)], HELL)
+    haus = [(-6, 5), (-6, -1), (0, -5.6), (6, -1), (6, 5)]
+    striche = [strich(a, e) for a, e in zip(haus, haus[1:] + haus[:1])]
+    striche += [strich((-1.8, 5), (-1.8, .8)), strich((-1.8, .8), (1.8, .8)), strich((1.8, .8), (1.8, 5)),
+                strich((-9, 5), (-9, -5.4), .4), strich((-10, 5), (-8, 5), .4), strich((-10, -5.4), (-8, -5.4), .4)]
+    return blatt + striche
+
+
+def zeichen_e():
+    bogen = kreis(0, -1, 8.4, 180, 360) + [(8.4, 8), (5.4, 8)] + kreis(0, -1, 5.4, 360, 180)[0:] + [(-5.4, 8), (-8.4, 8)]
+    teile = [(bogen, HELL)]
+    for x in (-3.2, 0, 3.2):
+        teile.append(([(x - .55, -3.6 + .35 * abs(x)), (x + .55, -3.6 + .35 * abs(x)), (x + .55, 8), (x - .55, 8)], HELL))
+    teile.append(([(-5.4, 2.4), (5.4, 2.4), (5.4, 3.5), (-5.4, 3.5)], HELL))
+    return teile
+
+
+def zeichen_a():
+    außen, innen = kreis(0, 3.4, 5.6, -60, 190), kreis(0, 3.4, 3.0, 190, -60)
+    return [([(-3.2, -9.4), (3.2, -9.4), (3.2, -5.6), (-3.2, -5.6)], HELL), ([(-1.2, -5.6), (1.2, -5.6), (1.2, -1.4), (-1.2, -1.4)], HELL),
+            (kreis(0, -2, 1.9), HELL), ([(-1.3, -1.5), (1.3, -1.5), (3.6, -.4), (2.0, 1.2)], HELL), (außen + innen, HELL)]
+
+
+ZEICHEN = {"g": zeichen_g, "b": zeichen_b, "e": zeichen_e, "a": zeichen_a}
+
+
+def felder():
+    for f, (art, _, _) in FELDER.items():
+        x, y = mitte(f)
+        flach(kasten_(x, y, 37, 26, 5), .6, .50, stoff("#f7f0df", rau=.6, fleck=.04))
+        flach(kasten_(x, y, 34.6, 24, 4), .6, .62, stoff(TON[art], rau=.6, fleck=.05))
+        for nr, (p, farbe) in enumerate(ZEICHEN[art]()):
+            flach([(x + a, y + b) for a, b in p], .6, .66 + .02 * nr, stoff(farbe, rau=.6, fleck=.03))
+
+
+def schwelle(linie, feld, davor):
+    """Gelbe Doppellinie quer über die Straße zwischen zwei Feldern."""
+    (ax, ay), (ex, ey) = mitte(davor), mitte(feld)
+    a, e = welt(ax, ay).xy, welt(ex, ey).xy
+    o, r = a.lerp(e, .5), (e - a).normalized()
+    quer = Vector((-r.y, r.x))
+    for s in (-1.7, 1.7):
+        p, q = o + r * s + quer * (BREITE / 2 - 2), o + r * s - quer * (BREITE / 2 - 2)
+        band([tuple(p), tuple(q)], 1.9, stoff("#ffcf1f", rau=.5, fleck=.02, leuchten=.12), .6, .5, rund=0)
+
+
+# ------------------------------------------------ Gärten der Hotels
+
+def president():
+    umriss = [(-14, 372), (18, 318), (54, 280), (82, 262), (112, 270), (165, 276), (214, 280), (252, 294), (284, 322), (318, 352),
+              (330, 380), (322, 404), (296, 424), (180, 436), (-20, 436)]
+    flach([(p[0], -p[1] / TIEFE) for p in weich(umriss)], -.2, 1.0, "#c9beac", .3)
+    innen = [(x + (150 - x) * .035, y + (365 - y) * .05) for x, y in umriss]
+    flach([(p[0], -p[1] / TIEFE) for p in weich(innen)], -.2, 1.25, platten("#e9e2d6", 9, .12), .2)
+    with am_brett(150, 338):
+        for r, s in ((40, "#b9a88e"), (36, "#f1ebe0"), (26, "#c7b08e"), (23, "#f1ebe0")):
+            zylinder(0, 0, 1.0 + (44 - r) * .004, r, .1, platten(s, 9, .10) if s == "#f1ebe0" else s, rund=0, seiten=72)
+        n = 8
+        for i in range(n):
+            with bei(drehung=360 / n * i):
+                prisma([(0, 0), (-4, 9), (0, 22), (4, 9)], 1.2, .06, "#8f7a63" if i % 2 else "#b9966a", 0)
+    for x, y in ((92, 282), (128, 288), (176, 290), (214, 292), (250, 306), (268, 322)):
+        with am_brett(x, y):
+            drehkörper(0, 0, 1, [(2.2, 0), (2.8, 2.6), (3.1, 3), (2.4, 3)], "#d8cdbb", 16)
+            kugel(0, 0, 5.4, 3.0, laub("#4c8a40"))
+    for x, y in ((20, 345), (40, 320), (292, 345), (310, 368)):
+        with am_brett(x, y):
+            laterne(0, 0, 1, 10)
+
+
+def waikiki():
+    for x, y, m in ((66, 118, .8), (100, 66, .9), (130, 36, .95), (172, 18, .9), (232, 12, .85), (268, 26, .9), (274, 62, .8),
+                    (62, 100, .75), (252, 8, .7), (94, 88, .8), (182, 70, .8)):
+        with am_brett(x, y):
+            palme(0, 0, mass=m)
+    for nr, (x, y) in enumerate(((118, 92), (146, 74), (205, 66), (168, 66))):
+        with am_brett(x, y):
+            schirm(0, 0, farben=(("rot", "weiss"), ("blau", "weiss"), ("gelb", "weiss"))[nr % 3])
+            liege(5, 0, drehung=-20, tuch=("tuerkis", "orange")[nr % 2])
+
+
+def taj():
+    flach([(302, 26), (396, 26), (396, 84), (384, 104), (312, 106), (302, 96)], 0, .7, "#d9d2c6", .3)
+    flach([(305, 24), (393, 24), (393, 83), (382, 101.5), (313, 103.5), (305, 95)], 0, .9, platten("#f6f1e8", 6, .06), .2)
+    with am_brett(352, 93):
+        becken([(-5, -13), (5, -13), (5, 12), (-5, 12)], .8, "#ffffff", 1.6)
+    with am_brett(352, 44):
+        becken([(-5, -24), (5, -24), (5, 34), (-5, 34)], .8, "#ffffff", 1.6)
+        for s in (-1, 1):
+            prisma([(s * 10, -24), (s * 16, -24), (s * 16, 34), (s * 10, 34)], .7, .5, gras("#7fb04e"), .2)
+            for y in (-18, -6, 6, 18, 30):
+                zypresse(s * 13, y, 1, .55)
+    for x, y in ((316, 97), (384, 92)):
+        with am_brett(x, y):
+            blumenbeet(0, 0, 12, 6, ("rosa", "weiss", "rot"), z=.8)
+
+
+def boomerang():
+    for x, y, m in ((548, 384, .9), (538, 398, .75), (700, 318, .9), (724, 306, .8), (664, 354, .8), (626, 396, .7), (736, 318, .9)):
+        with am_brett(x, y):
+            eukalyptus(0, 0, mass=m)
+    for x, y in ((560, 398), (618, 372), (650, 404), (690, 336), (600, 368)):
+        with am_brett(x, y):
+            steine(0, 0, 5, 6, 1.3, "#b8643f")
+            grasbüschel(5, 2, farbe="#b9a14e")
+    with am_brett(684, 372):                    # ein Wurfholz aus Sand im roten Boden
+        bogen = [(r * math.cos(math.radians(a)), r * math.sin(math.radians(a)) - 12) for r, von, bis in ((22, 30, 150), (15, 150, 30))
+                 for a in [von + (bis - von) * i / 12 for i in range(13)]]
+        prisma(bogen, .1, .3, stoff("#e8c48a", rau=.8), .1)
+
+
+def safari():
+    for x, y, m in ((590, 22, .8), (690, 24, .8), (686, 58, .8), (578, 76, .65), (612, 10, .7)):
+        with am_brett(x, y):
+            schirmakazie(0, 0, mass=m)
+    for x, y in ((596, 40), (660, 96), (650, 20), (690, 78), (606, 90), (630, 60)):
+        with am_brett(x, y):
+            grasbüschel(0, 0, mass=1.3, farbe="#c9ae56")
+            grasbüschel(4, 3, farbe="#b99b48")
+    with am_brett(612, 62):
+        umriss = glätten([(-9, 0), (-3, 6), (6, 5), (10, -1), (3, -6), (-6, -5)])
+        prisma(umriss, .05, .3, "#9c8352", .2)
+        prisma([(x * .85, y * .82) for x, y, *_ in umriss], .1, .4, wasser("#4aa6b0"), 0)
+        steine(-10, 4, 4, 4, 1.6, "#b9a487")
+    with am_brett(648, 76):
+        steine(0, 0, 5, 5, 2.0, "#b39a78")
+
+
+def fuji():
+    gelaende.schneeberg(478, 196, 31, 54)
+    for x, y, m in ((506, 150, .8), (458, 232, .8), (470, 250, .85), (632, 222, .7), (488, 258, .7), (512, 172, .7), (640, 262, .55)):
+        with am_brett(x, y):
+            ahorn(0, 0, mass=m, farbe=("#b8452c", "#cc6b2c", "#a93a34")[int(x) % 3])
+    with am_brett(560, 240):
+        umriss = glätten([(-26, -8), (-22, 12), (-4, 20), (16, 16), (28, 2), (16, -16), (-8, -18)])
+        prisma(umriss, .0, .5, stein("#a8a08f"), .2)
+        prisma([(x * .95, y * .93) for x, y, *_ in umriss], .0, .6, stoff("#e6dec9", rau=.9, korn=.5, kornmass=1.5), .1)
+        for r in range(4, 20, 3):
+            rohr([(r * 1.1 * math.cos(a) - 6, r * .8 * math.sin(a) + 2, .62) for a in [i * math.pi / 24 for i in range(48)]],
+                 .28, "#d3c8ac", zu=True)
+        kugel(-6, 2, .8, 3.2, stein("#8f8d86"), (1.2, .9, .8))
+        kugel(8, -3, .6, 2.2, stein("#8f8d86"), (1, 1.1, .7))
+    for x, y in ((596, 268), (522, 262)):
+        with am_brett(x, y):                    # Steinlaterne
+            zylinder(0, 0, 0, 1.1, 3.2, "stein", oben=.8)
+            quader(0, 0, 3.2, 2.4, 2.4, 2, stoff("#f1e1ae", leuchten=.2), .2)
+            walmdach(0, 0, 5.2, 2.6, 2.6, 1.6, stein("#8d8b85"), über=1, first=0)
+
+
+def étoile():
+    flach(kasten_(382, 222, 140, 112, 14), .0, .45, stoff("#e6d5ae", rau=.9, fleck=.06, korn=.5, kornmass=2), .2)
+    for x, b in ((346, 58), (418, 58)):
+        for y, h in ((190, 34), (246, 44)):
+            flach(kasten_(x, y, b, h, 5), .0, .9, gras("#7cb24a"), .3)
+            with am_brett(x, y):
+                w, t = b / 2 - 3.5, (h / 2 - 3) * TIEFE
+                hecke([(-w, -t), (w, -t), (w, t), (-w, t), (-w, -t)], 1.6, 1.6, z=.8)
+                for s in (-1, 1):
+                    blumenbeet(s * w * .45, 0, w * .5, t * .9, ("rot", "weiss", "gelb") if y < 220 else ("rosa", "weiss", "lila"), .30, .8)
+    with am_brett(382, 216):
+        zylinder(0, 0, .3, 15, .3, "#f0e4c6", seiten=48)
+        brunnen(0, 0, .5, 9)
+    for x, y in ((314, 168), (450, 168), (314, 262), (450, 240), (382, 172), (348, 162), (416, 162)):
+        with am_brett(x, y):
+            kugel(0, 0, 4.2, 2.6, laub("#3f7d3d"))
+            drehkörper(0, 0, 0, [(1.9, 0), (2.3, 2.2), (1.8, 2.2)], "#e8dcc6", 14)
+
+
+def royal():
+    umriss = [(128, 172), (140, 146), (166, 136), (210, 131), (252, 142), (286, 156), (296, 184), (288, 216), (238, 214), (180, 210), (146, 200)]
+    flach([(p[0], -p[1] / TIEFE) for p in weich(umriss)], -.1, .6, stoff("#e8dab4", rau=.9, korn=.4, kornmass=2), .2)
+    innen = weich([(x + (212 - x) * .055, y + (174 - y) * .09) for x, y in umriss])
+    unten, oben = min(p[1] for p in innen), max(p[1] for p in innen)
+    flach([(p[0], -p[1] / TIEFE) for p in innen], -.1, .85, stoff("#74ad48", rau=.9, muster=("brett", 4000, 11, .34), musterhub=.05, korn=.5, kornmass=1.6), .2)
+    with am_brett(212, 176):
+        band([(0, -50), (0, 46)], 12, stoff("#ecdfbf", rau=.9, korn=.4, kornmass=2), .1, .8, rund=.1)
+        zylinder(0, 0, .1, 15, .85, stoff("#ecdfbf", rau=.9, korn=.4, kornmass=2), seiten=48)
+        brunnen(0, 0, .8, 7.5)
+        for s in (-1, 1):
+            hecke([(s * 10, -44), (s * 10, -18)], 2.4, 2.2, z=.7)
+            hecke([(s * 10, 18), (s * 10, 40)], 2.4, 2.2, z=.7)
+            for y in (-32, 30):
+                blumenbeet(s * 26, y, 22, 8, ("rot", "gelb", "weiss"), .35, .7)
+    for x, y, m in ((140, 184, .7), (146, 156, .7), (284, 170, .7), (172, 142, .65), (252, 148, .65), (160, 200, .6), (240, 208, .6)):
+        with am_brett(x, y):
+            kugelbaum(0, 0, .6, m, "#5c9c40")
+
+
+# ------------------------------------------------ Bäume in der freien Landschaft
+
+def landschaft(linie):
+    """Streut Bäume, wo sie nichts verdecken, das sich bewegt oder gebaut wird."""
+    # Wäldchen vor den Straßenkurven; Kasten des Baumes im Bild darf kein Steuerelement berühren.
+    sperren = [tuple(w / 12 for w in r) for _, r in GEBÄUDE.values()] + [tuple(w / 12 for w in r) for _, _, r in PLÄTZE.values()]
+    sperren += [tuple(w / 12 for w in r) for r in (BANK, RATHAUS)] + [(572, 100, 145, 48), (455, 150, 48, 80)]
+    sperren += [(x - len(t) * 4, y - 20, len(t) * 8, 24) for t, (x, y), _, _ in bauten.SCHILDER]
+    küste, weg = weich(KÜSTE), np.array([p[:2] for p in linie])
+    gründe = [weich(g[2]) for g in gelaende.GRÜNDE.values()]
+    gesetzt, zufall = [], random.Random(7)
+    for _ in range(5200):
+        x, y = zufall.uniform(-5, 745), zufall.uniform(0, 432)
+        art = zufall.random()
+        busch_ = art > .58
+        b, h = (4, 5) if busch_ else (7, 16)
+        if any(x + b > l and x - b < l + w and y + 2 > o and y - h < o + hh for l, o, w, hh in sperren):
+            continue
+        p = welt(x, y)
+        if np.hypot(*(weg - np.array(p.xy)).T).min() < BREITE / 2 + (3 if busch_ else 7):
+            continue
+        ort = (np.array([p.x]), np.array([p.y]))
+        if abstand(*ort, küste)[0] < 13 or any(abstand(*ort, g)[0] > -3 for g in gründe):
+            continue
+        if any(math.hypot(x - a, (y - c) * TIEFE) < (6 if busch_ or k else 9) for a, c, k in gesetzt):
+            continue
+        if gelaende.rauschfeld(*ort, 60, 40)[0] < -.15 and not busch_:
+            continue
+        gesetzt.append((x, y, busch_))
+        with bei(p.x, p.y):
+            if busch_:
+                busch(0, 0, mass=zufall.uniform(.55, .9), farbe=("#4f8f3a", "#5e9c3e", "#437f3f")[int(art * 97) % 3],
+                      blüten=(None, "gelb", "rosa", "weiss", None)[int(art * 991) % 5])
+            elif art < .12:
+                palme(0, 0, mass=.8)
+            elif art < .24:
+                nadelbaum(0, 0, mass=zufall.uniform(.6, .8))
+            else:
+                kugelbaum(0, 0, mass=zufall.uniform(.6, .85), farbe=("#5d9a3a", "#6fa63f", "#4d8c43")[int(art * 97) % 3])
+
+
+def brett():
+    neu(5)
+    gelaende.land()
+    gelaende.meer()
+    linie = straße()
+    felder()
+    schwelle(linie, 7, 6)
+    schwelle(linie, 26, 25)
+    for bauen in (bauten.bank, bauten.rathaus, bauten.parkplatz, bauten.schilder, president, waikiki, taj, boomerang, safari, fuji, étoile, royal):
+        bauen()
+    landschaft(linie)
+    bauten.leuchtturm(24, 66)
+    bauten.steg(360, 412)
+    for ort in ((22, 196, 20, "weiss", "rot"), (722, 44, -30, "#f6c84a", "blau"), (372, 422, 80, "weiss", "tuerkis"), (280, 8, 10, "#e9785a", "weiss")):
+        bauten.boot(*ort)
+
+
+if __name__ == "__main__":
+    args = argumente()
+    brett()
+    rendere_twips(os.path.join(args.ziel, "formen", "form1", "picture1.jpg"), BRETT, fein=args.fein, proben=args.proben, durchsichtig=False)
