@@ -16,25 +16,24 @@ int kosten(const QSize &g) { return static_cast<int>(qint64(g.width()) * g.heigh
 
 Bildspeicher::Bildspeicher() : fertige(FertigeKiB), rohe(RoheKiB) {}
 
-const QImage &Bildspeicher::roh(const QString &Datei) {
-    if (const QImage *da = rohe.object(Datei)) return *da;
-    QImageReader leser(Datei);
+const QImage &Bildspeicher::roh(const std::string &Datei) {
+    const QString name = text(Datei);
+    if (const QImage *da = rohe.object(name)) return *da;
+    QImageReader leser(name);
     QImage gelesen = leser.read();
     gelesen =
         gelesen.convertToFormat(gelesen.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
     auto *bild = new QImage(std::move(gelesen));
-    rohe.insert(Datei, bild, std::min(kosten(bild->size()), RoheKiB));
+    rohe.insert(name, bild, std::min(kosten(bild->size()), RoheKiB));
     return *bild;
 }
-
-QSize Bildspeicher::rohgröße(const std::string &Datei) { return Datei.empty() ? QSize() : roh(text(Datei)).size(); }
 
 QPixmap Bildspeicher::bild(const std::string &Datei, const QSize &größe) {
     if (Datei.empty() || größe.isEmpty()) return {};
     const Schlüssel schlüssel{text(Datei), größe};
     if (const QPixmap *da = fertige.object(schlüssel)) return *da;
     if (inEile && letzte.contains(schlüssel.Datei)) return letzte[schlüssel.Datei];
-    const QImage &ganz = roh(schlüssel.Datei);
+    const QImage &ganz = roh(Datei);
     if (ganz.isNull()) return {};
     QPixmap fertig = QPixmap::fromImage(ganz.scaled(größe, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     letzte[schlüssel.Datei] = fertig;

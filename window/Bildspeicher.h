@@ -15,14 +15,12 @@ class Bildspeicher {
     /// Das Bild der Datei in der Größe; ein leeres, wenn es sich nicht lesen lässt. In Eile ist es eines von anderer
     /// Größe, wenn es eines gibt.
     QPixmap bild(const std::string &Datei, const QSize &);
-    /// Die Größe des Bildes auf der Platte, ein Viertel Bildpunkt des Entwurfs je Punkt.
-    QSize rohgröße(const std::string &Datei);
+    /// Das Bild, wie es auf der Platte steht; leer, wenn es sich nicht lesen lässt. Gilt bis zum nächsten Aufruf.
+    const QImage &roh(const std::string &Datei);
     /// Solange der Spieler am Fenster zieht, genügen die Bilder der alten Größe.
     void eile(bool an) { inEile = an; }
 
   private:
-    const QImage &roh(const QString &Datei);
-
     struct Schlüssel {
         QString Datei;
         QSize größe;

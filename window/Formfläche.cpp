@@ -110,7 +110,7 @@ void Formfläche::folgeBedienelemente(const Form &form) {
             Knopf *&knopf = knöpfe[s.control];
             auto *c = const_cast<VisualControl *>(static_cast<const VisualControl *>(s.control));
             if (!knopf) {
-                knopf = new Knopf(this, u.bilder);
+                knopf = new Knopf(this, u.bilder, u.p.Ordner + "/bilder/formen/knopf");
                 connect(knopf, &Knopf::clicked, this, [this, c] { u.bearbeite([&] { drücke(u.p.eingabe, *c); }); });
             }
             knopf->zeige(s, maß);
@@ -162,12 +162,13 @@ QRect Formfläche::ortVon(const Stück &s) const {
 void Formfläche::maleAlles(QPainter &p, const QRect &bereich) {
     const QRect ganz(QPoint(), größe);
     if (!grund.bild.empty()) maleBild(p, u.bilder, grund.bild, ganz);
-    if (grund.bild.empty() || u.bilder.rohgröße(grund.bild).isEmpty())
+    if (grund.bild.empty() || u.bilder.roh(grund.bild).isNull())
         malePapier(p, maß, ganz, farbton::aus(grund.farbe), umriss.isEmpty() && !grund.füllt);
     for (const auto &[r, farbe] : zeichnung)
         p.fillRect(maß.rechteck(r), farbton::aus(farbe));
     for (const Stück &s : liste) {
-        const QRect ort = ortVon(s);
+        QRect ort = ortVon(s);
+        if (s.sorte == Sorte::Beschriftung) ort &= ganz; // Schrift soll nicht über den Rand laufen
         if (!s.sichtbar || !malbereich(s, maß).translated(ort.topLeft() - malort(s, maß).topLeft()).intersects(bereich))
             continue;
         if (s.sorte == Sorte::Film) {

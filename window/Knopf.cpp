@@ -6,25 +6,38 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
-#include <QLinearGradient>
 #include <QMouseEvent>
 
 namespace velmo {
 
 namespace {
 
-struct Aussehen {
-    QColor oben, unten, rand;
-};
+constexpr const char *Zustandsbilder[] = {"/ruhe.png", "/ruhe.png", "/gedrueckt.png", "/gesperrt.png"};
+constexpr int Ecke = 44;        // so weit reichen die Ecken der Zustandsbilder, in ihren Punkten
+constexpr double JeEntwurf = 4; // ihre Punkte je Bildpunkt des Entwurfs
 
-const Aussehen Ruhe{{0xFF, 0xF4, 0xDC}, {0xE4, 0xC9, 0x98}, {0x7A, 0x58, 0x30}};
-const Aussehen Überfahren{{0xFF, 0xFB, 0xEE}, {0xF1, 0xDA, 0xAC}, {0x7A, 0x58, 0x30}};
-const Aussehen Gedrückt{{0xD8, 0xBA, 0x84}, {0xEE, 0xD8, 0xAE}, {0x5C, 0x40, 0x24}};
-const Aussehen Gesperrt{{0xEA, 0xE2, 0xD2}, {0xDD, 0xD2, 0xBE}, {0xA8, 0x9A, 0x82}};
+/// Das Bild in neuer Größe: die Ecken bleiben, die Kanten und die Mitte strecken sich.
+QImage gestreckt(const QImage &bild, const QSize &größe) {
+    QImage ziel(größe, QImage::Format_ARGB32_Premultiplied);
+    ziel.fill(Qt::transparent);
+    QPainter p(&ziel);
+    p.setRenderHint(QPainter::SmoothPixmapTransform);
+    const int eckeX = std::min(Ecke, größe.width() / 2), eckeY = std::min(Ecke, größe.height() / 2);
+    const int vonX[] = {0, Ecke, bild.width() - Ecke, bild.width()},
+              vonY[] = {0, Ecke, bild.height() - Ecke, bild.height()};
+    const int nachX[] = {0, eckeX, größe.width() - eckeX, größe.width()};
+    const int nachY[] = {0, eckeY, größe.height() - eckeY, größe.height()};
+    for (int x = 0; x < 3; ++x)
+        for (int y = 0; y < 3; ++y)
+            p.drawImage(QRect(QPoint(nachX[x], nachY[y]), QPoint(nachX[x + 1] - 1, nachY[y + 1] - 1)), bild,
+                        QRect(QPoint(vonX[x], vonY[y]), QPoint(vonX[x + 1] - 1, vonY[y + 1] - 1)));
+    return ziel;
+}
 
 } // namespace
 
-Knopf::Knopf(QWidget *form, Bildspeicher &bilder) : QAbstractButton(form), bilder(bilder) {
+Knopf::Knopf(QWidget *form, Bildspeicher &bilder, std::string ordner)
+    : QAbstractButton(form), bilder(bilder), ordner(std::move(ordner)) {
     setFocusPolicy(Qt::TabFocus);
     setMouseTracking(true);
 }
@@ -40,39 +53,33 @@ void Knopf::zeige(const Stück &neu, const Maß &m) {
     update();
 }
 
-void Knopf::maleKörper(QPainter &p, const QRectF &r) const {
-    const bool unten = isDown();
-    const Aussehen &a = !isEnabled() ? Gesperrt : unten ? Gedrückt : underMouse() ? Überfahren : Ruhe;
-    const double strich = maß.strich(1), rund = std::min({maß.strich(6), r.width() / 3, r.height() / 3});
-    const QRectF außen = r.adjusted(strich / 2, strich / 2, -strich / 2, -strich * 1.5);
+Knopf::Zustand Knopf::zustand() const {
+    if (!isEnabled()) return Zustand::Gesperrt;
+    if (isDown()) return Zustand::Gedrückt;
+    return underMouse() ? Zustand::Überfahren : Zustand::Ruhe;
+}
 
-    // Der Fuß, auf dem der Knopf steht; gedrückt sinkt er in ihn hinein.
-    p.setPen(Qt::NoPen);
-    p.setBrush(isEnabled() ? farbton::Holzschatten : QColor(0xB4, 0xA6, 0x8E));
-    p.drawRoundedRect(außen.translated(0, strich), rund, rund);
-
-    const QRectF platte = unten ? außen.translated(0, strich) : außen;
-    QLinearGradient verlauf(platte.topLeft(), platte.bottomLeft());
-    verlauf.setColorAt(0, a.oben);
-    verlauf.setColorAt(1, a.unten);
-    p.setPen(QPen(a.rand, strich));
-    p.setBrush(verlauf);
-    p.drawRoundedRect(platte, rund, rund);
-    if (!unten) { // Licht auf der oberen Kante
-        p.setPen(QPen(QColor(255, 255, 255, isEnabled() ? 190 : 90), strich));
-        p.drawLine(platte.topLeft() + QPointF(rund, strich), platte.topRight() + QPointF(-rund, strich));
+QPixmap Knopf::körper(Zustand z, const QSize &größe) const {
+    const QImage &vorlage = bilder.roh(ordner + Zustandsbilder[static_cast<int>(z)]);
+    QPixmap bild;
+    if (vorlage.isNull()) {
+        bild = QPixmap(größe);
+        bild.fill(isEnabled() ? farbton::Holz.lighter(z == Zustand::Gedrückt ? 130 : 170) : farbton::Papier);
+    } else {
+        const double je = JeEntwurf / (12 * maß.jeTwip);
+        const QImage groß = gestreckt(vorlage, QSizeF(größe.width() * je, größe.height() * je).toSize());
+        bild = QPixmap::fromImage(groß.scaled(größe, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     }
-    if (zeigtFokus && hasFocus()) {
-        p.setBrush(Qt::NoBrush);
-        p.setPen(QPen(farbton::Messing, maß.strich(2)));
-        p.drawRoundedRect(platte.adjusted(strich, strich, -strich, -strich), rund, rund);
-    }
+    QPainter p(&bild);
+    p.setCompositionMode(QPainter::CompositionMode_SourceAtop);
+    if (z == Zustand::Überfahren) p.fillRect(bild.rect(), QColor(255, 255, 255, 80));
+    return bild;
 }
 
 void Knopf::maleInhalt(QPainter &p, const QRect &r) const {
     QRect für = r;
     if (!stück.bild.empty()) {
-        const QSize roh = bilder.rohgröße(stück.bild);
+        const QSize roh = bilder.roh(stück.bild).size();
         const int schriftraum = stück.text.empty() ? 0 : maß.punkt(stück.schriftgrad * 26);
         const QSize platz(r.width(), r.height() - schriftraum);
         // Vier Punkte des Bildes sind einer des Entwurfs.
@@ -101,7 +108,17 @@ void Knopf::paintEvent(QPaintEvent *) {
     p.scale(1 / maß.dichte, 1 / maß.dichte);
     const QRect ganz(0, 0, static_cast<int>(std::lround(width() * maß.dichte)),
                      static_cast<int>(std::lround(height() * maß.dichte)));
-    maleKörper(p, ganz);
+    const Zustand z = zustand();
+    if (fertig.size() != ganz.size() || fertigIn != z) {
+        fertig = körper(z, ganz.size());
+        fertigIn = z;
+    }
+    p.drawPixmap(0, 0, fertig);
+    if (zeigtFokus && hasFocus()) {
+        const double strich = maß.strich(2);
+        p.setPen(QPen(farbton::Messing.darker(115), strich));
+        p.drawRoundedRect(QRectF(ganz).adjusted(strich, strich, -strich, -strich), strich * 3, strich * 3);
+    }
     const int rand = static_cast<int>(maß.strich(3));
     const int tiefer = isDown() ? static_cast<int>(maß.strich(1)) : 0;
     maleInhalt(p, ganz.adjusted(rand, rand, -rand, -rand).translated(0, tiefer));

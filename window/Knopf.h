@@ -11,7 +11,8 @@ namespace velmo {
 
 class Knopf : public QAbstractButton {
   public:
-    Knopf(QWidget *form, Bildspeicher &);
+    /// ordner: wo die Bilder der drei Zustände liegen, ruhe, gedrueckt und gesperrt.
+    Knopf(QWidget *form, Bildspeicher &, std::string ordner);
     void zeige(const Stück &, const Maß &);
 
   protected:
@@ -26,13 +27,18 @@ class Knopf : public QAbstractButton {
     void focusInEvent(QFocusEvent *) override;
 
   private:
-    void maleKörper(QPainter &, const QRectF &) const;
+    enum class Zustand { Ruhe, Überfahren, Gedrückt, Gesperrt };
+    Zustand zustand() const;
+    QPixmap körper(Zustand, const QSize &) const;
     void maleInhalt(QPainter &, const QRect &) const;
 
     Bildspeicher &bilder;
+    const std::string ordner;
     Stück stück;
     Maß maß;
     bool zeigtFokus = false;
+    QPixmap fertig; // der Körper in seinem letzten Zustand
+    Zustand fertigIn = Zustand::Ruhe;
 };
 
 } // namespace velmo
