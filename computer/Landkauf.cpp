@@ -1,111 +1,19 @@
 #include "computer/Landkauf.h"
 
 #include "computer/Computer.h"
+#include "computer/Kauftafel.h"
 #include "computer/Zufallsentscheid.h"
 #include "model/Brett.h"
 #include "property/Grundstück.h"
 #include "property/Pleite.h"
 
-#include <optional>
 #include <span>
 
 namespace velmo {
 
 namespace {
 
-using H = Hotelkürzel;
-
-/// Die Münze vor einem Kauf. Fällt eine gegen ihn, endet die ganze Überlegung; nur der Kaufwurf und eine aus acht
-/// beenden bloß ihre Zeile.
-enum class Münze { Keine, VierAusFünf, EineAusSechs, EineAusAcht, Kaufwurf };
-
-/// Wann ein besetztes Grundstück mit Zwang genommen wird.
-enum class Zwang {
-    Nie,
-    Sofort,     // ohne Hauptgebäude
-    MitMünze,   // ohne Hauptgebäude, dann die Münze
-    NachSafari, // Ende, wenn Safaris Hauptgebäude steht, dann die Münze; das eigene zählt nicht: mit Absicht so
-};
-
-struct Kaufzeile {
-    H Hotel;
-    std::array<std::optional<H>, 3> NichtEigen; // diese dürfen nicht dem Computer gehören
-    int Gruppe, Grenze;                         // Gruppe 1 bis 3 muss unter der Grenze liegen; 0: keine
-    int Schwelle;                               // darunter endet die ganze Überlegung; 0: keine
-    Münze Vorab;
-    bool NurOhneGruppe1; // ein freies gilt nur als frei, solange Gruppe 1 leer ist
-    int Freischwelle;    // darunter endet die Überlegung bei einem freien; 0: keine
-    Münze Frei;
-    int Preis;
-    Zwang Besetzt;
-};
-
-// clang-format off
-constexpr Kaufzeile StapelA[] = { // noch kein Hotel
-    // Hotel nicht eigen     Gruppe Schwelle vorab           nur o. G1  frei ab  Münze          Preis  besetzt
-    {H::b, {H::f},                0, 0,   600, Münze::Keine,        false,     0, Münze::Keine,         500, Zwang::Sofort},
-    {H::p, {H::r},                0, 0,  4500, Münze::Keine,        false,     0, Münze::Kaufwurf,     3500, Zwang::Sofort},
-    {H::l, {},                    0, 0,  3900, Münze::Keine,        false,     0, Münze::Keine,        3000, Zwang::Sofort},
-    {H::w, {H::r},                0, 0,  2500, Münze::Keine,        false,     0, Münze::VierAusFünf,  2500, Zwang::Sofort},
-    {H::r, {H::w},                0, 0,  2500, Münze::Keine,        false,     0, Münze::VierAusFünf,  2500, Zwang::Sofort},
-    {H::f, {H::b},                0, 0,  1000, Münze::Keine,        false,     0, Münze::VierAusFünf,  1000, Zwang::Sofort},
-    {H::s, {},                    0, 0,  2000, Münze::EineAusSechs, false,     0, Münze::Keine,        2000, Zwang::MitMünze},
-    {H::t, {},                    0, 0,  1500, Münze::EineAusSechs, false,     0, Münze::Keine,        1500, Zwang::NachSafari},
-};
-
-constexpr Kaufzeile StapelB[] = { // ein Hotel
-    {H::b, {H::f},                0, 0,  1000, Münze::Keine,        true,      0, Münze::Keine,         500, Zwang::Sofort},
-    {H::p, {H::r},                0, 0,  5000, Münze::Keine,        true,      0, Münze::Kaufwurf,     3500, Zwang::Sofort},
-    {H::l, {H::t},                0, 0,  3000, Münze::Keine,        true,      0, Münze::Keine,        3000, Zwang::Sofort},
-    {H::w, {H::r, H::w},          2, 2,     0, Münze::Keine,        false,  5000, Münze::Keine,        2500, Zwang::MitMünze},
-    {H::r, {H::p, H::w, H::r},    2, 2,     0, Münze::Keine,        false,  5000, Münze::Keine,        2500, Zwang::MitMünze},
-    {H::f, {H::b, H::f},          2, 2,     0, Münze::Keine,        false,  1000, Münze::Keine,        2100, Zwang::MitMünze},
-    {H::s, {},                    3, 1,  4000, Münze::Keine,        false,     0, Münze::Keine,        2000, Zwang::MitMünze},
-    {H::t, {H::l},                3, 1,  3000, Münze::Keine,        false,     0, Münze::Keine,        1500, Zwang::NachSafari},
-};
-
-constexpr Kaufzeile StapelC[] = { // zwei oder mehr, ab der fünften Runde des Menschen
-    {H::b, {H::f},                1, 3,  1100, Münze::Keine,        false,     0, Münze::Keine,         500, Zwang::Nie},
-    {H::p, {H::r},                1, 3,  6000, Münze::Keine,        false,     0, Münze::Keine,        3500, Zwang::Nie},
-    {H::l, {H::t},                1, 3,  5500, Münze::Keine,        false,     0, Münze::Keine,        3000, Zwang::Nie},
-    {H::w, {H::r},                2, 4,  5000, Münze::Keine,        false,     0, Münze::EineAusAcht,  2500, Zwang::Nie},
-    {H::r, {H::p, H::w},          2, 4,  4000, Münze::Keine,        false,     0, Münze::EineAusAcht,  2500, Zwang::Nie},
-    {H::f, {H::b},                2, 4,  3000, Münze::Keine,        false,     0, Münze::EineAusAcht,  1000, Zwang::Nie},
-};
-
-struct Siedlung {
-    H Hotel;
-    const char *Anlieger; // wie der Anliegername es nennt
-    int Gruppe;
-    int Zwangspreis;
-    const char *Meldung;       // der Name in der Meldung eines freien Kaufs
-    const char *Zwangsmeldung; // und der eines erzwungenen
-};
-
-// Royals Zwangspreis von 12500 und die Zwangsmeldung "Taj", die niemand kennt, sind mit Absicht so.
-constexpr std::array<Siedlung, 8> Siedlungen = {{
-    // Hotel Anlieger  Gruppe Zwang  Meldung      erzwungen
-    {H::b, "Boomerang", 2,    250, "Boomerang", "Boomerang"},
-    {H::p, "President", 1,   1750, "President", "President"},
-    {H::w, "Waikiki",   2,   1250, "Waikiki",   "Waikiki"},
-    {H::t, "Taj",       3,    750, "Taj Mahal", "Taj"},
-    {H::s, "Safari",    3,   1000, "Safari",    "Safari"},
-    {H::f, "Fujijama",  2,    500, "Fujijama",  "Fujijama"},
-    {H::l, "Etoile",    1,   1500, "Etoile",    "Etoile"},
-    {H::r, "Royal",     2,  12500, "Royal",     "Royal"},
-}};
-
-struct Stufenzeile {
-    int GeldÜber, GeldVonC1Bis, Kaufstufe;
-};
-
-// Alle Zeilen gelten nacheinander; verglichen wird mit dem Geld von c1, wer auch handelt: mit Absicht so.
-constexpr Stufenzeile Kaufstufen[] = {
-    {0, 700, 1}, {700, 2150, 2}, {2150, 5000, 3}, {5000, 10000, 5}, {10000, 32767, 5},
-};
-// clang-format on
-
-const Siedlung &siedlung(H k) { return Siedlungen[static_cast<std::size_t>(k)]; }
+using namespace kauftafel;
 
 class Landkauf {
   public:
