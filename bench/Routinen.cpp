@@ -2,6 +2,8 @@
 #include "bench/Befehle.h"
 
 #include "assistant/Ansagen.h"
+#include "board/Autofahrt.h"
+#include "board/Landung.h"
 #include "computer/Bauen.h"
 #include "computer/Bauphase.h"
 #include "computer/Eingänge.h"
@@ -85,6 +87,8 @@ const Routine Routinentafel[] = {
     {"Geldbuchen",           2, FRAGE(geldbuchen(p, w))},
     {"Scheinanzeige",        0, RUFE(Scheinanzeige(p))},
     {"Notenzahlung",         1, RUFE(Notenzahlung(p, liesGanzzahl(w[0])))},
+    {"Autofahrt",            1, RUFE(Autofahrt(p, wagen(w[0])))},
+    {"Bankdurchfahrt",       1, RUFE(Bankdurchfahrt(p, wagen(w[0])))},
     {"Eingangsknopf",        1, RUFE(Eingangsknopf(p, flagge(w[0])))},
     {"Mietdialog",           1, RUFE(Mietdialog(p, wagen(w[0])))},
     {"Mietzahlen",           1, RUFE(Mietzahlen(p, wagen(w[0])))},
