@@ -5,7 +5,7 @@
 
 #include <array>
 #include <iostream>
-#include <ranges>
+#include <sstream>
 
 namespace velmo {
 
@@ -23,8 +23,8 @@ constexpr std::array Fehlerworte = {"argument", "überlauf", "index", "typ", "da
 Szene::Szene(std::string name, std::string_view skript) : datei(std::move(name)) {
     if (skript.starts_with("\xEF\xBB\xBF")) skript.remove_prefix(3);
     int nummer = 0;
-    for (const auto teil : std::views::split(skript, '\n')) {
-        std::string text(teil.begin(), teil.end());
+    std::istringstream zeilen{std::string(skript)};
+    for (std::string text; std::getline(zeilen, text);) {
         if (text.ends_with('\r')) text.pop_back();
         rest.push_back({++nummer, std::move(text)});
     }
@@ -110,8 +110,9 @@ void Szene::neuesProgramm() {
 }
 
 void Szene::schiebeEin(std::initializer_list<std::string> zeilen) {
-    for (const std::string &text : std::views::reverse(zeilen))
-        rest.push_front({zeile, text});
+    std::size_t stelle = 0;
+    for (const std::string &text : zeilen)
+        rest.insert(rest.begin() + static_cast<std::ptrdiff_t>(stelle++), {zeile, text});
 }
 
 void Szene::beende(const char *fehler) {

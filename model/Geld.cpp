@@ -4,7 +4,6 @@
 #include "model/Brett.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace velmo {
 
@@ -77,7 +76,7 @@ class Abbuchung {
 
 void bucheDazu(Spielzustand &z, Lose &betrag) {
     while (betrag.Zahl() >= 50) {
-        const int note = *std::ranges::find_if(std::views::reverse(Noten), [&](int n) { return betrag.Zahl() >= n; });
+        const int note = *std::find_if(Noten.rbegin(), Noten.rend(), [&](int n) { return betrag.Zahl() >= n; });
         z.Gesamtgeld += note;
         z.Notenbestand[note] += 1;
         betrag -= note;

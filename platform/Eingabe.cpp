@@ -3,7 +3,7 @@
 #include "platform/Laufzeit.h"
 
 #include <algorithm>
-#include <ranges>
+#include <utility>
 
 namespace velmo {
 
@@ -17,7 +17,8 @@ bool darin(Punkt p, double links, double oben, double breite, double höhe) {
 template <class Frage>
 VisualControl *vorderstes(const std::vector<VisualControl *> &kinder, Punkt p, const Frage &frage) {
     for (const bool fenster : {true, false})
-        for (VisualControl *c : std::views::reverse(kinder)) {
+        for (auto hier = kinder.rbegin(); hier != kinder.rend(); ++hier) {
+            VisualControl *const c = *hier;
             if (c->Fenster() != fenster || !c->Visible || !darin(p, c->Left, c->Top, c->Width, c->Height)) continue;
             if (auto *feld = dynamic_cast<PictureBox *>(c); feld && feld->Enabled)
                 if (VisualControl *kind = vorderstes(feld->Kinder, {p.x - c->Left, p.y - c->Top}, frage)) return kind;
@@ -33,7 +34,8 @@ bool nimmtAblage(const VisualControl &c) { return c.DragDrop && c.Enabled; }
 Form *vordersteForm(const Laufzeit &laufzeit, Punkt p) {
     const Bildschirm schirm = laufzeit.Screen();
     const auto formen = laufzeit.Formen();
-    for (Form *f : std::views::reverse(formen)) {
+    for (auto hier = formen.rbegin(); hier != formen.rend(); ++hier) {
+        Form *const f = *hier;
         if (!f->Visible || !darin(p, f->Left, f->Top, f->Width, f->Height)) continue;
         if (f->region() && !f->region()->enthält(static_cast<int>((p.x - f->Left) / schirm.TwipsPerPixelX),
                                                  static_cast<int>((p.y - f->Top) / schirm.TwipsPerPixelY)))

@@ -7,7 +7,6 @@
 #include "property/Pleite.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace velmo {
 
@@ -67,8 +66,9 @@ Image &Baubild(Programm &p) {
 } // namespace
 
 std::span<const Baukosten> Baufolge(Hotelkürzel k) {
-    const auto zeilen = std::ranges::equal_range(Baukostentafel, k, {}, &Baukosten::Hotel);
-    return {zeilen.begin(), zeilen.end()};
+    const auto vonHotel = [k](const Baukosten &b) { return b.Hotel == k; };
+    const auto anfang = std::ranges::find_if(Baukostentafel, vonHotel);
+    return {anfang, std::find_if_not(anfang, Baukostentafel.end(), vonHotel)};
 }
 
 const Baukosten &nächsteBaustufe(const Spielzustand &z, Hotelkürzel k) {

@@ -18,7 +18,7 @@ Karten::Karten(Programm &programm) : Form(programm, Formname, {204, 384, 9216, 6
     Timer9.Tick = [this] { p.entlade(Formname); };
     Timer10.Tick = [this] { Timer10_Timer(); };
     for (const auto &[pfeil, um] : {std::pair{&Image1, -1}, std::pair{&Image2, 1}})
-        pfeil->Click = [this, um] {
+        pfeil->Click = [this, um = um] {
             spieleFrisch(MMControl2);
             blättere(um);
         };

@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <ranges>
 
 namespace velmo {
 
@@ -68,9 +67,8 @@ const Mietzeile *miethotel(const Spielzustand &z) {
 }
 
 std::optional<int> Tagessatz(const Spielzustand &z, const Mietzeile &zeile) {
-    for (const Baustufe s : std::views::reverse(AlleStufen))
-        if (zeile.Satz[static_cast<std::size_t>(s)] && steht(z, zeile.Hotel, s))
-            return zeile.Satz[static_cast<std::size_t>(s)];
+    for (auto s = AlleStufen.rbegin(); s != AlleStufen.rend(); ++s)
+        if (const auto satz = zeile.Satz[static_cast<std::size_t>(*s)]; satz && steht(z, zeile.Hotel, *s)) return satz;
     return std::nullopt;
 }
 
