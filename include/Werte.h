@@ -49,6 +49,7 @@ class Lose {
     Lose(const char *text) : wert(std::string(text)) {}
 
     bool leer() const;
+    bool istText() const { return std::holds_alternative<std::string>(wert); }
     /// Die Zahl; leer ist 0. Wirft Laufzeitfehler (Typ), wenn der Text keine Zahl ist.
     double Zahl() const;
     /// Der Text, wie ihn eine Meldung zeigt.

@@ -68,7 +68,7 @@ class VisualControl : public Control {
 
     /// Fenster liegen in ihrem Behälter stets über den gezeichneten Elementen (Beschriftung, Bild, Rahmen, Linie).
     virtual bool Fenster() const { return true; }
-    /// Rahmen und Linien nehmen keine Maus.
+    /// Rahmen und Filme nehmen keine Maus.
     virtual bool nimmtMaus() const { return true; }
     /// Ganz nach vorn oder nach hinten unter den Geschwistern seiner Schicht.
     void nachVorn();
@@ -284,6 +284,7 @@ class Animation : public VisualControl {
   public:
     using VisualControl::VisualControl;
     ~Animation() override;
+    bool nimmtMaus() const override { return false; }
     void Open(const std::string &Datei);
     void Play();
 };

@@ -22,11 +22,12 @@ bool gleichOhneSchreibung(const std::string &a, const std::string &b) {
 /// Rechners verwehrt das System nichts.
 void prüfeSchreibrecht(const fs::path &pfad) {
     constexpr auto schreiben = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    std::error_code fehler;
     for (const fs::path &teil : {pfad, pfad.parent_path()})
-        if (fs::exists(teil) && (fs::status(teil).permissions() & schreiben) == fs::perms::none)
+        if (fs::exists(teil, fehler) && (fs::status(teil, fehler).permissions() & schreiben) == fs::perms::none)
             throw Laufzeitfehler(Fehlerart::Datei);
-    if (fs::is_directory(pfad)) throw Laufzeitfehler(Fehlerart::Datei);
-    if (fs::exists(pfad) && !std::ofstream(pfad, std::ios::binary | std::ios::app))
+    if (fs::is_directory(pfad, fehler)) throw Laufzeitfehler(Fehlerart::Datei);
+    if (fs::exists(pfad, fehler) && !std::ofstream(pfad, std::ios::binary | std::ios::app))
         throw Laufzeitfehler(Fehlerart::Datei);
 }
 
@@ -53,9 +54,10 @@ fs::path findePfad(const fs::path &gesucht) {
 
 std::string liesDatei(const fs::path &name) {
     const fs::path pfad = findePfad(name);
-    if (!fs::exists(pfad)) throw Laufzeitfehler::dateiFehlt();
+    std::error_code fehler;
+    if (!fs::exists(pfad, fehler)) throw Laufzeitfehler::dateiFehlt();
     std::ifstream datei(pfad, std::ios::binary);
-    if (!datei || fs::is_directory(pfad)) throw Laufzeitfehler(Fehlerart::Datei);
+    if (!datei || fs::is_directory(pfad, fehler)) throw Laufzeitfehler(Fehlerart::Datei);
     return {std::istreambuf_iterator<char>(datei), {}};
 }
 
@@ -73,6 +75,14 @@ void schreibeDatei(const fs::path &name, const std::string &bytes) {
     if (datei && !fehler) return;
     fs::remove(daneben, fehler);
     throw Laufzeitfehler(Fehlerart::Datei);
+}
+
+void löscheDatei(const fs::path &name) {
+    const fs::path pfad = findePfad(name);
+    std::error_code fehler;
+    if (!fs::exists(pfad, fehler)) throw Laufzeitfehler::dateiFehlt();
+    prüfeSchreibrecht(pfad);
+    if (!fs::remove(pfad, fehler)) throw Laufzeitfehler(Fehlerart::Datei);
 }
 
 } // namespace velmo

@@ -11,5 +11,7 @@ std::filesystem::path findePfad(const std::filesystem::path &);
 std::string liesDatei(const std::filesystem::path &);
 /// Ersetzt die Datei im Ganzen; misslingt das, steht die alte noch.
 void schreibeDatei(const std::filesystem::path &, const std::string &bytes);
+/// Entfernt die Datei; ein Ordner bleibt stehen.
+void löscheDatei(const std::filesystem::path &);
 
 } // namespace velmo

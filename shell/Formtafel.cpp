@@ -1,5 +1,7 @@
 #include "shell/Formtafel.h"
 
+#include "assistant/Assistent.h"
+#include "assistant/Sprech.h"
 #include "board/Form1.h"
 #include "property/Baufeld.h"
 #include "property/Bauphase.h"
@@ -10,17 +12,35 @@
 #include "property/geldfeld.h"
 #include "shell/Gewinn.h"
 #include "shell/HoF.h"
+#include "shell/Intro.h"
+#include "shell/Menu.h"
+#include "shell/Menu2.h"
 #include "shell/Verloren.h"
 
 namespace velmo {
 
 namespace {
 
+// clang-format off
 constexpr Formeintrag Tafel[] = {
-    eintrag<Form1>(),    eintrag<Baufeld>(), eintrag<Bauphase>(), eintrag<Exchange>(),
-    eintrag<Karten>(),   eintrag<eingang>(), eintrag<geldfeld>(), eintrag<Bezahlen>(),
-    eintrag<Verloren>(), eintrag<Gewinn>(),  eintrag<HoF>(),
+    eintrag<Form1>(),
+    eintrag<Baufeld>(),
+    eintrag<Bauphase>(),
+    eintrag<Exchange>(),
+    eintrag<Karten>(),
+    eintrag<eingang>(),
+    eintrag<geldfeld>(),
+    eintrag<Bezahlen>(),
+    eintrag<Verloren>(),
+    eintrag<Gewinn>(),
+    eintrag<HoF>(),
+    eintrag<Assistent>(),
+    eintrag<Sprech>(),
+    eintrag<Intro>(),
+    eintrag<Menu>(),
+    eintrag<Menu2>(),
 };
+// clang-format on
 
 } // namespace
 
@@ -33,6 +53,6 @@ void brichAb(Programm &p, const Laufzeitfehler &fehler) {
         p.oberfläche.setzeModus(static_cast<int>(z.Bildschirmbreite), static_cast<int>(z.Bildschirmhöhe));
 }
 
-void starte(Programm &p) { p.zeige(Form1::Formname); }
+void starte(Programm &p) { p.zeige(Intro::Formname); }
 
 } // namespace velmo

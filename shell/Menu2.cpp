@@ -1,0 +1,178 @@
+#include "shell/Menu2.h"
+
+#include "assistant/Ansagen.h"
+#include "assistant/Assistent.h"
+#include "board/Form1.h"
+#include "media/Bilder.h"
+#include "model/Autotafel.h"
+#include "platform/Dateien.h"
+#include "platform/FormAnpassen.h"
+#include "platform/Zeichen.h"
+#include "shell/Charakterdatei.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace velmo {
+
+namespace {
+
+constexpr int ErstesBild = 141, LetztesBild = 155, Anfangsbild = 152;
+constexpr int LängsterName = 13;
+constexpr int Startgeld[] = {12000, 20000, 30000}; // je Zeile der Schwierigkeit
+
+std::string Charakterordner(const Spielzustand &z) { return z.Programmpfad + "/charakter"; }
+
+/// Schiebt die Form in Schritten, solange die Bedingung gilt; der ganze Weg dauert etwa eine Sekunde.
+void schiebe(Form &form, double schritt, double bis) {
+    const double dauer = 1000 / (std::abs(bis - form.Left) / std::abs(schritt) + 1);
+    while (schritt < 0 ? form.Left >= bis : form.Left <= bis) {
+        form.Left += schritt;
+        form.laufzeit.oberfläche.zeigeSchritt(form, dauer);
+    }
+}
+
+} // namespace
+
+Menu2::Menu2(Programm &programm) : Form(programm, Formname, {420, 1056, 8868, 4716}), p(programm) {
+    BackColor = Farbe{0xFFFFFF};
+    MouseMove = [this](double, double) { umrande(nullptr); };
+    Picture1.MouseMove = MouseMove;
+    klickl.MouseMove = [this](double, double) { umrande(&klickl); };
+    klickr.MouseMove = [this](double, double) { umrande(&klickr); };
+    klickl.Click = [this] { klickl_Click(); };
+    klickr.Click = [this] { klickr_Click(); };
+    Label4.Click = [this] { Label4_Click(); };
+    Command1.Click = [this] { Command1_Click(); };
+    Command2.Click = [this] { Command2_Click(); };
+    Command3.Click = File1.DblClick = [this] { Command3_Click(); };
+    Command4.Click = [this] { Command4_Click(); };
+    Command5.Click = [this] { Command5_Click(); };
+    Entwurfsbilder(p, *this);
+}
+
+void Menu2::Form_Load() {
+    MMControl1.FileName = p.Zustand.Programmpfad + "/sound/menuback.wav";
+    if (p.Zustand.KleineSchrift) FormAnpassen(*this, 0);
+    const Bildschirm schirm = p.Screen();
+    Left = std::floor((schirm.Width - Width) / 2);
+    Top = std::floor((schirm.Height - Height) / 2);
+    p.Zustand.Bildnummer = Anfangsbild;
+    try {
+        File1.setzePath(Charakterordner(p.Zustand));
+    } catch (const Laufzeitfehler &) { // ohne den Ordner bleibt die Liste leer
+    }
+    for (ListBox *liste : {&List2, &List1, &List3})
+        liste->ListIndex = 0;
+    klickr_Click(); // mit Absicht so: das erste Bild ist das nächste
+}
+
+void Menu2::klickr_Click() {
+    p.Zustand.Bildnummer += 1;
+    if (p.Zustand.Bildnummer.Zahl() >= LetztesBild + 1) p.Zustand.Bildnummer = ErstesBild;
+    zeigeBild();
+}
+
+void Menu2::klickl_Click() {
+    p.Zustand.Bildnummer -= 1;
+    if (p.Zustand.Bildnummer.Zahl() <= ErstesBild - 1) p.Zustand.Bildnummer = LetztesBild;
+    zeigeBild();
+}
+
+void Menu2::zeigeBild() {
+    Picture1.Picture = Bildladen(p, Kurz(static_cast<int>(std::nearbyint(p.Zustand.Bildnummer.Zahl()))), "Charakter");
+}
+
+void Menu2::umrande(Image *pfeil) {
+    for (Image *bild : {&klickl, &klickr})
+        bild->BorderStyle = bild == pfeil;
+}
+
+/// Schreibt die innere Nummer des Bildes an, sonst nichts.
+void Menu2::Label4_Click() {
+    Label4.Caption = std::to_string(std::hash<std::string>{}(Picture1.Picture().Datei) >> 33);
+}
+
+void Menu2::Command4_Click() {
+    p.Zustand.Charakterpfad = Charakterordner(p.Zustand) + "/" + Text1.Text() + ".cha";
+    schreibeCharakter(p.Zustand.Charakterpfad, {Text1.Text, Text2.Text, List1.Text(), p.Zustand.Bildnummer});
+    File1.Refresh();
+}
+
+void Menu2::Command3_Click() {
+    if (File1.ListIndex < 0) return;
+    try {
+        const Charakter geladen = liesCharakter(File1.Path() + "/" + File1.Text());
+        p.Zustand.Bildnummer = geladen.Bildnummer;
+        File1.Refresh();
+        Text1.Text = geladen.Name;
+        Text2.Text = geladen.Spitzname;
+        List1.wähleText(geladen.Farbe); // mit Absicht erst jetzt: bei fremder Farbe stehen die Namen schon
+        zeigeBild();
+    } catch (const Laufzeitfehler &fehler) {
+        p.MsgBox("Fehler beim laden der Charakterdatei: " + fehler.Beschreibung());
+    }
+}
+
+void Menu2::Command5_Click() {
+    try {
+        if (File1.ListIndex < 0) return;
+        löscheDatei(File1.Path() + "/" + File1.Text());
+        File1.Refresh();
+    } catch (const Laufzeitfehler &fehler) {
+        p.MsgBox("Fehler beim Löschen der Charakterdatei: " + fehler.Beschreibung());
+    }
+}
+
+void Menu2::Command1_Click() {
+    MMControl1.Command(Befehl::Open);
+    MMControl1.Command(Befehl::Play);
+    schiebe(*this, -20, -9000);
+    p.entlade(Formname);
+}
+
+void Menu2::Command2_Click() {
+    Spielzustand &z = p.Zustand;
+    z.Spielername = Text1.Text().empty() ? "Spieler 1" : Text1.Text();
+    z.Spitzname = Text2.Text().empty() ? z.Spielername : Text2.Text();
+    // Mit Absicht nur eine Bemerkung: der Name bleibt, und das Spiel beginnt.
+    if (Zeichenzahl(z.Spielername) > LängsterName)
+        Ansagen(p, "So einen langen Namen kann man doch gar nicht haben! Kürze ihn auf max. 13 Buchstaben!", 0);
+    z.Schwierigkeit = static_cast<int>(List3.ListIndex) + 1;
+    if (z.Schwierigkeit > 0)
+        for (Kurz &geld : z.Computergeld)
+            geld = Startgeld[z.Schwierigkeit - 1];
+    z.Gegnerzahl = static_cast<int>(List2.ListIndex) + 1;
+    if (List1.ListIndex < 0) {
+        p.MsgBox("Sie müssen eine Farbe wählen!");
+        return p.zeige(Formname);
+    }
+    teileAutosAus();
+    z.Spielerbild = Picture1.Picture;
+    MMControl1.Command(Befehl::Play);
+    schiebe(*this, 20, 9400);
+    p.verstecke("Menu");
+    p.entlade(Formname);
+    p.zeige(Form1::Formname);
+    p.zeige(Assistent::Formname);
+    Ansagen(p,
+            "Hi " + z.Spitzname +
+                ", ich bin Dorvin, der Assistent von Velmo. Ich helfe dir gerne weiter und ich berichte dir was läuft.",
+            0);
+}
+
+/// Die Autos der Computer; wessen Fahrer nicht mitspielt, verschwindet vom Brett.
+void Menu2::teileAutosAus() {
+    const std::string farbe = List1.Text();
+    const Auto &meins =
+        *std::find_if(Autotafel.begin(), Autotafel.end(), [&](const Auto &a) { return farbe == a.Farbe; });
+    p.Zustand.Spielerfarbe = meins.Text;
+    for (int computer = 1; computer <= 3; ++computer) {
+        const Autokürzel k = meins.Computer[static_cast<std::size_t>(computer - 1)];
+        const bool spielt = computer <= p.Zustand.Gegnerzahl;
+        p.Zustand.Autos[k].Autobesitzer = spielt ? Computer<Autobesitzer>(computer) : Autobesitzer();
+        if (!spielt) brett(p).Autobild(k).Visible = false;
+    }
+}
+
+} // namespace velmo
