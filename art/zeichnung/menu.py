@@ -352,8 +352,8 @@ def fügen():
 def blume():
     """Die Blume aufgehellt mit weichem Schein; passt auf die Stelle 3330, 4490 des Menüs."""
     b, h = 448, 424
-    subprocess.run(["convert", os.path.join(BILD, "menu.jpg"), "-crop", f"{b}x{h}+1110+1497", "+repage", "-modulate", "138,125", "-brightness-contrast", "4x6",
-                    "(", "-size", f"{b}x{h}", "radial-gradient:rgba(255,236,150,0.55)-rgba(255,220,120,0)", ")", "-compose", "screen", "-composite",
+    subprocess.run(["convert", os.path.join(BILD, "menu.jpg"), "-crop", f"{b}x{h}+1110+1497", "+repage", "-modulate", "120,128",
+                    "(", "-size", f"{b}x{h}", "radial-gradient:rgba(255,226,130,0.38)-rgba(255,220,120,0)", ")", "-compose", "screen", "-composite",
                     "(", "-size", f"{b}x{h}", "xc:black", "-fill", "white", "-draw", f"roundrectangle 26,26 {b - 27},{h - 27} 120,120", "-blur", "0x14", ")",
                     "-alpha", "off", "-compose", "CopyOpacity", "-composite", os.path.join(BILD, "shape1.png")], check=True)
 
