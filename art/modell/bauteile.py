@@ -121,7 +121,7 @@ def zinnen(x, y, z, b, t, stoff_, mass=2.0):
     """Zinnenkranz um ein Rechteck."""
     for achse, lang, quer in ((0, b, t), (1, t, b)):
         n = max(2, round(lang / (2 * mass)))
-        for i in range(n + 1):
+        for i in range(achse, n + 1 - achse):          # die Ecken nur einmal
             a = -lang / 2 + lang * i / n
             for s in (-1, 1):
                 px, py = (a, s * quer / 2) if achse == 0 else (s * quer / 2, a)
