@@ -1,0 +1,84 @@
+"""Das ganze Hotel auf seinem Land, wie es auf der Besitzkarte steht: ORDNER/HOTEL.png.
+
+blender -b --python art/karten/szene.py -- --ziel ORDNER [--nur HOTEL ...] [--fein N] [--proben N]
+"""
+import importlib
+import os
+import sys
+
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "hotels"))
+from anlage import *       # noqa: E402,F403
+from mache import HOTELS, baue   # noqa: E402
+
+SEITE = (1110, 1290)                    # Bildpunkte des Bildes auf der Karte bei --fein 4
+
+# Wo die Karte vom Brett abweicht: Fußpunkte der Stufen in Entwurfspunkten, damit das Hotel ein Bild füllt.
+ORTE = {
+    "boomerang": dict(boom=(0, 0), boomp=(-4, 34)),
+    "waikiki": dict(kikin1=(-52, 5), kikin2=(-26, -24), kikin3=(26, -24), kikin4=(52, 5), kikih=(0, 12), kikip=(0, 46)),
+    "tajmahal": dict(tajh=(0, 0), tajn1=(-31, 2), tajn2=(31, 2), tajp=(0, 34)),
+    "safari": dict(safn2=(-8, -22), safh=(27, 0), safn1=(-26, 5), safp=(0, 38)),
+    "president": dict(presip=(160, 428)),
+    "royal": dict(royp=(212, 230)),
+    "etoile": dict(letp=(368, 306)),
+}
+
+# Land: Stoff des Bodens, Bäume ringsum (Art, Maß)
+LAND = {
+    "boomerang": (lambda: erde("#c9643a"), (lambda x, y: eukalyptus(x, y, mass=1.2), lambda x, y: grasbüschel(x, y, mass=1.8, farbe="#b9a347"))),
+    "president": (lambda: gras("#8fbf5a"), (lambda x, y: kugelbaum(x, y, mass=1.0, farbe="#4b9438"), lambda x, y: zypresse(x, y, mass=1.0))),
+    "waikiki": (lambda: erde("#f0d59a"), (lambda x, y: palme(x, y, mass=1.1), lambda x, y: busch(x, y, mass=1.3, blüten="#e8558a"))),
+    "tajmahal": (lambda: gras("#86bb4e"), (lambda x, y: zypresse(x, y, mass=.8), lambda x, y: busch(x, y, mass=1.0, blüten="rosa"))),
+    "safari": (lambda: erde("#dcb766"), (lambda x, y: schirmakazie(x, y, mass=1.2), lambda x, y: grasbüschel(x, y, mass=1.8, farbe="#a79a3c"))),
+    "fujijama": (lambda: gras("#7fa646"), (lambda x, y: ahorn(x, y, mass=1.2, farbe="#d2572a"), lambda x, y: nadelbaum(x, y, mass=1.1), lambda x, y: kugelbaum(x, y, mass=.8, farbe="#e79ab4"))),
+    "etoile": (lambda: gras("#86bb50"), (lambda x, y: kugelbaum(x, y, mass=.9, farbe="#4b9438"), lambda x, y: busch(x, y, mass=1.2, blüten="rosa"))),
+    "royal": (lambda: gras("#7cb646"), (lambda x, y: kugelbaum(x, y, mass=1.0, farbe="#3f8a3c"), lambda x, y: busch(x, y, mass=1.2, farbe="#3f8a34", blüten="rot"))),
+}
+
+
+def szene(hotel, args):
+    neu()
+    orte = {}
+    for name, (links, oben, breite, höhe) in rechtecke().items():
+        if name in ORTE.get(hotel, {}):
+            x, y = ORTE[hotel][name]
+            links, oben = x * TWIPS - breite / 2, y * TWIPS - höhe
+        orte[name] = (links, oben, breite, höhe)
+    stufen = importlib.import_module(hotel).STUFEN
+    baue(stufen, orte)
+    kästen = [tuple(w / TWIPS for w in orte[n]) for n in stufen]
+    links, oben = min(k[0] for k in kästen), min(k[1] for k in kästen)
+    rechts, unten = max(k[0] + k[2] for k in kästen), max(k[1] + k[3] for k in kästen)
+    seite = max((rechts - links + 14) / SEITE[0], (unten - oben + 16) / SEITE[1])
+    b, h = SEITE[0] * seite, SEITE[1] * seite
+    mx, my = (links + rechts) / 2, (oben + unten) / 2 + 1
+    # Insel im Meer: das Meer kommt nur hinten ins Bild
+    grund, bäume = LAND[hotel]
+    mitte = welt(mx, my)
+    quader(mitte.x, mitte.y, -6, 2000, 2000, 3, wasser("#2f9fc4"), 0)
+    ufer = welt(0, my - h * .40).y
+    küste = [(mitte.x - 900, mitte.y - 900), (mitte.x + 900, mitte.y - 900)] + \
+            [(mitte.x + 900 - 30 * i, ufer + 7 * math.sin(i * 1.7) + 5 * math.sin(i * .6)) for i in range(61)]
+    prisma([(x, y + 9) for x, y in küste], -3, 1.6, stoff("#bfe6e8", rau=.3), .2)
+    prisma(küste, -3, 2.4, erde("#ecd49a"), .6)
+    prisma([(x, y - 12) for x, y in küste], -1, .9, grund(), .4)
+    random.seed(hotel)
+    gepflanzt = []
+    for _ in range(420):                 # Bäume, wo sie kein Haus verdecken
+        x, y = mx + random.uniform(-.55, .55) * b, my + random.uniform(-.34, .62) * h
+        ort = welt(x, y)
+        if ort.y > ufer - 18 or any(k[0] - 5 < x < k[0] + k[2] + 5 and k[1] + k[3] - 34 < y < k[1] + k[3] + 17 for k in kästen):
+            continue
+        if any(k[0] - 4 < x < k[0] + k[2] + 4 and k[1] + k[3] < y < k[1] + k[3] + 15 for k in kästen):
+            continue
+        if all((ort - o).length > 15 for o in gepflanzt):
+            gepflanzt.append(ort)
+            random.choice(bäume)(ort.x, ort.y)
+    rendere(os.path.join(args.ziel, hotel + ".png"), mx - b / 2, my - h / 2, b, h, fein=args.fein / 4 / seite, proben=args.proben, durchsichtig=False)
+
+
+if __name__ == "__main__":
+    args = argumente()
+    for hotel in HOTELS:
+        if not args.nur or hotel in args.nur:
+            szene(hotel, args)
