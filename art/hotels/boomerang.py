@@ -73,8 +73,8 @@ def boom():
     quader(0, 42, 0, 88, 54, 4, holz("#c08a52"), .5)
     for i in range(3):
         quader(0, 13.4 - 2.4 * i, 0, 22 + 2 * i, 3.4, 3.4 - 1.1 * i, holz("#b07c48"), .3)
-    haus(0, 46, 4, 72, 38, 18, putz(WAND), ((4, 17, 7, 9, dict(läden="#c8502f", sprossen=(1, 1))),))
-    with wand(0, 46, 72, 38, "s"), bei(0, 0, 4):
+    haus(0, 44, 4, 72, 34, 14, putz(WAND), ((3, 17, 7, 9, dict(läden="#c8502f", sprossen=(1, 1))),))
+    with wand(0, 44, 72, 34, "s"), bei(0, 0, 4):
         tür(0, 0, 9, 12, "#c8502f", stufen=0)
     dach = wellblech(BLECH, 2.6)
     walmdach(0, 42, 18, 86, 52, 12, dach, über=3, first=44, dick=1.4)
@@ -92,7 +92,7 @@ def boom():
                 fenster(0, 2.4, 5, 4.2)
             satteldach(0, 0, 7, 12, 13, 4, wellblech("#5fb3a4", 2.0), drehung=90, giebel=putz(WAND))
     bumerang(0, 33, 47, 46, 3)
-    wimpel(30, 50, 34, 20, ("#20408a", "weiss", "rot"), 8, 5)
+    wimpel(-30, 50, 30, 20, ("#20408a", "weiss", "rot"), 8, 5)
     # Vorplatz
     for x, y, m in ((-46, 10, 1.0), (47, 8, 1.1), (-30, 6, .8)):
         grasbüschel(x, y, mass=1.4 * m, farbe="#b9a347")

@@ -1,7 +1,7 @@
 """L'Étoile: französische Palais der Belle Époque, Mansarddächer, Stern auf der Kuppel, Park mit Fontänen."""
 from anlage import *       # noqa: F403
 
-WAND, SIMS, DACH, MARKISE = "#f0d9b0", "#fbf3e2", "#3f6498", ("#c23a5a", "#fbf3e2")
+WAND, SIMS, DACH, MARKISE = "#dfb981", "#efe3cb", "#41699f", ("#c23a5a", "#fbf3e2")
 BOGEN = dict(rahmen=SIMS, bogen=True, sprossen=(1, 0), rand=.6)
 HOCH = dict(rahmen=SIMS, sprossen=(1, 1), rand=.6)
 
@@ -72,7 +72,7 @@ def portal(y, z, b, h):
 
 
 def leth():
-    boden(70, 46, erde("#ecdcb4"), ecke=6)
+    boden(70, 46, erde("#e2c894"), ecke=6)
     for s in (-1, 1):
         oben = geschosse(s * 20, 26, 0, 22, 20, (10, 9.5, 8.5), 6.4, markisen=True)
         mansarde(s * 20, 26, oben, 22, 20, 10, _dach(), 3, sims=SIMS)
@@ -101,7 +101,7 @@ def leth():
 
 def letn1():
     """Schlanker Turmbau mit hoher Haube."""
-    boden(33, 34, erde("#ecdcb4"), ecke=5)
+    boden(33, 34, erde("#e2c894"), ecke=5)
     oben = geschosse(0, 18, 0, 29, 20, (11, 10, 9), 7)
     mansarde(0, 18, oben, 29, 20, 8, _dach(), 0, sims=SIMS)
     oben = geschosse(0, 14.5, 0, 15, 16, (12, 10.5, 9.5, 9.5, 8.5), 6.2)
@@ -124,7 +124,7 @@ def letn1():
 
 def letn2():
     """Eckhaus mit runder Kuppel."""
-    boden(47, 36, erde("#ecdcb4"), ecke=5)
+    boden(47, 36, erde("#e2c894"), ecke=5)
     oben = geschosse(4, 21, 0, 35, 20, (10, 9, 8), 6.4, markisen=True)
     mansarde(4, 21, oben, 35, 20, 10, _dach(), 4, sims=SIMS)
     x, y, r = -13, 15, 8.4
@@ -145,7 +145,7 @@ def letn2():
 
 def letn3():
     """Rathausartiger Palast mit Uhrgiebel und zwei Hauben."""
-    boden(47, 38, erde("#ecdcb4"), ecke=5)
+    boden(47, 38, erde("#e2c894"), ecke=5)
     oben = geschosse(0, 21, 0, 38, 20, (13, 12, 11.5, 11), 6.6)
     mansarde(0, 21, oben, 38, 20, 13, _dach(), 0, sims=SIMS)
     for s in (-1, 1):
@@ -173,7 +173,7 @@ def letn3():
 
 def letn4():
     """Kleines Palais mit drei Gauben."""
-    boden(39, 32, erde("#ecdcb4"), ecke=5)
+    boden(39, 32, erde("#e2c894"), ecke=5)
     oben = geschosse(0, 17, 0, 34, 18, (10, 9), 6.4, markisen=True)
     mansarde(0, 17, oben, 34, 18, 10, _dach(), 0, sims=SIMS)
     o = geschosse(0, 14.5, 0, 12.5, 17, (10, 9, 4), 9, fb=4.2)

@@ -1,7 +1,7 @@
 """Fujijama: hohe Pagoden mit geschwungenen Dächern, roter Lack und weiße Felder, Ahorn, rote Brücke."""
 from anlage import *       # noqa: F403
 
-ROT, DACH, WEISS, STEIN = "#cc3a2a", "#3e6a78", "#f7efdf", "#b9ae98"
+ROT, DACH, WEISS, STEIN = "#d63c28", "#3f8a92", "#f4e8d0", "#c4b698"
 
 
 def _dach(farbe=DACH):
@@ -78,9 +78,9 @@ def sockel(b, t, y, h=7.0, tor=True):
 def fujih():
     """Große Pagode, sieben Dächer."""
     boden(55, 46, _moos(), ecke=8)
-    sockel(44, 30, 23, 7)
-    z = pagode(0, 24, 7, 34, 21, 6, 15.5, 9.6, 7.6, .885, 5)
-    krone(0, 24, z, 187.5 - z - 1)
+    sockel(45, 28, 22, 7)
+    z = pagode(0, 22, 7, 37, 20, 6, 17.6, 8.4, 5.6, .895, 5)
+    krone(0, 22, z, 189.5 - z - 1)
     for s in (-1, 1):
         ahorn(s * 21.5, 6.5, .6, .62, "#d2572a" if s > 0 else "#b83a26")
         laterne_stein(s * 9.5, 4, .6, .95)
@@ -93,19 +93,19 @@ def fujin1():
     boden(43, 40, _moos(), ecke=7)
     sockel(37, 28, 20, 19)
     z = 19.0
-    for k, (b, t, h, d) in enumerate(((31, 19, 15, 7), (27, 17, 14, 6.8), (22.5, 14.5, 13, 6.4), (18, 12, 12.5, 6), (13.5, 9.5, 12, 9))):
+    for k, (b, t, h, d) in enumerate(((32, 18, 17, 6), (28, 16, 16, 5.8), (23.5, 14, 15, 5.6), (19, 11.5, 14, 5.4), (14.5, 9.5, 13, 8.5))):
         geschoss(0, 21, z, b, t, h, 5 if k < 3 else 3, "#4a3426", "#fbf6ea", k == 4)
         z += h
-        pagodendach(0, 21, z, b, t, d, _dach("#5a7a6a"), 5.2 - .3 * k, 1.1, .05 if k == 4 else .64, rand=lack("#fbf6ea"))
+        pagodendach(0, 21, z, b, t, d, _dach("#6f8f98"), 4.4 - .25 * k, 1.1, .05 if k == 4 else .64, rand=lack("#fbf6ea"))
         if k in (0, 2, 3):
             with bei(0, 21 - t / 2 - 1.6, z + 1.0):
                 keil(0, 1.5, 0, 9, b * .44, b * .2, "#fbf6ea", 0, drehung=90)
-                satteldach(0, 1.5, -.2, 9, b * .44, b * .2 + .3, _dach("#5a7a6a"), über=1.2, dick=1.0, drehung=90)
+                satteldach(0, 1.5, -.2, 9, b * .44, b * .2 + .3, _dach("#6f8f98"), über=1.2, dick=1.0, drehung=90)
                 kugel(0, -3.2, b * .07, 1.1, metall("gold"))
         z += d * .74 if k < 4 else d
     for s in (-1, 1):
         rohr(glätten([(s * 4.5, 21, z - 1), (s * 6.4, 21, z + 1.6), (s * 5.4, 21, z + 3.8)], 4, zu=False), .9, metall("gold"))
-    quader(0, 21, z - 1.4, 10, 1.6, 1.8, _dach("#5a7a6a"), .4)
+    quader(0, 21, z - 1.4, 10, 1.6, 1.8, _dach("#6f8f98"), .4)
     with wand(0, 20, 37, 28, "s"):
         tür(0, 0, 7, 9, "#6b3b22", rahmen="#d8cdb6", stufen=1)
     kugelbaum(-17, 5, .6, .48, "#e79ab4")
@@ -118,9 +118,9 @@ def fujin1():
 def fujin2():
     """Schlanke Pagode, fünf Dächer, ganz in Zinnober."""
     boden(37, 38, _moos(), ecke=7)
-    sockel(31, 24, 19, 6)
-    z = pagode(0, 20, 6, 22, 15, 5, 15.5, 8.8, 6.6, .90, 3, "#d8452a", "#4d7a50", "gold", "#f3b98a")
-    krone(0, 20, z, 157 - z - 1)
+    sockel(32, 22, 18, 6)
+    z = pagode(0, 18, 6, 25, 14, 5, 18.6, 7.8, 4.8, .90, 3, "#e0482c", "#5f9a4e", "gold", "#f6cf9a")
+    krone(0, 18, z, 159 - z - 1)
     for s in (-1, 1):
         ahorn(s * 13.4, 4.6, .6, .48, "#d2572a" if s < 0 else "#e08a2e")
         laterne_stein(s * 7.5, 3, .6, .8)

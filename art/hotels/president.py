@@ -1,7 +1,7 @@
 """President: weiße Hochhäuser aus Marmor und Glas, Säulenhallen, Gold und Fahnen."""
 from anlage import *       # noqa: F403
 
-MARMOR, BLAU = "#ebe4d6", "#1f3f8f"
+MARMOR, PFLASTER, BLAU = "#e6decd", "#d9c8a8", "#1f3f8f"
 FAHNE = (BLAU, "weiss", "#d9a441")
 
 
@@ -35,7 +35,7 @@ def gesims(x, y, z, b, t, hoch=2.6, über=2.0, drehung=0.0):
     with bei(x, y, z, drehung):
         quader(0, 0, 0, b + 2 * über, t + 2 * über, hoch, _marmor(), .5)
         quader(0, 0, hoch * .35, b + 2 * über + .5, t + 2 * über + .5, .8, metall("gold"), .2)
-        quader(0, 0, hoch, b + 2 * über - 2.4, t + 2 * über - 2.4, .3, platten("#d9cdb4", 3), .1)
+        quader(0, 0, hoch, b + 2 * über - 2.4, t + 2 * über - 2.4, .3, platten("#c9b48c", 3), .1)
 
 
 def säulenhalle(x, y, z, b, t, h, zahl, r=1.6, giebel=True):
@@ -66,7 +66,7 @@ def rotunde(x, y, z, r, h, dach="gold"):
 
 
 def presih():
-    p = platten(MARMOR, 5)
+    p = platten(PFLASTER, 5)
     for i in range(4):
         quader(0, 29 + i, 0, 90 - 3 * i, 56 - 3.4 * i, 1.4 * (i + 1), p, .3)
     quader(0, 4, .2, 15, 7, 4.4, lack("#a8232b"), .3)
@@ -103,7 +103,7 @@ def presih():
 
 
 def _sockel(b, t, y, säulen=6):
-    p = platten(MARMOR, 5)
+    p = platten(PFLASTER, 5)
     for i in range(3):
         quader(0, y + i * .6, 0, b - 2.6 * i, t - 2.6 * i, 1.4 * (i + 1), p, .3)
     quader(0, y - t / 2 + 2.6, .2, 9, 6, 3.6, lack("#a8232b"), .3)
@@ -192,7 +192,7 @@ def presi3():
 
 def presip():
     """Marmorplatz: Becken, Standbild, Fahnenrund und Tennis."""
-    boden(73, 35, platten("#efe6d2", 5), ecke=3)
+    boden(73, 35, platten(PFLASTER, 5), ecke=3)
     # Tennis
     quader(-23, 18, .7, 23, 30, .4, "#c8623c", .1)
     quader(-23, 18, 1.1, 17, 24, .15, "#3f8f5a", 0)

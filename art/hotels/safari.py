@@ -93,32 +93,32 @@ def zelt(x, y, b, t, h, farbe=TUCH, borte="#c8502f", drehung=0.0):
 
 
 def safh():
-    """Lodge mit hohem Strohdach, Kamin und Veranda."""
+    """Lodge mit Strohdach, großem Giebel, Kamin und Veranda."""
     boden(41, 38, _grund(), ecke=7)
-    quader(0, 14, 0, 37, 22, 4, _stein(), .4)
-    quader(0, 2.6, 0, 9, 3.6, 2.2, _stein(), .3)
-    quader(0, 18, 4, 30, 15, 10, _bohlen(), .3)
-    with wand(0, 18, 30, 15, "s"), bei(0, 0, 4):
-        tür(0, 0, 5.4, 7.6, "#c8502f", rahmen=TUCH, stufen=0)
+    quader(0, 13, 0, 38, 22, 4.5, _stein(), .4)
+    for i in range(2):
+        quader(0, 1.8 + 1.6 * i, 0, 12 - i, 3.2, 2 + 1.8 * i, _stein(), .3)
+    quader(0, 15, 4.5, 34, 15, 14, _bohlen(), .3)
+    with wand(0, 15, 34, 15, "s"), bei(0, 0, 4.5):
+        tür(0, 0, 6.4, 9, "#c8502f", rahmen=TUCH, stufen=0)
         for s in (-1, 1):
-            fenster(s * 9.6, 2.6, 5.2, 4.6, rahmen=TUCH, scheibe=lack("#ffd27a"), sprossen=(1, 1))
-    for x in (-16.6, -10, -5, 5, 10, 16.6):
-        bein(x, 5, 4, 8.6, .75)
-    for a, e in ((-16.6, -5), (5, 16.6)):
-        zaun([(a, 5), (e, 5)], HOLZ, 3, 2.4, 4, 2, .55)
-    strohdach(0, 15.5, 12.6, 34, 20, 20, 3, 12)
-    with bei(0, 8.4, 15.5):                       # Giebel über dem Eingang
-        quader(0, 0, 0, 9, 8, 5, _bohlen("#b5763c"), .3)
+            fenster(s * 11, 3.4, 6.4, 6.4, rahmen=TUCH, scheibe=lack("#ffd27a"), sprossen=(1, 1))
+    for x in (-18, -5.6, 5.6, 18):
+        bein(x, 3.4, 4.5, 13, 1.0)
+    for a, e in ((-18, -5.6), (5.6, 18)):
+        zaun([(a, 3.4), (e, 3.4)], "#d09a5c", 3.2, 2.6, 4.5, 2, .7)
+    strohdach(0, 15, 18, 34, 16, 13, 2.6, 14)
+    with bei(0, 6.6, 17.5):                       # Giebel über dem Eingang
+        quader(0, 1, 0, 13, 10, 4.4, _bohlen("#c48a48"), .3)
         with bei(0, -4.1):
-            fenster(0, .8, 4.4, 3.8, rahmen=TUCH, scheibe=lack("#ffd27a"), sprossen=(1, 1))
-        satteldach(0, 0, 4.6, 9, 9.6, 6, stroh(STROH), über=1.8, dick=1.4, drehung=90, giebel=_bohlen("#b5763c"))
-    quader(11.5, 20, 4, 5.6, 5.6, 36, _stein(), .4)
-    quader(11.5, 20, 39, 6.8, 6.8, 1.8, mauer("#a98360", 2.6), .3)
-    wimpel(-6.5, 15.5, 31, 12, ("#3c8a46", "gelb", "#c8502f"), 7, 4.6)
-    schirmakazie(-13.5, 30, 0, 1.05)
+            fenster(0, .6, 5.4, 4.4, rahmen=TUCH, scheibe=lack("#ffd27a"), sprossen=(2, 0))
+        satteldach(0, 1, 4.2, 11, 13, 6.4, stroh(STROH), über=1.6, dick=1.4, drehung=90, giebel=_bohlen("#c48a48"))
+    quader(13, 20, 4, 5.6, 5.6, 36, _stein(), .4)
+    quader(13, 20, 39, 6.8, 6.8, 1.8, mauer("#a98360", 2.6), .3)
+    wimpel(-9, 15, 30, 14, ("#3c8a46", "gelb", "#c8502f"), 7, 4.6)
     for s in (-1, 1):
-        rohr(glätten([(s * 5.4, 2.6, 0), (s * 6.8, 2.6, 4.6), (s * 5.2, 2.6, 9), (s * 1.4, 2.6, 11.4)], 5, zu=False), .8, "#fff3d8")
-        grasbüschel(s * 17, 2.6, mass=1.2, farbe="#a79a3c")
+        rohr(glätten([(s * 7, 1.8, 0), (s * 8.2, 1.8, 4.6), (s * 6.6, 1.8, 9), (s * 2.2, 1.8, 12)], 5, zu=False), .9, "#fff3d8")
+        busch(s * 17, 2.4, mass=.7, farbe="#8a9a3c")
 
 
 def safn1():

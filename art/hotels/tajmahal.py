@@ -1,7 +1,7 @@
 """Taj Mahal: weißer Marmor, Zwiebelkuppeln mit Gold, schlanke Minarette, Garten mit langem Becken."""
 from anlage import *       # noqa: F403
 
-MARMOR, SCHATTEN = "#f1eadc", "#dccbae"
+MARMOR, SCHATTEN, PFLASTER = "#ece4d5", "#d6bf98", "#dfae8c"
 
 
 def _marmor():
@@ -42,7 +42,7 @@ def minarett(x, y, z, h, r=3.4):
 
 def tajh():
     """Das Mausoleum: Portal, große Kuppel, vier kleine."""
-    quader(0, 18, 0, 32, 34, 3.6, platten(MARMOR, 3), .4)
+    quader(0, 18, 0, 32, 34, 3.6, platten(PFLASTER, 3), .4)
     quader(0, 2.2, 0, 9, 3.6, 2.4, platten(SCHATTEN, 2), .2)
     quader(0, 20, 3.6, 28, 20, 1.2, _marmor(), .3)
     p = [(-13.5, 13), (-10.5, 10), (10.5, 10), (13.5, 13), (13.5, 27), (10.5, 30), (-10.5, 30), (-13.5, 27)]
@@ -69,7 +69,7 @@ def tajh():
 
 def tajn1():
     """Minarett mit kleiner Moschee."""
-    quader(0, 13, 0, 25, 24, 3, platten(MARMOR, 3), .4)
+    quader(0, 13, 0, 25, 24, 3, platten(PFLASTER, 3), .4)
     quader(3, 13, 3, 17, 12, 12, _marmor(), .3)
     iwan(3.4, 7, 3, 5.6, 8.6, "#c8623c")
     quader(3, 13, 14.6, 18, 13, 1.2, SCHATTEN, .3)
@@ -84,7 +84,7 @@ def tajn1():
 
 def tajn2():
     """Minarett mit Torbau."""
-    quader(0, 13, 0, 24, 24, 3, platten(MARMOR, 3), .4)
+    quader(0, 13, 0, 24, 24, 3, platten(PFLASTER, 3), .4)
     haus(-3.4, 13, 3, 15, 11, 17, _marmor())
     iwan(-3.4, 7.4, 3, 5.6, 10.5)
     quader(-3.4, 13, 19.6, 16.4, 12.4, 1.2, SCHATTEN, .3)
@@ -99,11 +99,11 @@ def tajn2():
 def tajp():
     """Wassergarten: langes Becken, Zypressen, Beete, Pavillons."""
     boden(73, 35, gras("#86bb4e"), ecke=3)
-    weiß = platten(MARMOR, 3)
+    weiß = platten("#efe2cb", 3)
     for y in (9.2, 24.8):
         quader(0, y, .6, 70, 3.4, .5, weiß, .1)
     for x in (-33, 0, 33):
-        quader(x, 17, .6, 3.6, 30, .5, weiß, .1)
+        quader(x, 17, .6, 3.6, 30, .44, weiß, .1)
     becken(umriss(58, 9.5, 1.5, 0, 12.2), .6, _marmor(), 1.8, "#1fb0cc", 1.3)
     for x in (-20, -10, 10, 20):
         drehkörper(x, 17, .9, [(1.5, 0), (1.0, 1), (2.0, 1.8)], _marmor(), 16)

@@ -8,9 +8,9 @@ def _sand():
     return erde(SAND)
 
 
-def strohdach(x, y, z, b, t, h, über=3.0, oben=.12, drehung=0.0, saum=True):
+def strohdach(x, y, z, b, t, h, über=3.0, oben=.12, drehung=0.0, saum="#b98236", farbe=STROH):
     """Palmdach mit hochgezogenen Ecken und dickem Saum."""
-    pagodendach(x, y, z, b, t, h, stroh(STROH), über, .9, oben, drehung, rand=lack("#b98236") if saum else None)
+    pagodendach(x, y, z, b, t, h, stroh(farbe), über, .9, oben, drehung, rand=lack(saum))
 
 
 def brett(x, y, z, farbe, neig=0, lang=6.0, streifen="weiss"):
@@ -61,120 +61,133 @@ def strand(b=46, t=32):
     boden(b, t, _sand(), ecke=9, dick=.8)
 
 
+def girlande(x0, x1, y, z, hang=1.6, zahl=7):
+    """Bunte Lampions an einer Leine."""
+    p = [(x0 + (x1 - x0) * i / 12, y, z - hang * math.sin(math.pi * i / 12)) for i in range(13)]
+    rohr(p, .22, "#7a4e2c")
+    for i in range(zahl):
+        s = (i + .5) / zahl
+        kugel(x0 + (x1 - x0) * s, y - .3, z - hang * math.sin(math.pi * s) - .9, .95, ("#e8558a", "gelb", "#2fc0c8", ROT)[i % 4])
+
+
 def kikih():
-    """Großer Pavillon mit drei Palmdächern."""
+    """Großer Pavillon: Tor mit Masken, zwei geschwungene Palmdächer, rote Krone."""
     strand(46, 36)
-    steg(0, 14.5, 37, 19, 3)
-    stube(0, 16, 3, 28, 13, 7.5)
-    pfosten(0, 14.5, 3, 35, 17, 6.5, 6)
-    strohdach(0, 15, 9.5, 35, 16, 9, 4.2, .45)
-    quader(0, 15, 17.4, 15, 7.4, 3.6, stoff("#c9482f", rau=.6), .3)
-    with wand(0, 15, 15, 7.4, "s"), bei(0, 0, 17.9):
-        fensterreihe(.3, 15, 4, 2.2, 2.4, rahmen="#f3dfae", scheibe=lack("#ffd987"), sprossen=(0, 0), sims=False)
-    strohdach(0, 15, 20.4, 15.5, 7.5, 8.5, 4.2, .06)
+    steg(0, 13, 38, 20, 3)
+    stube(0, 15, 3, 33, 14, 12, 6, "#f6e2ae")
+    pfosten(0, 12, 3, 36, 12, 11, 6)
+    girlande(-18, 18, 5.4, 13.6, 1.4, 9)
+    strohdach(0, 15.5, 14, 35, 13, 7, 2.6, .5, saum=ROT)
+    quader(0, 15.5, 19.8, 16, 6, 4.4, "#2f9aa0", .3)
+    with wand(0, 15.5, 16, 6, "s"), bei(0, 0, 20.6):
+        fensterreihe(.3, 16, 4, 2.4, 2.8, rahmen="#f3dfae", scheibe=lack("#ffd987"), sprossen=(0, 0), sims=False)
+    strohdach(0, 15.5, 23.6, 16.5, 6, 6, 2.4, .10, saum=ROT)
     for s in (-1, 1):
-        rohr([(0, 15, 27), (s * 1.6, 15, 30), (s * 1.2, 15, 32)], .6, ROT)
-        maske(s * 6.6, 3.6, .6, 9)
-        palme(s * 15.5, 24, .6, .85, drehung=0 if s > 0 else 180, neigung=.4)
-        busch(s * 17, 2.6, .6, .75, blüten="#e8558a")
-    brett(-12, 3.2, .6, "gelb", -8, 4.6, ROT)
-    brett(11.5, 3.2, .6, "#2fa8b0", 8, 4.6)
+        rohr([(0, 15.5, 28), (s * 1.8, 15.5, 30), (s * 1.4, 15.5, 31.6)], .7, ROT)
+        maske(s * 7.4, 3.2, .6, 10.5)
+        palme(s * 16.5, 25, .6, .8, drehung=0 if s > 0 else 180, neigung=.4)
+        busch(s * 19, 2.8, .6, .75, blüten="#e8558a")
+    brett(-13.5, 2.8, .6, "gelb", -8, 5.2, ROT)
+    brett(13.5, 2.8, .6, "#2fa8b0", 8, 5.2)
 
 
 def kikin1():
     """Zwei runde Hütten auf Pfählen."""
     strand(46, 34)
-    for x, y, r, farbe in ((-10, 19, 9.5, "#f3dfae"), (11, 12, 10, "#f7e6c0")):
+    for x, y, r, farbe, saum in ((-11, 21, 9.5, "#f6cf86", "#2f9aa0"), (10, 12, 10.5, "#f7e6c0", ROT)):
         zylinder(x, y, 1.4, r + 2, 1.4, holz("#c28a50"), seiten=32)
         for i in range(9):
             a = math.radians(190 + 20 * i)
             zylinder(x + (r + 1) * math.cos(a), y + (r + 1) * math.sin(a), 0, .6, 2, "#7a4e2c")
-        zylinder(x, y, 2.8, r * .8, 8, stoff(farbe, rau=.8, muster=("platte", 1.6, 1.6, .25), musterhub=.5), seiten=32)
-        rundfenster(x, y, 3.4, r * .8, (-48, 48), 3, 4, rahmen="#7a4e2c", scheibe=lack("#ffd987"), sprossen=(1, 0))
-        with bei(x, y - r * .8):
-            tür(0, 2.8, 4.2, 6.2, "#d8452f", rahmen="#7a4e2c", stufen=0)
-        drehkörper(x, y, 9, [(r * 1.15, -.9), (r * 1.22, 0), (r * .9, 3.2), (r * .55, 8), (r * .22, 13), (.3, 16)], stroh(STROH), 36)
-        drehkörper(x, y, 9, [(r * 1.19, -1.0), (r * 1.25, -.6), (r * 1.22, .3)], "#b98236", 36)
-        kugel(x, y, 25, 1.1, ROT)
-    palme(14.5, 25, .6, .85, drehung=30, neigung=.4)
-    palme(-17, 7, .6, .66, drehung=160, neigung=.4)
-    brett(-4.6, 5, .6, "#f28a2e", -10, 4.6)
-    busch(-14, 3, .6, .8, blüten="#e8558a")
-    schirm(-8, 3.6, .6, 3.4, 5, ("gelb", "weiss"))
+        zylinder(x, y, 2.8, r * .92, 10, stoff(farbe, rau=.8, muster=("platte", 1.6, 1.6, .25), musterhub=.5), seiten=32)
+        rundfenster(x, y, 4.4, r * .92, (-48, 48), 3.6, 4.6, rahmen="#7a4e2c", scheibe=lack("#ffd987"), sprossen=(1, 0))
+        with bei(x, y - r * .92):
+            tür(0, 2.8, 5, 7.6, saum, rahmen="#7a4e2c", stufen=0)
+        drehkörper(x, y, 12.4, [(r * 1.04, -.9), (r * 1.10, 0), (r * .85, 2.4), (r * .55, 5.6), (r * .24, 8.6), (.3, 11)], stroh(STROH), 36)
+        drehkörper(x, y, 12.4, [(r * 1.08, -1.1), (r * 1.14, -.6), (r * 1.12, .5)], saum, 36)
+        kugel(x, y, 23.4, 1.3, saum)
+    palme(13.5, 26, .6, .8, drehung=30, neigung=.4)
+    palme(-17, 6, .6, .6, drehung=160, neigung=.4)
+    brett(-5.4, 5, .6, "#f28a2e", -10, 4.8)
+    brett(-9, 4.6, .6, "#e8558a", -14, 4.8)
+    busch(20, 3.4, .6, .8, blüten="#e8558a")
 
 
 def kikin2():
-    """Langhaus mit steilem Giebel nach vorn und geschnitzten Brettern."""
+    """Versammlungshaus: Giebel nach vorn, geschnitzte rote Bretter."""
     strand(46, 34)
-    steg(0, 15, 34, 22, 2.6)
-    quader(0, 17, 2.6, 24, 17, 6, stoff("#f3dfae", rau=.8, muster=("platte", 1.6, 1.6, .25), musterhub=.5), .3)
-    keil(0, 17, 8.2, 17, 24, 9.6, stoff("#e7c786", rau=.8, muster=("brett", 4, 1.6, .25), musterhub=.5), .1, drehung=90)
-    satteldach(0, 16, 7.5, 21, 25, 10.8, stroh(STROH), über=2.6, dick=1.5, drehung=90)
-    with wand(0, 17, 24, 17, "s"):
-        tür(0, 2.6, 5.4, 7.6, "#2f9aa0", rahmen=ROT, stufen=0)
+    steg(0, 14, 36, 22, 2.6)
+    matte = stoff("#f6e2ae", rau=.8, muster=("platte", 1.6, 1.6, .25), musterhub=.5)
+    quader(0, 15, 2.6, 29, 18, 9, matte, .3)
+    keil(0, 15, 11.4, 18, 30, 9.6, stoff("#e7b66a", rau=.8, muster=("brett", 4, 1.6, .25), musterhub=.5), .1, drehung=90)
+    satteldach(0, 14.5, 10.8, 17, 29, 9.8, stroh(STROH), über=1.8, dick=1.5, drehung=90)
+    with wand(0, 15, 29, 18, "s"):
+        tür(0, 2.6, 6.4, 9, "#2f9aa0", rahmen=ROT, stufen=0)
         for s in (-1, 1):
-            fenster(s * 8, 4.4, 3.6, 3.6, rahmen="#7a4e2c", scheibe=lack("#ffd987"), sprossen=(1, 0))
-        fenster(0, 10.6, 3.6, 3.8, rahmen=ROT, scheibe=lack("#ffd987"), sprossen=(1, 0), bogen=True)
+            fenster(s * 9.4, 4.8, 4.6, 4.8, rahmen="#7a4e2c", scheibe=lack("#ffd987"), sprossen=(1, 0))
+        fenster(0, 13.4, 4.4, 4.4, rahmen=ROT, scheibe=lack("#ffd987"), sprossen=(1, 0), bogen=True)
     for s in (-1, 1):
-        with bei(0, 4.0, 6.6):
-            rohr([(s * 15, 0, -1.6), (0, 0, 12.4), (-s * 2.4, 0, 14.6)], 1.1, ROT)
-        maske(s * 14.5, 3.4, .6, 9.5)
-        palme(s * 15.5, 23, .6, .82, drehung=0 if s > 0 else 180, neigung=.4)
-    brett(-9, 2.6, .6, "gelb", 5, 4.4, ROT)
+        with bei(0, 5.2, 10):
+            rohr([(s * 17, 0, -2.0), (0, 0, 11.8), (-s * 2.4, 0, 13.8)], 1.25, ROT)
+        maske(s * 16, 3.2, .6, 10.5)
+        palme(s * 16, 24, .6, .8, drehung=0 if s > 0 else 180, neigung=.4)
+    brett(-8, 2.4, .6, "gelb", 5, 4.6, ROT)
     busch(8.5, 2.4, .6, .75, blüten="#e8558a")
 
 
 def kikin3():
-    """Zweistöckiger Pavillon mit umlaufender Veranda."""
+    """Zweistöckiger Pavillon mit Veranda und Lampions."""
     strand(46, 34)
-    steg(0, 14, 32, 18, 2.6)
-    stube(0, 16, 2.6, 23, 12, 7, 4.2)
-    pfosten(0, 14, 2.6, 30, 16, 6.2, 5)
-    zaun([(-15, 5.8), (-4, 5.8)], "#f3dfae", 2.6, 2.2, 2.6, 1, .5)
-    zaun([(4, 5.8), (15, 5.8)], "#f3dfae", 2.6, 2.2, 2.6, 1, .5)
-    strohdach(0, 14.5, 8.8, 30, 15, 6, 3.4, .62)
-    stube(0, 15, 13.6, 17, 8.5, 5.2, 2.6)
-    strohdach(0, 15, 18.2, 19, 9.5, 10, 3.6, .10)
-    kugel(0, 15, 28.8, 1.2, ROT)
-    palme(-15.5, 23, .6, .9, drehung=180, neigung=.4)
-    palme(16.5, 7, .6, .66, drehung=0, neigung=.4)
-    brett(17.5, 4, .6, "#e8558a", 8, 4.8)
-    brett(-18.4, 4, .6, "#2fa8b0", -8, 4.8)
-    busch(-11, 2.4, .6, .7, blüten="gelb")
+    steg(0, 13, 34, 20, 2.6)
+    stube(0, 15, 2.6, 28, 13, 10.5, 5, "#f6cf86")
+    pfosten(0, 12, 2.6, 32, 12, 9.6, 5)
+    zaun([(-16, 5), (-4, 5)], "#f7ead0", 2.6, 2.2, 2.6, 1, .55)
+    zaun([(4, 5), (16, 5)], "#f7ead0", 2.6, 2.2, 2.6, 1, .55)
+    girlande(-15.5, 15.5, 5.2, 12.2, 1.2, 8)
+    strohdach(0, 15, 12, 31, 13, 5.4, 2.4, .66, saum="#2f9aa0")
+    stube(0, 14, 15.6, 21, 8.5, 7, 3.2, "#f6e2ae")
+    strohdach(0, 15, 21.6, 22, 8.5, 7.6, 2.4, .12, saum="#2f9aa0")
+    kugel(0, 15, 29.6, 1.3, "#2f9aa0")
+    palme(-16, 24, .6, .85, drehung=180, neigung=.4)
+    palme(17, 6, .6, .6, drehung=0, neigung=.4)
+    brett(-18.6, 4, .6, "#2fa8b0", -8, 4.8)
+    brett(-15.4, 3.6, .6, "gelb", -4, 4.8, ROT)
+    busch(-9, 2.2, .6, .7, blüten="gelb")
     busch(11, 2.4, .6, .7, blüten="#e8558a")
 
 
 def kikin4():
     """Langes Haus mit drei Kronen und Ausleger am Strand."""
     strand(46, 34)
-    steg(0, 17, 40, 16, 2.6)
-    stube(0, 18, 2.6, 35, 11, 7, 4.2, fenster_=False)
-    with wand(0, 18, 35, 11, "s"):
-        for x in (-13.5, -7.5, 7.5, 13.5):
-            fenster(x, 5, 3.6, 3.8, rahmen="#7a4e2c", scheibe=lack("#ffd987"), sprossen=(1, 0))
-    strohdach(0, 17.5, 9, 37, 13, 7, 3.0, .55)
-    for x, h, b in ((-12.5, 9, 9), (0, 12.5, 12), (12.5, 9, 9)):
-        quader(x, 16.5, 13, b * .75, 6, 3.6, ROT if x == 0 else "#2f9aa0", .3)
-        strohdach(x, 16.5, 16, b * .9, 7, h - 1, 2.6, .06)
-        kugel(x, 16.5, 15.6 + h, .9, "gelb")
-    palme(-16, 25, .6, .78, drehung=180, neigung=.4)
-    palme(16, 25, .6, .78, drehung=0, neigung=.4)
-    with bei(8, 4.6, 1.0):                         # Auslegerboot
+    steg(0, 15, 41, 18, 2.6)
+    stube(0, 16, 2.6, 37, 12, 10, 5, fenster_=False)
+    with wand(0, 16, 37, 12, "s"):
+        for x in (-14, -8, 8, 14):
+            fenster(x, 5, 4.2, 5, rahmen="#7a4e2c", scheibe=lack("#ffd987"), sprossen=(1, 0))
+    girlande(-19, 19, 6.4, 12.6, 1.4, 9)
+    strohdach(0, 16.5, 12.4, 38, 12, 5.4, 2.2, .6, saum="gelb")
+    for x, h, b in ((-12.5, 6.5, 9.5), (0, 9, 12.5), (12.5, 6.5, 9.5)):
+        quader(x, 15.5, 15.4, b * .8, 5.4, 4, ROT if x == 0 else "#2f9aa0", .3)
+        strohdach(x, 15.5, 19, b * .92, 6, h, 1.8, .08, saum="gelb")
+        kugel(x, 15.5, 19.4 + h, 1.0, "gelb")
+    palme(-16.5, 26, .6, .72, drehung=180, neigung=.4)
+    palme(16.5, 26, .6, .72, drehung=0, neigung=.4)
+    with bei(9, 3.6, 1.0):                         # Auslegerboot
         kugel(0, 0, .6, 1, ROT, (8.5, 1.5, 1.4))
         kugel(0, 0, 1.5, 1, "#f3dfae", (7, .9, .8))
-        kugel(0, -3, .3, 1, "weiss", (5.5, .6, .6))
+        kugel(0, -2.4, .3, 1, "weiss", (5.5, .6, .6))
         for s in (-1, 1):
-            rohr([(s * 3, .4, 1.6), (s * 3, -3, .6)], .4, "#7a4e2c")
-    maske(-13, 5.4, .6, 7.5)
-    brett(-18, 5, .6, "gelb", -8, 4.8, ROT)
-    schirm(-6, 4, .6, 3.4, 5, ("#e8558a", "weiss"))
+            rohr([(s * 3, .4, 1.6), (s * 3, -2.4, .6)], .4, "#7a4e2c")
+    maske(-12, 4, .6, 9)
+    brett(-18, 4, .6, "gelb", -8, 5, ROT)
+    schirm(-6, 3.6, .6, 3.4, 5, ("#e8558a", "weiss"))
 
 
 def kikip():
     """Lagune mit Wasserfall, Rutsche, Strandbar."""
     boden(73, 35, _sand(), ecke=10, dick=.8)
     becken(glätten([(-27, 9), (-12, 5), (2, 8), (16, 5), (25, 11), (21, 20), (7, 22), (-4, 19), (-14, 23), (-25, 19)], 6), .5, stoff("#fbe9bd", rau=.9), 2.2, "#22c1cf", 1.1)
-    for x, y, r, h in ((-2, 27, 6, 8), (4, 29, 5, 11), (9, 27, 4.5, 7), (-7, 28, 4, 5), (14, 27, 3, 3.4)):
+    for x, y, r, h in ((-2, 27, 6, 8), (4, 27.5, 5, 10), (9, 27, 4.5, 7), (-7, 28, 4, 5), (14, 27, 3, 3.4)):
         kugel(x, y, h * .3, r, stein("#8d7358"), (1, .8, h / r * .72), fein=3)
     rohr(glätten([(3.5, 24.6, 8.6), (3.5, 22.6, 6.5), (3.5, 21.4, 1.0)], 5, zu=False), 1.9, stoff("#d8f6ff", rau=.2))
     rohr(glätten([(-20, 30, 9), (-23, 26, 7), (-21, 21, 4.6), (-18, 17, 1.4)], 6, zu=False), 1.3, "gelb")
