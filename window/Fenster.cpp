@@ -2,6 +2,7 @@
 
 #include "include/Programm.h"
 #include "window/Farbtöne.h"
+#include "window/Gestaltung.h"
 #include "window/Schrift.h"
 
 #include <QCloseEvent>
@@ -84,7 +85,10 @@ void Fenster::messe() {
         std::min(width() / double(Entwurf.width()), height() / double(Entwurf.height())); // je Bildpunkt des Entwurfs
     const QSize größe(static_cast<int>(Entwurf.width() * strecke), static_cast<int>(Entwurf.height() * strecke));
     anzeige.setGeometry((width() - größe.width()) / 2, (height() - größe.height()) / 2, größe.width(), größe.height());
-    maß = {strecke * dichte / 12, dichte};
+    const Maß neu{strecke * dichte / 12, dichte};
+    if (neu == maß) return;
+    maß = neu;
+    anzeige.setStyleSheet(feldgestalt(vergrößerung()));
 }
 
 Formfläche *Fenster::fläche(const Form &form) const {

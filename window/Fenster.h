@@ -23,6 +23,8 @@ class Fenster : public QWidget {
     void folge();
     /// Die Fläche der Form; null, wenn sie noch keine hat.
     Formfläche *fläche(const Form &) const;
+    /// Längen des Fensters je Bildpunkt des Entwurfs.
+    double vergrößerung() const { return maß.jeTwip * 12 / maß.dichte; }
 
   protected:
     void paintEvent(QPaintEvent *) override;

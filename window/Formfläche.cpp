@@ -161,6 +161,7 @@ QRect Formfläche::ortVon(const Stück &s) const {
 
 void Formfläche::maleAlles(QPainter &p, const QRect &bereich) {
     const QRect ganz(QPoint(), größe);
+    p.setClipRect(ganz);
     if (!grund.bild.empty()) maleBild(p, u.bilder, grund.bild, ganz);
     if (grund.bild.empty() || u.bilder.roh(grund.bild).isNull())
         malePapier(p, maß, ganz, farbton::aus(grund.farbe), umriss.isEmpty() && !grund.füllt);

@@ -3,11 +3,10 @@
 #include "include/Programm.h"
 #include "shell/Formtafel.h"
 #include "window/Fenster.h"
+#include "window/Kästen.h"
 #include "window/Schrift.h"
 
 #include <QApplication>
-#include <QInputDialog>
-#include <QMessageBox>
 #include <QTime>
 
 #include <algorithm>
@@ -54,10 +53,8 @@ int QtOberfläche::laufe(Programm &p, const Handler &beginn) {
                                     return film == filme.end() ? nullptr : &film->second->bild();
                                 }});
     fenster = std::make_unique<Fenster>(*umgebung, [this] { schließe(); });
-    QTimer::singleShot(0, [&] {
-        bearbeite(beginn);
-        fenster->show();
-    });
+    fenster->show();
+    QTimer::singleShot(0, [&] { bearbeite(beginn); });
     QApplication::exec();
     return endstand();
 }
@@ -198,21 +195,13 @@ void QtOberfläche::setzeModus(int Breite, int Höhe) {
 void QtOberfläche::MsgBox(const std::string &t, const std::string &titel) {
     const Halt halt(hält);
     if (!ausnahme) fenster->folge();
-    QMessageBox kasten(QMessageBox::NoIcon, text(titel), text(t), QMessageBox::Ok, fenster.get());
-    kasten.setTextFormat(Qt::PlainText);
-    kasten.exec();
+    melde(*fenster, text(t), text(titel));
 }
 
 std::optional<std::string> QtOberfläche::InputBox(const std::string &frage, const std::string &titel) {
     const Halt halt(hält);
     fenster->folge();
-    QInputDialog kasten(fenster.get());
-    kasten.setWindowTitle(text(titel));
-    kasten.setLabelText(text(frage));
-    kasten.setOkButtonText("OK");
-    kasten.setCancelButtonText("Abbrechen");
-    if (kasten.exec() != QDialog::Accepted) return std::nullopt;
-    return kasten.textValue().normalized(QString::NormalizationForm_C).toStdString();
+    return frageNach(*fenster, text(frage), text(titel));
 }
 
 void QtOberfläche::Beep() { QApplication::beep(); }

@@ -1,0 +1,63 @@
+#include "window/Kästen.h"
+
+#include "window/Fenster.h"
+#include "window/Gestaltung.h"
+
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+namespace velmo {
+
+namespace {
+
+/// Ein Kasten mit Text und "OK" über dem Fenster, so groß wie die Anzeige es verlangt.
+class Kasten : public QDialog {
+  public:
+    Kasten(Fenster &fenster, const QString &text, const QString &titel)
+        : QDialog(&fenster), knöpfe(new QDialogButtonBox(QDialogButtonBox::Ok, this)) {
+        const double punkt = fenster.vergrößerung(); // Längen des Fensters je Bildpunkt des Entwurfs
+        const auto länge = [punkt](int entwurf) { return static_cast<int>(entwurf * punkt); };
+        setWindowTitle(titel);
+        setStyleSheet(kastengestalt(punkt));
+        auto *zeile = new QLabel(text, this);
+        zeile->setTextFormat(Qt::PlainText);
+        zeile->setWordWrap(true);
+        zeile->setMinimumWidth(länge(260));
+        auto *spalte = new QVBoxLayout(this);
+        spalte->setContentsMargins(länge(20), länge(18), länge(20), länge(14));
+        spalte->setSpacing(länge(14));
+        spalte->setSizeConstraint(QLayout::SetFixedSize);
+        spalte->addWidget(zeile);
+        spalte->addWidget(knöpfe);
+        knöpfe->setCenterButtons(true);
+        connect(knöpfe, &QDialogButtonBox::accepted, this, &QDialog::accept);
+        connect(knöpfe, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    }
+
+    QLineEdit *fügeFeldEin() {
+        auto *feld = new QLineEdit(this);
+        static_cast<QVBoxLayout *>(layout())->insertWidget(1, feld);
+        knöpfe->addButton("Abbrechen", QDialogButtonBox::RejectRole);
+        feld->setFocus();
+        return feld;
+    }
+
+  private:
+    QDialogButtonBox *knöpfe;
+};
+
+} // namespace
+
+void melde(Fenster &fenster, const QString &text, const QString &titel) { Kasten(fenster, text, titel).exec(); }
+
+std::optional<std::string> frageNach(Fenster &fenster, const QString &frage, const QString &titel) {
+    Kasten kasten(fenster, frage, titel);
+    const QLineEdit *feld = kasten.fügeFeldEin();
+    if (kasten.exec() != QDialog::Accepted) return std::nullopt;
+    return feld->text().normalized(QString::NormalizationForm_C).toStdString();
+}
+
+} // namespace velmo

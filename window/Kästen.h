@@ -1,0 +1,16 @@
+#pragma once
+// Meldungen und Fragen in eigenen kleinen Fenstern, in der Gestalt des Spiels.
+#include <QString>
+
+#include <optional>
+#include <string>
+
+namespace velmo {
+
+class Fenster;
+
+void melde(Fenster &, const QString &text, const QString &titel);
+/// Ohne Wert, wenn der Spieler abbricht.
+std::optional<std::string> frageNach(Fenster &, const QString &frage, const QString &titel);
+
+} // namespace velmo
