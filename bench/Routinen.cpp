@@ -2,6 +2,8 @@
 #include "bench/Befehle.h"
 
 #include "assistant/Ansagen.h"
+#include "assistant/Assistent.h"
+#include "assistant/Regionen.h"
 #include "board/Autofahrt.h"
 #include "board/Landung.h"
 #include "computer/Bauen.h"
@@ -19,6 +21,7 @@
 #include "property/Grundstück.h"
 #include "property/Miete.h"
 #include "property/Pleite.h"
+#include "shell/Menu.h"
 
 #include <algorithm>
 
@@ -107,6 +110,15 @@ const Routine Routinentafel[] = {
     {"Zufallsentscheid",     1, FRAGE(double(Zufallsentscheid(p, wert<Lose>(w[0]))))},
     {"Grundstücksmeldung",   2, RUFE(Grundstücksmeldung(p, liesGanzzahl(w[0]), text(w[1])))},
     {"Ansagen",              2, RUFE(Ansagen(p, text(w[0]), liesGanzzahl(w[1])))},
+    {"ImmerOben",            2, [](Szene &s, Programm &p, Wörter w) -> Wert {
+        ImmerOben(form(p, s, w[0]), flagge(w[1]));
+        return Leer{};
+    }},
+    {"BlaseAnlegen",         0, RUFE(BlaseAnlegen(p))},
+    {"Tabelle_X",            1, FRAGE(double(Tabelle_X(liesGanzzahl(w[0]))))},
+    {"Tabelle_Y",            1, FRAGE(double(Tabelle_Y(liesGanzzahl(w[0]))))},
+    {"AuflösungSetzen",      2, RUFE(AuflösungSetzen(p, float(liesZahlwort(w[0])), float(liesZahlwort(w[1]))))},
+    {"GewinnZeigen",         0, RUFE(GewinnZeigen(p))},
     {"FormAnpassen",         2, [](Szene &s, Programm &p, Wörter w) -> Wert {
         FormAnpassen(form(p, s, w[0]), liesGanzzahl(w[1]));
         return Leer{};

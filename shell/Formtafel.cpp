@@ -10,12 +10,15 @@
 #include "property/Karten.h"
 #include "property/eingang.h"
 #include "property/geldfeld.h"
+#include "shell/Dank.h"
 #include "shell/Gewinn.h"
 #include "shell/HoF.h"
 #include "shell/Intro.h"
 #include "shell/Menu.h"
 #include "shell/Menu2.h"
 #include "shell/Verloren.h"
+#include "shell/frmHilfe.h"
+#include "shell/Überf.h"
 
 namespace velmo {
 
@@ -39,6 +42,9 @@ constexpr Formeintrag Tafel[] = {
     eintrag<Intro>(),
     eintrag<Menu>(),
     eintrag<Menu2>(),
+    eintrag<frmHilfe>(),
+    eintrag<Überf>(),
+    eintrag<Dank>(),
 };
 // clang-format on
 

@@ -1,0 +1,63 @@
+#pragma once
+// Der Hilfetext, Zeile für Zeile; die Schreibung steht mit Absicht so.
+
+namespace velmo {
+
+// clang-format off
+inline constexpr const char *Hilfezeilen[] = {
+    "Die Regeln der PC Umsetzung entsprechen nicht immer der des Brettspiels.",
+    "Deshalb gibt es diese Hilfe.",
+    "Das Ziel des Spieles ist es, als einziger auf dem Spielfeld zu bestehen, Geld kassieren und ihre Geger zu ruinieren.",
+    "Grundprinzip des Erwerbs und Ausbau eines Hotels",
+    "1. Kaufe das Grundstück eines Hotels",
+    "2. Errichte das Hauptgebäude",
+    "3. Kaufe Eingänge oder errichte Nebengebäude",
+    "4. Kaufe den Freizeitpark",
+    "ANFANG DES SPIELES",
+    "Am Anfang besitzen sie 12000 DM.",
+    "Klicken sie auf \"WÜRFELN\" und danach auf \"STOP\" um zu würfeln. Ihr Auto wird um die Augenzahl des Würfels vorgeschoben.",
+    "Nach ihrem Spielzug klicken sie auf \"FERTIG\". Nun ist der nächste Mitspieler an der Reihe. Wenn er fertig ist, drücken Sie",
+    "wiederholt auf \"FERTIG\", bis sie wieder am Zug sind.",
+    "-Kauffeld (Feld mit den Geldscheinen):",
+    "Sie können ein angrenzendes Grundstück kaufen. Falls ein Gegner es schon gekauft hat, können sie es für den halben Preis",
+    "abkaufen, solange er noch keine Gebäude besitzt.",
+    "-Baugenehmigungsfeld (Feld mit der Karte):",
+    "Es erscheint das Fenster zur Baugenehmigung.",
+    "Falls sie schon ein Grundstück besitzten, können Sie anbauen. Dazu klicken sie so oft auf \"HOTELS...\" bis Sie das gewünschte",
+    "Hotel gewählt haben. Drücken sie auf \"ANBAUEN\". Jetzt müssen Sie \"WÜRFELN\".",
+    "Falls man Rot wirft dürfen Sie nicht anbauen - versuchen Sie es später nochmal.",
+    "Wirft man Grün wird das Gebäude angebaut",
+    "Wirft man \"H\" ist das Hotel kostenlos.",
+    "Wirft man 2 verdoppeln sich die Kosten",
+    "Achtung: Wenn sie nicht genug Geld haben, haben sie verloren. Schauen Sie also erst auf ihre Besitzkarte (Siehe",
+    "\"BESITZKARTEN\")",
+    "Beim Freizeitpark muss man nicht würfeln.",
+    "-Eingang kostenlos",
+    "Siehe Eingänge Kaufen",
+    "-Bauphase Kostenlos",
+    "Sie bekommen von einem beliebigem Hotel eine Bauphase oder einen Freizeitpak gatis.",
+    "-Bank",
+    "Jedes mal, wenn sie an der Gelben Linie bei der Bank vorbeikommen bekommen Sie 2000 DM.",
+    "-Rathaus",
+    "Jedes mal, wenn Sie an der Gelben Linie beim Rathaus vorbeikommen dürfen Sie in der nachfolgenden Runde für jedes ihrer",
+    "Hotels einen Eingang kaufen.(Siehe Eingänge Kaufen)",
+    "-Eingänge Kaufen:",
+    "Um einen Eingang zu kaufen klicken sie auf \"EINGÄNGE KAUFEN\".",
+    "Wählen Sie das Hotel aus, für das Sie einen Eingang wollen und alle seine Eingänge erscheinen - vorausgesetzt sie haben ein",
+    "Hauptgebäude. Packen sie nun den gelben Eingang auf den der blinkende Pfeil hinweist und ziehen sie ihn auf die gewünschte",
+    "Stelle. Alle gekauften Eingänge sind grün, mögliche Eingänge blau. Es dürfen keine zwei Eingänge gegenüber liegen. Sie dürfen",
+    "jede Runde nur einen Eingang pro Hotel Kaufen(Ausgenommen Feld: \"Eingang gratis\") Die Kosten stehen auf den Besitzkarten.",
+    "-Besitzkarten",
+    "Mit dem Knopf \"BESITZKARTEN\" können sie die Besitzkarten aller Hotels durchschauen.",
+    "-Miete",
+    "Wenn Sie auf ein Feld mit Eingang des Gegners kommen müssen Sie ihm für die Nacht bezahlen. Sie würfeln wie lange Sie bleiben",
+    "wollen und bezahlen den Preis. Dieser steigert sich, wenn mehr Gebäude da sind.",
+    "Tipps:",
+    "-Falls sie das Geld nicht passend haben, können sie sich das passende Kleingeld mit \"GELD UMTAUSCHEN\" besorgen.",
+    "-Der Assistent Dorvin wird sie immer auf dem Laufenden halten.",
+    "-Schauen sie, dass sie auf jedem Grundstück das Haupgebäude kaufen, um Zwangsverkauf zu vermeiden.",
+    "-Wenn Sie auf die Blume im Menü klicken, erscheint die Bestenliste",
+};
+// clang-format on
+
+} // namespace velmo

@@ -1,0 +1,25 @@
+#include "shell/frmHilfe.h"
+
+#include "media/Bilder.h"
+#include "platform/FormAnpassen.h"
+#include "shell/Hilfetext.h"
+
+namespace velmo {
+
+frmHilfe::frmHilfe(Programm &programm) : Form(programm, Formname, {0, 0, 9612, 7248}), p(programm) {
+    BackColor = Farbe{0xE0E0E0};
+    Label1.FontName = "Bookman Old Style";
+    Label1.FontSize = 20;
+    std::string text;
+    for (const char *zeile : Hilfezeilen)
+        text += (text.empty() ? "" : "\n") + std::string(zeile);
+    Text6.Text = text;
+    Command1.Click = [this] { p.entlade(Formname); };
+    Entwurfsbilder(p, *this);
+}
+
+void frmHilfe::Form_Load() {
+    if (p.Zustand.KleineSchrift) FormAnpassen(*this, 2);
+}
+
+} // namespace velmo
