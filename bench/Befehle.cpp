@@ -1,9 +1,6 @@
 #include "bench/Befehle.h"
 
-#include "model/Brett.h"
-
 #include <algorithm>
-#include <array>
 #include <iostream>
 #include <limits>
 
@@ -17,33 +14,9 @@ constexpr Zeit LängstesBis = 60'000;
 
 void start(Szene &s, Wörter) { s.starte(); }
 
-/// Das neue Spiel, solange es die Formulare davor nicht gibt.
-void spielOhneMenü(Szene &s, Wörter w) {
-    s.starte();
-    Spielzustand &z = s.p().Zustand;
-    const auto mensch = std::ranges::find_if(Autotafel, [&](const Auto &a) { return w[0].text == a.Farbe; });
-    if (mensch == Autotafel.end()) throw Schreibfehler("unbekannte Farbe " + w[0].text);
-    z.Spielername = z.Spitzname = "Spieler 1";
-    z.Spielerfarbe = mensch->Text;
-    z.Gegnerzahl = liesGanzzahl(w[1]);
-    z.Schwierigkeit = liesGanzzahl(w[2]);
-    for (Kurz &geld : z.Computergeld)
-        geld = std::array{12000, 20000, 30000}[static_cast<std::size_t>(z.Schwierigkeit - 1)];
-    for (int n = 1; n <= 3; ++n) {
-        const Autokürzel k = mensch->Computer[static_cast<std::size_t>(n - 1)];
-        if (n <= z.Gegnerzahl)
-            z.Autos[k].Autobesitzer = Computer<Autobesitzer>(n);
-        else
-            brett(s.p()).Autobild(k).Visible = false;
-    }
-    z.Programmpfad = s.p().Ordner;
-    s.schiebeEin({"ruhe"});
-}
-
 void menü(Szene &s, Wörter) { s.schiebeEin({"start", "klick Intro"}); }
 
 void spiel(Szene &s, Wörter w) {
-    if (!s.p().kennt("Menu2")) return spielOhneMenü(s, w);
     const auto zeile = [](const Wort &zahl) {
         const int n = liesGanzzahl(zahl);
         if (n < 1 || n > 3) throw Schreibfehler(zahl.text + " ist nicht 1 bis 3");
@@ -129,7 +102,7 @@ constexpr Befehlseintrag Befehlstafel[] = {
     // Name          Wörter       Befehl       auch am Ende, beginnt neu
     {"start",        0, 0,        start,       true, true},
     {"menü",         0, 0,        menü,        true},
-    {"spiel",        3, 3,        spiel,       true, true},
+    {"spiel",        3, 3,        spiel,       true},
     {"anzeige",      1, 3,        anzeige},
     {"klick",        1, 3,        klick},
     {"rechts",       1, 3,        rechts},

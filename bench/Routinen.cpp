@@ -71,19 +71,10 @@ struct Routine {
     Wert (*rufe)(Szene &, Programm &, Wörter);
 };
 
-/// Ruft und hat kein Ergebnis.
-#define RUFE(...)                                                                                                      \
-    [](Szene &, Programm &p, Wörter w) -> Wert {                                                                       \
-        static_cast<void>(w);                                                                                          \
-        __VA_ARGS__;                                                                                                   \
-        return Leer{};                                                                                                 \
-    }
-/// Ruft, und das Ergebnis ist dieser Wert.
-#define FRAGE(...)                                                                                                     \
-    [](Szene &, Programm &p, Wörter w) -> Wert {                                                                       \
-        static_cast<void>(w);                                                                                          \
-        return __VA_ARGS__;                                                                                            \
-    }
+// Ein Ruf ohne Ergebnis und eine Frage, deren Wert das Ergebnis ist; s, p und w sind Szene, Programm und Argumente.
+#define BEIRUF [[maybe_unused]] Szene &s, [[maybe_unused]] Programm &p, [[maybe_unused]] Wörter w
+#define RUFE(...) [](BEIRUF) -> Wert { return __VA_ARGS__, Leer{}; }
+#define FRAGE(...) [](BEIRUF) -> Wert { return __VA_ARGS__; }
 
 // clang-format off
 const Routine Routinentafel[] = {
@@ -110,19 +101,13 @@ const Routine Routinentafel[] = {
     {"Zufallsentscheid",     1, FRAGE(double(Zufallsentscheid(p, wert<Lose>(w[0]))))},
     {"Grundstücksmeldung",   2, RUFE(Grundstücksmeldung(p, liesGanzzahl(w[0]), text(w[1])))},
     {"Ansagen",              2, RUFE(Ansagen(p, text(w[0]), liesGanzzahl(w[1])))},
-    {"ImmerOben",            2, [](Szene &s, Programm &p, Wörter w) -> Wert {
-        ImmerOben(form(p, s, w[0]), flagge(w[1]));
-        return Leer{};
-    }},
+    {"ImmerOben",            2, RUFE(ImmerOben(form(p, s, w[0]), flagge(w[1])))},
     {"BlaseAnlegen",         0, RUFE(BlaseAnlegen(p))},
     {"Tabelle_X",            1, FRAGE(double(Tabelle_X(liesGanzzahl(w[0]))))},
     {"Tabelle_Y",            1, FRAGE(double(Tabelle_Y(liesGanzzahl(w[0]))))},
     {"AuflösungSetzen",      2, RUFE(AuflösungSetzen(p, float(liesZahlwort(w[0])), float(liesZahlwort(w[1]))))},
     {"GewinnZeigen",         0, RUFE(GewinnZeigen(p))},
-    {"FormAnpassen",         2, [](Szene &s, Programm &p, Wörter w) -> Wert {
-        FormAnpassen(form(p, s, w[0]), liesGanzzahl(w[1]));
-        return Leer{};
-    }},
+    {"FormAnpassen",         2, RUFE(FormAnpassen(form(p, s, w[0]), liesGanzzahl(w[1])))},
     {"IstKleineSchrift",     0, FRAGE(IstKleineSchrift(p))},
     {"SpielZurücksetzen",    0, RUFE(SpielZurücksetzen(p.Zustand))},
     {"Bildladen",            2, FRAGE(alsWert(Bildladen(p, liesGanzzahl(w[0]), liesText(w[1]))))},
