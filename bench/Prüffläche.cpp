@@ -1,8 +1,8 @@
 #include "bench/Prüffläche.h"
 
+#include "media/Avi.h"
 #include "platform/Dateien.h"
 #include "platform/Form.h"
-#include "platform/Laufzeitfehler.h"
 
 #include <array>
 #include <utility>
@@ -50,10 +50,6 @@ void Prüffläche::ton(MMControl &c, Befehl befehl, bool warten) {
     buch += Worte[static_cast<std::size_t>(befehl)];
 }
 
-void Prüffläche::öffneFilm(Animation &, const std::string &Datei) {
-    const std::string film = liesDatei(Datei);
-    if (film.substr(0, 4) != "RIFF" || film.size() < 12 || film.substr(8, 4) != "AVI ")
-        throw Laufzeitfehler(Fehlerart::Datei);
-}
+void Prüffläche::öffneFilm(Animation &, const std::string &Datei) { liesAvi(liesDatei(Datei)); }
 
 } // namespace velmo

@@ -1,68 +1,42 @@
 #include "window/Film.h"
 
+#include "media/Avi.h"
 #include "platform/Dateien.h"
 #include "platform/Laufzeitfehler.h"
-
-#include <QtEndian>
 
 #include <algorithm>
 
 namespace velmo {
 
-namespace {
-
-/// Ein Stück der Datei: vier Zeichen, die Länge, der Inhalt; auf gerade Länge aufgefüllt.
-struct Brocken {
-    QByteArrayView art, inhalt;
-};
-
-quint32 zahl(QByteArrayView b, qsizetype ort) {
-    return ort + 4 <= b.size() ? qFromLittleEndian<quint32>(b.data() + ort) : 0;
-}
-
-/// Geht die Brocken einer Folge durch; Listen werden geöffnet.
-template <class Nimm> void lies(QByteArrayView b, const Nimm &nimm) {
-    for (qsizetype ort = 0; ort + 8 <= b.size();) {
-        const qsizetype länge = std::min<qsizetype>(zahl(b, ort + 4), b.size() - ort - 8);
-        const Brocken brocken{b.sliced(ort, 4), b.sliced(ort + 8, länge)};
-        if ((brocken.art == "RIFF" || brocken.art == "LIST") && länge >= 4)
-            lies(brocken.inhalt.sliced(4), nimm);
-        else
-            nimm(brocken);
-        ort += 8 + länge + länge % 2;
-    }
-}
-
-} // namespace
-
-Film::Film(const std::string &Datei) {
-    const std::string gelesen = liesDatei(Datei);
-    bytes = QByteArray(gelesen.data(), static_cast<qsizetype>(gelesen.size()));
-    lies(bytes, [this](const Brocken &b) {
-        if (b.art == "avih") bildzeit = zahl(b.inhalt, 0) / 1000.0;
-        if (b.art.endsWith("dc") || b.art.endsWith("db"))
-            bilder.push_back({b.inhalt.data() - bytes.constData(), b.inhalt.size()});
-    });
-    if (bilder.empty() || bildzeit <= 0) throw Laufzeitfehler(Fehlerart::Datei);
+Film::Film(const std::string &Datei) : bytes(liesDatei(Datei)), aufbau(liesAvi(bytes)) {
+    zeige(0);
+    if (gezeigtes.isNull()) throw Laufzeitfehler(Fehlerart::Datei);
     takt.setTimerType(Qt::PreciseTimer);
     takt.callOnTimeout([this] { schritt(); });
 }
 
 void Film::spiele() {
     uhr.start();
-    takt.start(static_cast<int>(bildzeit / 2));
-    schritt();
+    takt.start(std::max(1, static_cast<int>(aufbau.Bildzeit / 2)));
 }
 
 void Film::schritt() {
-    const int letztes = static_cast<int>(bilder.size()) - 1;
-    const int jetzt = std::min(static_cast<int>(uhr.elapsed() / bildzeit), letztes);
+    const std::size_t letztes = aufbau.Bilder.size() - 1;
+    const auto jetzt =
+        std::min(static_cast<std::size_t>(static_cast<double>(uhr.elapsed()) / aufbau.Bildzeit), letztes);
     if (jetzt == letztes) takt.stop();
     if (jetzt == gezeigt) return;
-    gezeigt = jetzt;
-    const Einzelbild &b = bilder[static_cast<std::size_t>(jetzt)];
-    gezeigtes = QImage::fromData(bytes.sliced(b.ort, b.länge), "JPEG");
+    zeige(jetzt);
     if (neuesBild) neuesBild();
+}
+
+/// Ein Bild, das sich nicht lesen lässt, lässt das vorige stehen.
+void Film::zeige(std::size_t nummer) {
+    gezeigt = nummer;
+    const Avi::Bild &b = aufbau.Bilder[nummer];
+    const auto *jpeg = reinterpret_cast<const uchar *>(bytes.data() + b.Ort);
+    QImage bild = QImage::fromData(QByteArrayView(jpeg, static_cast<qsizetype>(b.Länge)), "JPEG");
+    if (!bild.isNull()) gezeigtes = std::move(bild);
 }
 
 } // namespace velmo

@@ -1,13 +1,13 @@
 #pragma once
-// Ein Film aus einzelnen Bildern (AVI mit JPEG-Bildern), von vorn bis hinten abgespielt.
-#include <QByteArray>
+// Ein Film, von vorn bis hinten abgespielt.
+#include "media/Avi.h"
+
 #include <QElapsedTimer>
 #include <QImage>
 #include <QTimer>
 
 #include <functional>
 #include <string>
-#include <vector>
 
 namespace velmo {
 
@@ -23,14 +23,11 @@ class Film {
 
   private:
     void schritt();
+    void zeige(std::size_t nummer);
 
-    struct Einzelbild {
-        qsizetype ort, länge;
-    };
-    QByteArray bytes;
-    std::vector<Einzelbild> bilder;
-    double bildzeit = 40; // ms je Bild
-    int gezeigt = -1;
+    const std::string bytes;
+    const Avi aufbau;
+    std::size_t gezeigt = 0;
     QImage gezeigtes;
     QElapsedTimer uhr;
     QTimer takt;

@@ -93,13 +93,13 @@ void Knopf::maleInhalt(QPainter &p, const QRect &r) const {
     }
     const int wie = Qt::AlignCenter | Qt::TextWordWrap;
     const QString t = velmo::text(stück.text);
-    const QFont f = schrift(stück.schriftart, stück.schriftgrad, stück.fett || stück.erhaben, Satzpunkte);
+    const QFont f = schrift(stück.schriftart, stück.schriftgrad, stück.fett || stück.erhaben, maß.jeTwip);
     const QColor tinte = stück.farbe == Farbe{0} ? farbton::Tinte : farbton::aus(stück.farbe);
     if (stück.erhaben && isEnabled()) {
         const int ab = std::max(1, static_cast<int>(maß.strich(0.75)));
-        maleText(p, maß, für.translated(0, ab), wie, t, f, QColor(255, 255, 255, 200));
+        maleText(p, für.translated(0, ab), wie, t, f, QColor(255, 255, 255, 200));
     }
-    maleText(p, maß, für, wie, t, f, isEnabled() ? tinte : farbton::Blass);
+    maleText(p, für, wie, t, f, isEnabled() ? tinte : farbton::Blass);
 }
 
 void Knopf::paintEvent(QPaintEvent *) {

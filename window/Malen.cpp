@@ -20,7 +20,7 @@ QPen stift(const QColor &farbe, double breite) { return {farbe, breite, Qt::Soli
 void maleBeschriftung(QPainter &p, const Maß &m, const Stück &s, const QRect &ort) {
     if (s.deckend) p.fillRect(ort, farbton::aus(s.grund));
     const int ausrichtung = Ausrichtungen[std::clamp(s.ausrichtung, 0, 2)] | Qt::AlignTop | Qt::TextWordWrap;
-    maleText(p, m, ort, ausrichtung, text(s.text), schrift(s.schriftart, s.schriftgrad, s.fett, Satzpunkte),
+    maleText(p, ort, ausrichtung, text(s.text), schrift(s.schriftart, s.schriftgrad, s.fett, m.jeTwip),
              s.gesperrt ? farbton::Blass : farbton::aus(s.farbe));
 }
 
@@ -126,18 +126,11 @@ void maleBild(QPainter &p, Bildspeicher &bilder, const std::string &Datei, const
         p.drawPixmap(r, bild);
 }
 
-void maleText(QPainter &p, const Maß &m, const QRect &r, int ausrichtung, const QString &t, const QFont &f,
-              const QColor &farbe) {
+void maleText(QPainter &p, const QRect &r, int ausrichtung, const QString &t, const QFont &f, const QColor &farbe) {
     if (t.isEmpty()) return;
-    const double strecke = m.jeTwip * 12 / Satzpunkte;
-    const QSizeF platz = QSizeF(r.size()) / strecke;
-    p.save();
-    p.translate(r.topLeft());
-    p.scale(strecke, strecke);
-    p.setFont(eingepasst(f, platz, ausrichtung, t));
+    p.setFont(eingepasst(f, r, ausrichtung, t));
     p.setPen(farbe);
-    p.drawText(QRectF(QPointF(), platz), ausrichtung, t);
-    p.restore();
+    p.drawText(r, ausrichtung, t);
 }
 
 void malePapier(QPainter &p, const Maß &m, const QRect &r, const QColor &farbe, bool rahmen) {

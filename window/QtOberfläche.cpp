@@ -54,7 +54,10 @@ int QtOberfläche::laufe(Programm &p, const Handler &beginn) {
                                 }});
     fenster = std::make_unique<Fenster>(*umgebung, [this] { schließe(); });
     fenster->show();
-    QTimer::singleShot(0, [&] { bearbeite(beginn); });
+    QTimer::singleShot(0, [&] {
+        bearbeite(beginn);
+        QTimer::singleShot(0, [this] { töne.beginne(); }); // nach dem ersten Bild
+    });
     QApplication::exec();
     return endstand();
 }

@@ -1,19 +1,35 @@
 #pragma once
-// Die Töne eines Medienelements: öffnen, spielen, schließen, und wie weit das Stück ist.
+// Die Töne der Medienelemente: öffnen, spielen, schließen, und wie weit ein Stück ist. Was sich nicht spielen lässt,
+// bleibt still.
 #include "platform/Control.h"
+
+#include <map>
+#include <memory>
 
 namespace velmo {
 
-/// Spielt die Klänge und Stücke aller Medienelemente. Was sich nicht öffnen lässt, bleibt still.
+struct Stimme;
+class Tonwerk;
+
 class Ton {
   public:
-    void befehl(const MMControl &, Befehl) {}
-    /// Klingt das Element noch?
-    bool klingt(const MMControl &) const { return false; }
-    /// Ort und Ende des Stücks in ms; ohne Ton beide 0.
-    long Position(const MMControl &) const { return 0; }
-    long Length(const MMControl &) const { return 0; }
-    void vergiss(const Control &) {}
+    Ton();
+    ~Ton();
+    /// Von nun an klingt, was gespielt wird; was bis dahin befohlen war, wird nachgeholt.
+    void beginne();
+    void befehl(const MMControl &, Befehl);
+    /// Klingt das Element noch? Ein Gerät, das hängt, verlängert das um höchstens eine halbe Sekunde.
+    bool klingt(const MMControl &) const;
+    /// Ort und Ende in ms; ohne Ton beide 0.
+    long Position(const MMControl &) const;
+    long Length(const MMControl &) const;
+    void vergiss(const Control &);
+
+  private:
+    const Stimme *stimme(const Control &) const;
+
+    std::map<const Control *, std::shared_ptr<Stimme>> stimmen; // die geöffneten
+    std::unique_ptr<Tonwerk> werk;
 };
 
 } // namespace velmo

@@ -67,13 +67,14 @@ def wagen(farbe):
     quader(0, -13.5, 4.2, 4.8, .5, 1.9, chrom, .2)
 
 
-args = argumente()
-for erste, farbe in WAGEN.items():
-    for nr, drehung in enumerate(ANSICHTEN):
-        if args.nur and str(erste + nr) not in args.nur:
-            continue
-        neu()
-        schattengrund()
-        with am_brett(B / 2, FUSS, drehung=drehung):
-            wagen(farbe)
-        rendere(os.path.join(args.ziel, "auto", "%d.png" % (erste + nr)), 0, 0, B, H, args.fein, args.proben, rand=2)
+if __name__ == "__main__":
+    args = argumente()
+    for erste, farbe in WAGEN.items():
+        for nr, drehung in enumerate(ANSICHTEN):
+            if args.nur and str(erste + nr) not in args.nur:
+                continue
+            neu()
+            schattengrund()
+            with am_brett(B / 2, FUSS, drehung=drehung):
+                wagen(farbe)
+            rendere(os.path.join(args.ziel, "auto", "%d.png" % (erste + nr)), 0, 0, B, H, args.fein, args.proben, rand=2)

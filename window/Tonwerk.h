@@ -1,0 +1,68 @@
+#pragma once
+// Der Faden, der als einziger das Tongerät anrührt: Öffnen, Laden und Schließen halten das Spiel nie auf. Das Gerät ist
+// nur offen, solange etwas klingt.
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+struct Mix_Chunk;
+struct _Mix_Music;
+
+namespace velmo {
+
+using Tonuhr = std::chrono::steady_clock;
+
+/// Ein geöffneter Ton: eine Welle oder ein MIDI-Stück. Er klingt nach dem Öffnen einmal.
+struct Stimme {
+    enum class Stand { Offen, Bestellt, Klingt, Zuende };
+
+    explicit Stimme(std::string datei) : Datei(std::move(datei)) {}
+
+    const std::string Datei;
+    std::atomic<Stand> stand = Stand::Offen;
+    Tonuhr::time_point Bestellt;              // gesetzt, bevor der Stand es sagt
+    std::atomic<Tonuhr::time_point> Beginn{}; // ebenso
+    std::atomic<long> Länge = 0;              // ms; von einem Stück erst bekannt, wenn es zu Ende ist
+
+    // Nur für den Faden.
+    Mix_Chunk *welle = nullptr;
+    _Mix_Music *stück = nullptr;
+};
+
+class Tonwerk {
+  public:
+    ~Tonwerk();
+    void beginne();
+    void spiele(std::shared_ptr<Stimme>);
+    void schließe(std::shared_ptr<Stimme>);
+
+  private:
+    void gib(std::function<void()> auftrag);
+    void laufe();
+    bool öffneGerät();
+    void schließeGerät();
+    void führeAus(const std::shared_ptr<Stimme> &);
+    void lass(Stimme &);
+    void sieNach();
+
+    std::mutex schloss;
+    std::condition_variable bedarf;
+    std::deque<std::function<void()>> aufträge;
+    bool ende = false;
+    std::thread faden;
+
+    // Nur für den Faden.
+    std::vector<std::shared_ptr<Stimme>> klingende;
+    Tonuhr::time_point zuletzt; // hat etwas geklungen
+    bool offen = false;
+    bool stumm = false; // das Gerät ließ sich nicht öffnen
+};
+
+} // namespace velmo
