@@ -333,7 +333,7 @@ def schildtafel(text, x, y, z=0.0, b=None, höhe=3.2, tafel="holz", farbe="weiss
     b = b or (len(text) * höhe * .72 + 4)
     with bei(x, y, z, drehung):
         for s in (-1, 1):
-            quader(s * b * .36, .5, 0, .9, .9, pfosten + höhe, "dunkelholz", .2)
+            quader(s * b * .36, .4, 0, .9, .9, pfosten + .8, "dunkelholz", .2)
         kipp = Matrix.Rotation(math.radians(-neigung), 4, "X")
         with rahmen(Matrix.Translation((0, -.3, pfosten)) @ kipp):
             quader(0, 0, 0, b, .9, höhe * 1.75, holz(tafel) if isinstance(tafel, str) else tafel, .3)

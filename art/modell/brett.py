@@ -11,10 +11,8 @@ from pflanzen import *     # noqa: E402,F403
 import brettbauten as bauten       # noqa: E402
 import gelaende            # noqa: E402
 from gelaende import KÜSTE, abstand, weich     # noqa: E402
-from tafeln import BANK, BRETT, FELDER, GEBÄUDE, PLÄTZE, RATHAUS, mitte      # noqa: E402
+from tafeln import BANK, BRETT, FAHRBAHN, FELDER, GEBÄUDE, PLÄTZE, RATHAUS, mitte, straßenpunkte      # noqa: E402
 
-BREITE = 40                 # Fahrbahn mit Bordsteinen
-ZWISCHEN = {30: [(612, 184), (648, 196)]}      # Wegpunkte nach einem Feld
 TON = {"g": "#f0bb3a", "b": "#3f7fc4", "e": "#45a455", "a": "#e0702e"}
 
 
@@ -35,12 +33,9 @@ def kreis(x, y, r, von=0, bis=360, n=24):
 
 
 def straße():
-    punkte = []
-    for f in FELDER:
-        punkte += [mitte(f)] + ZWISCHEN.get(f, [])
-    linie = weich(punkte, 10)
-    band(linie, BREITE, stoff("#d9d3c6", rau=.7, fleck=.06), .1, .75, zu=True, rund=.2)
-    band(linie, BREITE - 4, stoff("#5f6168", rau=.85, fleck=.10, korn=.35, kornmass=2), .1, .85, zu=True, rund=0)
+    linie = weich(straßenpunkte(), 10)
+    band(linie, FAHRBAHN, stoff("#d9d3c6", rau=.7, fleck=.06), .1, .75, zu=True, rund=.2)
+    band(linie, FAHRBAHN - 4, stoff("#5f6168", rau=.85, fleck=.10, korn=.35, kornmass=2), .1, .85, zu=True, rund=0)
     return linie
 
 
@@ -89,9 +84,11 @@ def zeichen_e():
 
 
 def zeichen_a():
-    außen, innen = kreis(0, 3.4, 5.6, -60, 190), kreis(0, 3.4, 3.0, 190, -60)
-    return [([(-3.2, -9.4), (3.2, -9.4), (3.2, -5.6), (-3.2, -5.6)], HELL), ([(-1.2, -5.6), (1.2, -5.6), (1.2, -1.4), (-1.2, -1.4)], HELL),
-            (kreis(0, -2, 1.9), HELL), ([(-1.3, -1.5), (1.3, -1.5), (3.6, -.4), (2.0, 1.2)], HELL), (außen + innen, HELL)]
+    """Kranhaken an seiner Flasche."""
+    bogen = kreis(-.4, 3.0, 6.4, 0, 168) + [(-6.2, -.6)] + kreis(-.4, 3.0, 3.2, 160, 0)
+    return [([(-1.6, -11), (-.4, -11), (-.4, -8), (-1.6, -8)], HELL), ([(6.4, -11), (7.6, -11), (7.6, -8), (6.4, -8)], HELL),
+            ([(-2.6, -8.6), (8.6, -8.6), (7.4, -4.2), (-1.4, -4.2)], HELL), (kreis(3, -6.4, 1.2), TON["a"]),
+            ([(1.6, -4.4), (4.4, -4.4), (6.0, 3.2), (2.8, 3.2)], HELL), (bogen, HELL)]
 
 
 ZEICHEN = {"g": zeichen_g, "b": zeichen_b, "e": zeichen_e, "a": zeichen_a}
@@ -113,21 +110,30 @@ def schwelle(linie, feld, davor):
     o, r = a.lerp(e, .5), (e - a).normalized()
     quer = Vector((-r.y, r.x))
     for s in (-1.7, 1.7):
-        p, q = o + r * s + quer * (BREITE / 2 - 2), o + r * s - quer * (BREITE / 2 - 2)
+        p, q = o + r * s + quer * (FAHRBAHN / 2 - 2), o + r * s - quer * (FAHRBAHN / 2 - 2)
         band([tuple(p), tuple(q)], 1.9, stoff("#ffcf1f", rau=.5, fleck=.02, leuchten=.12), .6, .5, rund=0)
 
 
 # ------------------------------------------------ Gärten der Hotels
 
+# Umrisse der befestigten Gärten, Entwurfspunkte
+GÄRTEN = {
+    "President": [(-14, 372), (18, 318), (54, 280), (82, 262), (112, 270), (165, 276), (214, 280), (252, 294), (284, 322),
+                  (318, 352), (330, 380), (322, 404), (296, 424), (180, 436), (-20, 436)],
+    "Taj Mahal": [(302, 26), (396, 26), (396, 84), (384, 104), (312, 106), (302, 96)],
+    "L'Étoile": kasten_(381, 222, 136, 112, 14),
+    "Royal": [(128, 172), (140, 146), (166, 136), (210, 131), (252, 142), (286, 156), (296, 184), (288, 216), (238, 214),
+              (180, 210), (146, 200)],
+}
+
 def president():
-    umriss = [(-14, 372), (18, 318), (54, 280), (82, 262), (112, 270), (165, 276), (214, 280), (252, 294), (284, 322), (318, 352),
-              (330, 380), (322, 404), (296, 424), (180, 436), (-20, 436)]
-    flach([(p[0], -p[1] / TIEFE) for p in weich(umriss)], -.2, 1.0, "#c9beac", .3)
+    umriss = GÄRTEN["President"]
+    flach([(p[0], -p[1] / TIEFE) for p in weich(umriss)], -.2, 1.0, "#a89a84", .3)
     innen = [(x + (150 - x) * .035, y + (365 - y) * .05) for x, y in umriss]
-    flach([(p[0], -p[1] / TIEFE) for p in weich(innen)], -.2, 1.25, platten("#e9e2d6", 9, .12), .2)
+    flach([(p[0], -p[1] / TIEFE) for p in weich(innen)], -.2, 1.25, platten("#cfc5b4", 10, .34), .2)
     with am_brett(150, 338):
-        for r, s in ((40, "#b9a88e"), (36, "#f1ebe0"), (26, "#c7b08e"), (23, "#f1ebe0")):
-            zylinder(0, 0, 1.0 + (44 - r) * .004, r, .1, platten(s, 9, .10) if s == "#f1ebe0" else s, rund=0, seiten=72)
+        for r, s in ((40, "#b9a88e"), (36, "#ddd5c6"), (26, "#c7b08e"), (23, "#ddd5c6")):
+            zylinder(0, 0, 1.0 + (44 - r) * .004, r, .1, platten(s, 9, .10) if s == "#ddd5c6" else s, rund=0, seiten=72)
         n = 8
         for i in range(n):
             with bei(drehung=360 / n * i):
@@ -136,9 +142,16 @@ def president():
         with am_brett(x, y):
             drehkörper(0, 0, 1, [(2.2, 0), (2.8, 2.6), (3.1, 3), (2.4, 3)], "#d8cdbb", 16)
             kugel(0, 0, 5.4, 3.0, laub("#4c8a40"))
-    for x, y in ((20, 345), (40, 320), (292, 345), (310, 368)):
+    for x, y in ((52, 296), (30, 326), (292, 345), (310, 368), (318, 392)):
         with am_brett(x, y):
             laterne(0, 0, 1, 10)
+    for x, y, drehung in ((104, 276, 8), (152, 283, 4), (196, 288, 5), (234, 300, -20), (58, 282, 35), (302, 356, -52)):
+        with am_brett(x, y, drehung=drehung):
+            quader(0, 0, .9, 16, 6, 1.2, "#a89a84", .3)
+            blumenbeet(0, 0, 14, 4, ("rot", "gelb", "weiss"), .5, 1.6)
+    for x, y in ((262, 352), (216, 404)):
+        with am_brett(x, y):
+            brunnen(0, 0, 1, 8, "#ddd5c6")
 
 
 def waikiki():
@@ -153,8 +166,8 @@ def waikiki():
 
 
 def taj():
-    flach([(302, 26), (396, 26), (396, 84), (384, 104), (312, 106), (302, 96)], 0, .7, "#d9d2c6", .3)
-    flach([(305, 24), (393, 24), (393, 83), (382, 101.5), (313, 103.5), (305, 95)], 0, .9, platten("#f6f1e8", 6, .06), .2)
+    flach(GÄRTEN["Taj Mahal"], 0, .7, "#b8ad9a", .3)
+    flach([(305, 24), (393, 24), (393, 83), (382, 101.5), (313, 103.5), (305, 95)], 0, .9, platten("#dcd4c6", 7, .14), .2)
     with am_brett(352, 93):
         becken([(-5, -13), (5, -13), (5, 12), (-5, 12)], .8, "#ffffff", 1.6)
     with am_brett(352, 44):
@@ -169,7 +182,7 @@ def taj():
 
 
 def boomerang():
-    for x, y, m in ((548, 384, .9), (538, 398, .75), (700, 318, .9), (724, 306, .8), (664, 354, .8), (626, 396, .7), (736, 318, .9)):
+    for x, y, m in ((548, 384, .9), (538, 398, .75), (700, 318, .9), (724, 306, .8), (664, 354, .8), (626, 398, .7), (736, 318, .9), (570, 370, .7), (612, 364, .75), (648, 362, .8), (716, 402, .8)):
         with am_brett(x, y):
             eukalyptus(0, 0, mass=m)
     for x, y in ((560, 398), (618, 372), (650, 404), (690, 336), (600, 368)):
@@ -200,7 +213,7 @@ def safari():
 
 
 def fuji():
-    gelaende.schneeberg(478, 196, 31, 54)
+    gelaende.schneeberg(488, 200, 31, 49)
     for x, y, m in ((506, 150, .8), (458, 232, .8), (470, 250, .85), (632, 222, .7), (488, 258, .7), (512, 172, .7), (640, 262, .55)):
         with am_brett(x, y):
             ahorn(0, 0, mass=m, farbe=("#b8452c", "#cc6b2c", "#a93a34")[int(x) % 3])
@@ -213,6 +226,10 @@ def fuji():
                  .28, "#d3c8ac", zu=True)
         kugel(-6, 2, .8, 3.2, stein("#8f8d86"), (1.2, .9, .8))
         kugel(8, -3, .6, 2.2, stein("#8f8d86"), (1, 1.1, .7))
+    for nr, (x, y) in enumerate(((532, 196), (548, 208), (524, 214), (600, 222), (612, 236), (516, 244), (540, 270), (600, 252), (574, 205))):
+        with am_brett(x, y):
+            kugel(0, 0, -.6, 4.2 - nr % 3, laub(("#6b9a35", "#86a63c", "#577f38")[nr % 3]), (1.3, 1.1, .55))
+            steine(6, -2, 3, 3, 1.3, "#93928a")
     for x, y in ((596, 268), (522, 262)):
         with am_brett(x, y):                    # Steinlaterne
             zylinder(0, 0, 0, 1.1, 3.2, "stein", oben=.8)
@@ -221,7 +238,7 @@ def fuji():
 
 
 def étoile():
-    flach(kasten_(382, 222, 140, 112, 14), .0, .45, stoff("#e6d5ae", rau=.9, fleck=.06, korn=.5, kornmass=2), .2)
+    flach(GÄRTEN["L'Étoile"], .0, .45, stoff("#e6d5ae", rau=.9, fleck=.06, korn=.5, kornmass=2), .2)
     for x, b in ((346, 58), (418, 58)):
         for y, h in ((190, 34), (246, 44)):
             flach(kasten_(x, y, b, h, 5), .0, .9, gras("#7cb24a"), .3)
@@ -240,7 +257,7 @@ def étoile():
 
 
 def royal():
-    umriss = [(128, 172), (140, 146), (166, 136), (210, 131), (252, 142), (286, 156), (296, 184), (288, 216), (238, 214), (180, 210), (146, 200)]
+    umriss = GÄRTEN["Royal"]
     flach([(p[0], -p[1] / TIEFE) for p in weich(umriss)], -.1, .6, stoff("#e8dab4", rau=.9, korn=.4, kornmass=2), .2)
     innen = weich([(x + (212 - x) * .055, y + (174 - y) * .09) for x, y in umriss])
     unten, oben = min(p[1] for p in innen), max(p[1] for p in innen)
@@ -263,12 +280,11 @@ def royal():
 
 def landschaft(linie):
     """Streut Bäume, wo sie nichts verdecken, das sich bewegt oder gebaut wird."""
-    # Wäldchen vor den Straßenkurven; Kasten des Baumes im Bild darf kein Steuerelement berühren.
     sperren = [tuple(w / 12 for w in r) for _, r in GEBÄUDE.values()] + [tuple(w / 12 for w in r) for _, _, r in PLÄTZE.values()]
     sperren += [tuple(w / 12 for w in r) for r in (BANK, RATHAUS)] + [(572, 100, 145, 48), (455, 150, 48, 80)]
     sperren += [(x - len(t) * 4, y - 20, len(t) * 8, 24) for t, (x, y), _, _ in bauten.SCHILDER]
     küste, weg = weich(KÜSTE), np.array([p[:2] for p in linie])
-    gründe = [weich(g[2]) for g in gelaende.GRÜNDE.values()]
+    gründe = [weich(g[2]) for g in gelaende.GRÜNDE.values()] + [weich(g, 3) for g in GÄRTEN.values()]
     gesetzt, zufall = [], random.Random(7)
     for _ in range(5200):
         x, y = zufall.uniform(-5, 745), zufall.uniform(0, 432)
@@ -278,7 +294,7 @@ def landschaft(linie):
         if any(x + b > l and x - b < l + w and y + 2 > o and y - h < o + hh for l, o, w, hh in sperren):
             continue
         p = welt(x, y)
-        if np.hypot(*(weg - np.array(p.xy)).T).min() < BREITE / 2 + (3 if busch_ else 7):
+        if np.hypot(*(weg - np.array(p.xy)).T).min() < FAHRBAHN / 2 + (3 if busch_ else 7):
             continue
         ort = (np.array([p.x]), np.array([p.y]))
         if abstand(*ort, küste)[0] < 13 or any(abstand(*ort, g)[0] > -3 for g in gründe):

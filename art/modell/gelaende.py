@@ -16,7 +16,7 @@ KÜSTE = [(56, 104), (72, 78), (98, 52), (126, 30), (168, 12), (215, 3), (255, 1
          (54, 200), (62, 168), (50, 136)]
 SPIEGEL = -2.2              # Höhe des Wassers unter dem Land
 
-ERDE, SAND, SAVANNE, MOOS = "#b4613a", "#ead09a", "#cfb163", "#5c8a3c"
+ERDE, SAND, SAVANNE, MOOS = "#b4613a", "#ead09a", "#cfb163", "#7c9a42"
 # Grund der Hotels, die auf Naturboden stehen: Farbe, weicher Rand, Umriss
 GRÜNDE = {
     "Boomerang": (ERDE, 5, [(528, 366), (585, 362), (640, 363), (672, 338), (702, 312), (745, 300), (760, 420), (640, 424), (545, 408)]),
@@ -110,17 +110,17 @@ def punktstoff(name, rau, glanz, korn, kornmass, fleck):
     ton = k.new("ShaderNodeMapRange")
     ton.inputs["From Min"].default_value, ton.inputs["From Max"].default_value = 0.25, 0.75
     ton.inputs["To Min"].default_value, ton.inputs["To Max"].default_value = 1 - fleck, 1 + fleck
-    v.new(_rauschen(k, v, ort, 0.45, 5), ton.inputs["Value"])
+    v.new(_rauschen(k, v, ort, 0.45, 3), ton.inputs["Value"])
     v.new(_mal(k, v, werte.outputs["Color"], ton.outputs[0]), p.inputs["Base Color"])
-    _relief(k, v, p, _rauschen(k, v, ort, kornmass, 4), korn)
+    _relief(k, v, p, _rauschen(k, v, ort, kornmass, 2), korn)
     return m
 
 
 def land():
     x, y = gitter(2.0)
     küste = abstand(x, y, weich(KÜSTE)) + 3.0 * rauschfeld(x, y, 26, 3)
-    farbe = np.broadcast_to(np.array(rgb("#7fae45")), (*x.shape, 3)).copy()
-    farbe = mische(farbe, "#9abf52", 0.75 * stufe(rauschfeld(x, y, 70, 5), 0, .7))
+    farbe = np.broadcast_to(np.array(rgb("#82a84a")), (*x.shape, 3)).copy()
+    farbe = mische(farbe, "#9cb955", 0.75 * stufe(rauschfeld(x, y, 70, 5), 0, .7))
     farbe = mische(farbe, "#5f9440", 0.65 * stufe(rauschfeld(x, y, 45, 8), 0.1, .8))
     for name, (ton, rand, umriss) in GRÜNDE.items():
         d = abstand(x, y, weich(umriss)) + 3 * rauschfeld(x, y, 14, 11)
@@ -155,7 +155,7 @@ def schneeberg(x, y, r, h):
     p, w = welt(x, y), np.linspace(0, 2 * math.pi, n, endpoint=False)
     a = np.linspace(0, 1, m)[:, None]
     kante = 1 + .10 * np.sin(3 * w + 1) + .06 * np.sin(7 * w) + .03 * np.sin(17 * w + 2)
-    radius = r * ((1 - a) * kante * (1 - .42 * np.sin(a * math.pi) * (1 - .2 * a)) + .09)
+    radius = r * ((1 - a) * kante * (1 - .30 * np.sin(a * math.pi) * (1 - .2 * a)) + .10)
     höhe = h * (a ** 1.25) * (1 + .035 * np.sin(9 * w + 4 * a) * a)
     höhe = np.where(a > .985, h * .955, höhe)
     gx, gy = p.x + radius * np.cos(w), p.y + radius * np.sin(w)
@@ -165,4 +165,4 @@ def schneeberg(x, y, r, h):
     farbe = mische(farbe, "#fbfcff", stufe(a2 + .09 * np.sin(8 * w + 1) + .05 * np.sin(19 * w), .54, .60))
     rund = lambda q: np.concatenate([q, q[:, :1]], 1)       # noqa: E731
     als_netz("Schneeberg", rund(gx), rund(gy), rund(np.broadcast_to(höhe, (m, n))), rund(farbe), punktstoff("Berg", .85, .15, .7, .5, .10))
-    zylinder(p.x, p.y, h * .95, r * .085, .4, "#dfe6f0", rund=0)
+    zylinder(p.x, p.y, h * .95, r * .095, .4, "#dfe6f0", rund=0)

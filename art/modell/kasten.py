@@ -104,11 +104,12 @@ def schattengrund(z=0.0):
 
 
 def rendere(datei, links, oben, breite, höhe, fein=FEIN, proben=96, durchsichtig=True,
-            rand=4.0, güte=90, mitte=None):
+            rand=4.0, güte=90, mitte=None, größe=None):
     """Zeichnet das Rechteck des Brettes (Entwurfspunkte) nach `datei` (.png oder .jpg).
 
     `rand`: so viele Punkte vor dem Bildrand läuft ein freier Schatten weich aus. `mitte`: Raumpunkt
-    der Bildmitte, wenn die Kamera anders gedreht ist als auf dem Brett."""
+    der Bildmitte, wenn die Kamera anders gedreht ist als auf dem Brett. `größe`: Maß in Bildpunkten,
+    auf das ein gröber gezeichnetes JPEG gebracht wird."""
     szene = bpy.context.scene
     r = szene.render
     r.resolution_x, r.resolution_y = round(breite * fein), round(höhe * fein)
@@ -128,7 +129,8 @@ def rendere(datei, links, oben, breite, höhe, fein=FEIN, proben=96, durchsichti
     if durchsichtig and rand:
         _schatten_auslaufen(roh, rand * fein)
     if roh != datei:
-        subprocess.run(["convert", roh, "-strip", "-quality", str(güte), datei], check=True)
+        maß = ["-filter", "Lanczos", "-resize", "%dx%d!" % größe] if größe else []
+        subprocess.run(["convert", roh, *maß, "-strip", "-quality", str(güte), datei], check=True)
         os.remove(roh)
 
 
@@ -243,7 +245,7 @@ def stoff(farbe, rau=0.55, glanz=0.35, metall=0.0, fleck=0.10, fleckmass=0.06, k
     ort = k.new("ShaderNodeNewGeometry").outputs["Position"]
     höhe = None
     if fleck:
-        r = _rauschen(k, v, ort, fleckmass, 3)
+        r = _rauschen(k, v, ort, fleckmass, 2)
         ton = k.new("ShaderNodeMapRange")
         ton.inputs["From Min"].default_value, ton.inputs["From Max"].default_value = 0.3, 0.7
         ton.inputs["To Min"].default_value, ton.inputs["To Max"].default_value = 1 - fleck, 1 + fleck
@@ -257,7 +259,7 @@ def stoff(farbe, rau=0.55, glanz=0.35, metall=0.0, fleck=0.10, fleckmass=0.06, k
     if farbaus:
         v.new(farbaus, p.inputs["Base Color"])
     if korn:
-        höhe2 = _rauschen(k, v, ort, kornmass, 4)
+        höhe2 = _rauschen(k, v, ort, kornmass, 2)
         _relief(k, v, p, höhe2, korn, höhe, musterhub)
     elif höhe:
         _relief(k, v, p, höhe, musterhub)

@@ -140,3 +140,13 @@ def mitte(feld):
     """Mitte eines Feldes in Entwurfspunkten."""
     _, l, o = FELDER[feld]
     return (l + WAGEN_B / 2) / 12, (o + WAGEN_H / 2) / 12
+
+
+# Wegpunkte der Straße nach einem Feld, wo die Mitten der Felder allein sie nicht führen
+ZWISCHEN = {30: [(612, 184), (648, 196)]}
+FAHRBAHN = 40               # Breite mit Bordsteinen
+
+
+def straßenpunkte():
+    """Die Mitte der Straße in Entwurfspunkten, von Feld zu Feld."""
+    return [p for f in FELDER for p in [mitte(f)] + ZWISCHEN.get(f, [])]
