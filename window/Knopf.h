@@ -11,7 +11,7 @@ namespace velmo {
 
 class Knopf : public QAbstractButton {
   public:
-    /// ordner: wo die Bilder der drei Zustände liegen, ruhe, gedrueckt und gesperrt.
+    /// ordner: wo die Bilder der drei Zustände liegen: "ruhe", "gedrueckt", "gesperrt".
     Knopf(QWidget *form, Bildspeicher &, std::string ordner);
     void zeige(const Stück &, const Maß &);
 
