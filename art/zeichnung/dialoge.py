@@ -230,9 +230,10 @@ def menu2():
     bild = (f'<rect x="330" y="402" width="802" height="480" rx="36" fill="#5c3419" opacity=".20"/><rect x="330" y="402" width="802" height="480" rx="36" fill="none" stroke="#a5763a" stroke-width="4" opacity=".6"/>'
             '<g filter="url(#schattengross)"><rect x="508" y="416" width="444" height="440" rx="12" fill="url(#nuss)"/></g><rect x="520" y="428" width="420" height="416" rx="6" fill="url(#gold)"/><rect x="528" y="436" width="404" height="400" fill="#2a1404"/>')
     buch = '<rect x="2310" y="400" width="576" height="730" rx="22" fill="#5c3419" opacity=".13"/>'
-    leiste = f'<rect x="66" y="1306" width="{b - 132}" height="204" rx="22" fill="#5c3419" opacity=".15"/>'
-    tisch = glocke(2560, 210, 1.35) + schluessel(260, 180, -14, 1.0)
-    return svg(b, h, tafel(b, h, 34, innen=bild + buch + leiste + messingschild(970, 92, 1016, 190, "Anmeldung", 112) + tisch), grunddefs())
+    wappen = (f'{palmblatt(690, 1120, 196, 250, 1.0)}{palmblatt(690, 1100, 156, 240, 1.0)}{palmblatt(770, 1120, -16, 250, 1.0)}{palmblatt(770, 1100, -56, 240, 1.0)}'
+              f'<g transform="translate(594 940) scale(1.06)">{plakette()}</g>')
+    tisch = glocke(2560, 156, 1.05) + schluessel(260, 180, -14, 1.0)
+    return svg(b, h, tafel(b, h, 34, innen=bild + buch + wappen + messingschild(970, 92, 1016, 190, "Anmeldung", 112) + tisch), grunddefs() + SEE)
 
 
 def hof():
@@ -267,6 +268,20 @@ def dank():
                kugel("mond", [(0, "#fffbe8"), (.7, "#f6dc9a"), (1, "#d9b060")], .4, .36, .7) + verlauf("nacht", [(0, "#05060c"), (.6, "#0a0f20"), (1, "#1c1a38")]) + verlauf("meer", [(0, "#141a34"), (1, "#04050a")]))
 
 
+def tisch():
+    """Der Tisch, auf dem das Brett liegt: helles Holz, Papier unter den Texten, Filz für Würfel und Scheine."""
+    b, h = 3200, 2400
+    def filz(x, y, w, k, r):
+        return (f'<rect x="{x}" y="{y}" width="{w}" height="{k}" rx="{r}" fill="#1c0c02" opacity=".7"/><rect x="{x + 5}" y="{y + 5}" width="{w - 8}" height="{k - 8}" rx="{r - 4}" fill="url(#filz)"/>'
+                f'<g opacity=".7"><rect x="{x + 5}" y="{y + 5}" width="{w - 8}" height="{k - 8}" rx="{r - 4}" filter="url(#korn)"/></g><rect x="{x + 8}" y="{y + 8}" width="{w - 14}" height="{k - 14}" rx="{r - 6}" fill="none" stroke="#03140c" stroke-width="10" opacity=".3"/>'
+                f'<rect x="{x}" y="{y}" width="{w + 2}" height="{k + 2}" rx="{r}" fill="none" stroke="#ffe3b0" stroke-width="2.5" opacity=".5"/>')
+    blatt = papier(22, 22, 1052, 236, 14, zierlinie=False) + papier(2612, 22, 566, 236, 14, zierlinie=False)
+    brett = '<rect x="28" y="268" width="2988" height="1732" rx="10" fill="#1c0c02" opacity=".85"/><rect x="26" y="266" width="2993" height="1737" rx="12" fill="none" stroke="#ffe3b0" stroke-width="3" opacity=".5"/>'
+    return svg(b, h, f"""<rect width="{b}" height="{h}" fill="url(#eiche)"/><g opacity=".26"><rect width="{b}" height="{h}" filter="url(#maserung)"/></g><g opacity=".22"><rect width="{b}" height="{h}" filter="url(#maserungfein)"/></g>
+<rect width="{b}" height="{h}" fill="url(#licht)"/>{blatt}{brett}{filz(1698, 22, 430, 236, 26)}{filz(452, 2012, 2126, 420, 30)}""",
+               grunddefs() + verlauf("eiche", [(0, "#e3bd85"), (.5, "#cf9f64"), (1, "#b27f48")], 0, 0, .3, 1) + kugel("filz", [(0, "#4f9a68"), (.55, "#2d7048"), (1, "#1a4a30")], .3, .2, .9))
+
+
 def hilfe():
     b, h = 1602, 1208          # halb so fein: das Textfeld deckt fast alles zu
     return svg(b, h, tafel(b, h, 30, zierlinie=False), grunddefs())
@@ -292,14 +307,20 @@ def knopf(zustand):
     return svg(240, 120, s, defs)
 
 
+SEE = kugel("see", [(0, "#bfe8f4"), (1, "#4fa4d0")], .4, .2, .9)
+
+
 def zeichen():
-    """Das Zeichen des Spiels: Palme und Stern auf Emaille."""
-    return svg(256, 256, f"""<ellipse cx="132" cy="138" rx="112" ry="112" fill="#1c0c02" opacity=".5" filter="url(#weich)"/><g filter="url(#praegung)"><circle cx="128" cy="128" r="118" fill="{GOLD}"/></g>
+    return svg(256, 256, plakette(), grunddefs() + SEE)
+
+
+def plakette():
+    """Das Zeichen des Spiels: Palme am Strand auf Emaille."""
+    return f"""<ellipse cx="132" cy="138" rx="112" ry="112" fill="#1c0c02" opacity=".5" filter="url(#weich)"/><g filter="url(#praegung)"><circle cx="128" cy="128" r="118" fill="{GOLD}"/></g>
 <circle cx="128" cy="128" r="104" fill="url(#see)"/><clipPath id="r"><circle cx="128" cy="128" r="104"/></clipPath><g clip-path="url(#r)"><circle cx="176" cy="84" r="34" fill="#ffd35a"/>
 <path d="M0 196Q60 150 128 186T256 178V256H0Z" fill="#e9c47a"/><path d="M0 220Q60 196 128 216T256 206V256H0Z" fill="#2f9ab8"/>
 <g transform="translate(112 122) scale(1.12)">{palmenbild("#2b6b34", "#e9c47a").replace('url(#bild)', '#9a6a3a')}</g><path d="M24 24H232V84Q128 110 24 66Z" fill="#fff" opacity=".16"/></g>
-<g filter="url(#praegung)"><path d="M78 206H178L168 236H88Z" fill="url(#rot)"/></g><text x="128" y="231" text-anchor="middle" font-family="{SCHRIFT_EDEL}" font-weight="bold" font-size="24" fill="#fff3d0">VELMO</text>""",
-               grunddefs() + kugel("see", [(0, "#bfe8f4"), (1, "#4fa4d0")], .4, .2, .9))
+<g filter="url(#praegung)"><path d="M78 206H178L168 236H88Z" fill="url(#rot)"/></g><text x="128" y="231" text-anchor="middle" font-family="{SCHRIFT_EDEL}" font-weight="bold" font-size="24" fill="#fff3d0">VELMO</text>"""
 
 
 ALLE = {
@@ -311,7 +332,7 @@ ALLE = {
     "formen/karten/image1.png": lambda: scheibenknopf("links"), "formen/karten/image2.png": lambda: scheibenknopf("rechts"), "formen/karten/image3.png": lambda: scheibenknopf("zu", 296),
     "formen/menu2/menu2.jpg": menu2, "formen/menu2/klickl.png": lambda: pfeil(True), "formen/menu2/klickr.png": lambda: pfeil(False),
     "formen/hof/hof.jpg": hof, "formen/dank/dank.jpg": dank, "formen/frmhilfe/frmhilfe.jpg": hilfe,
-    "formen/knopf/ruhe.png": lambda: knopf("ruhe"), "formen/knopf/gedrueckt.png": lambda: knopf("gedrueckt"), "formen/knopf/gesperrt.png": lambda: knopf("gesperrt"),
+    "formen/form1/form1.jpg": tisch, "formen/knopf/ruhe.png": lambda: knopf("ruhe"), "formen/knopf/gedrueckt.png": lambda: knopf("gedrueckt"), "formen/knopf/gesperrt.png": lambda: knopf("gesperrt"),
     "formen/velmo.png": zeichen,
 }
 
