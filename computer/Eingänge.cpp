@@ -1,6 +1,7 @@
 #include "computer/Eingänge.h"
 
 #include "computer/Computer.h"
+#include "computer/Eingangspreise.h"
 #include "model/Eingangstafel.h"
 #include "property/Eingänge.h"
 
@@ -17,18 +18,7 @@ using H = Hotelkürzel;
 constexpr int Rücklage = 2000; // darunter kauft ein Computer keinen Eingang
 constexpr int Durchläufe = 8;  // so oft sucht er einen freien Platz für einen Gratiseingang
 
-/// Preis für den Computer und Grenze der Eingangszahl je Hotel; beide sind seine eigenen.
-struct Eingangszeile {
-    H Hotel;
-    int Preis, Grenze;
-};
-
 // clang-format off
-constexpr Eingangszeile Eingangstafel[] = {
-    {H::b, 100, 4}, {H::p, 250, 7},  {H::l, 250, 9}, {H::w, 200, 5},
-    {H::r, 200, 11}, {H::f, 100, 6}, {H::t, 100, 5}, {H::s, 150, 5},
-};
-
 /// In welcher Folge ein Hotel seine Felder probiert; von mehreren Zeilen gilt die erste, deren Rivale fremd ist.
 struct Folge {
     H Hotel;
@@ -80,7 +70,7 @@ class Eingangssuche {
     bool endetNach(Reihe<Flagge, NachHotel> &merker) {
         z.Wahlzahl = zähleHotels(z, computer);
         if (z.Wahlzahl == 0) return true;
-        for (const Eingangszeile &zeile : Eingangstafel) {
+        for (const Eingangszeile &zeile : Eingangszeilen) {
             if (!gehört(z, zeile.Hotel, computer)) continue;
             z.Wahlzahl -= 1;
             if (!kommtInFrage(zeile, merker)) continue;

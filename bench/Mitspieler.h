@@ -1,0 +1,50 @@
+#pragma once
+// Ein einfacher Spieler für lange Läufe: er würfelt, kauft und baut, was er bezahlen kann, setzt Eingänge, wechselt
+// Noten und zahlt, alles mit Maus und Auswahl an den wirklichen Formularen.
+#include "include/Programm.h"
+
+#include <random>
+#include <string>
+
+namespace velmo {
+
+class Mitspieler {
+  public:
+    Mitspieler(Programm &p, unsigned saat) : p(p), laune(saat) {}
+
+    /// Tut den nächsten Schritt; falsch, wenn es für ihn gerade nichts zu tun gibt.
+    bool handle();
+    /// Spielt im Warten einer Routine weiter: dort öffnet sich nur der Mietdialog.
+    bool handleImWarten();
+    /// Richtet im Assistenten ein Spiel ein und beginnt es.
+    void beginneSpiel();
+
+  private:
+    bool ruhig() const;
+    bool imDialog();
+    bool stoppeWürfel();
+    bool amBrett();
+    bool bezahle();
+    bool kaufe();
+    bool baue();
+    bool baueGratis();
+    bool wähleEingang();
+    bool ziehe();
+    bool zahleNoten();
+    bool wechsle(int rest);
+    bool willEingang() const;
+    bool eingangMöglich(Hotelkürzel) const;
+
+    Form *offen(const char *form) const;
+    template <class C> C &element(const char *form, const std::string &name) const;
+    bool klicke(VisualControl &);
+    bool klicke(const char *form, const char *name);
+    bool chance(int prozent) { return static_cast<int>(laune() % 100) < prozent; }
+
+    Programm &p;
+    std::mt19937 laune;
+    Zeit würfeltSeit = 0;
+    int hotelsGesehen = 0;
+};
+
+} // namespace velmo
