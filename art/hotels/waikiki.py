@@ -74,11 +74,11 @@ def kikih():
     """Großer Pavillon: Tor mit Masken, zwei geschwungene Palmdächer, rote Krone."""
     strand(46, 36)
     steg(0, 13, 38, 20, 3)
-    stube(0, 15, 3, 33, 14, 12, 6, "#f6e2ae")
+    stube(0, 15, 3, 33, 14, 10.6, 6, "#f6e2ae")
     pfosten(0, 12, 3, 36, 12, 11, 6)
     girlande(-18, 18, 5.4, 13.6, 1.4, 9)
     strohdach(0, 15.5, 14, 35, 13, 7, 2.6, .5, saum=ROT)
-    quader(0, 15.5, 19.8, 16, 6, 4.4, "#2f9aa0", .3)
+    quader(0, 15.5, 19.8, 16, 6, 3.8, "#2f9aa0", .3)
     with wand(0, 15.5, 16, 6, "s"), bei(0, 0, 20.6):
         fensterreihe(.3, 16, 4, 2.4, 2.8, rahmen="#f3dfae", scheibe=lack("#ffd987"), sprossen=(0, 0), sims=False)
     strohdach(0, 15.5, 23.6, 16.5, 6, 6, 2.4, .10, saum=ROT)
@@ -139,13 +139,13 @@ def kikin3():
     """Zweistöckiger Pavillon mit Veranda und Lampions."""
     strand(46, 34)
     steg(0, 13, 34, 20, 2.6)
-    stube(0, 15, 2.6, 28, 13, 10.5, 5, "#f6cf86")
+    stube(0, 15, 2.6, 28, 13, 9.2, 5, "#f6cf86")
     pfosten(0, 12, 2.6, 32, 12, 9.6, 5)
     zaun([(-16, 5), (-4, 5)], "#f7ead0", 2.6, 2.2, 2.6, 1, .55)
     zaun([(4, 5), (16, 5)], "#f7ead0", 2.6, 2.2, 2.6, 1, .55)
     girlande(-15.5, 15.5, 5.2, 12.2, 1.2, 8)
     strohdach(0, 15, 12, 31, 13, 5.4, 2.4, .66, saum="#2f9aa0")
-    stube(0, 14, 15.6, 21, 8.5, 7, 3.2, "#f6e2ae")
+    stube(0, 14, 15.6, 21, 8.5, 6, 3.2, "#f6e2ae")
     strohdach(0, 15, 21.6, 22, 8.5, 7.6, 2.4, .12, saum="#2f9aa0")
     kugel(0, 15, 29.6, 1.3, "#2f9aa0")
     palme(-16, 24, .6, .85, drehung=180, neigung=.4)
@@ -160,14 +160,14 @@ def kikin4():
     """Langes Haus mit drei Kronen und Ausleger am Strand."""
     strand(46, 34)
     steg(0, 15, 41, 18, 2.6)
-    stube(0, 16, 2.6, 37, 12, 10, 5, fenster_=False)
+    stube(0, 16, 2.6, 37, 12, 9.6, 5, fenster_=False)
     with wand(0, 16, 37, 12, "s"):
         for x in (-14, -8, 8, 14):
             fenster(x, 5, 4.2, 5, rahmen="#7a4e2c", scheibe=lack("#ffd987"), sprossen=(1, 0))
     girlande(-19, 19, 6.4, 12.6, 1.4, 9)
     strohdach(0, 16.5, 12.4, 38, 12, 5.4, 2.2, .6, saum="gelb")
     for x, h, b in ((-12.5, 6.5, 9.5), (0, 9, 12.5), (12.5, 6.5, 9.5)):
-        quader(x, 15.5, 15.4, b * .8, 5.4, 4, ROT if x == 0 else "#2f9aa0", .3)
+        quader(x, 15.5, 15.4, b * .8, 5.4, 3.6, ROT if x == 0 else "#2f9aa0", .3)
         strohdach(x, 15.5, 19, b * .92, 6, h, 1.8, .08, saum="gelb")
         kugel(x, 15.5, 19.4 + h, 1.0, "gelb")
     palme(-16.5, 26, .6, .72, drehung=180, neigung=.4)
