@@ -110,7 +110,7 @@ def schwelle(linie, feld, davor):
     o, r = a.lerp(e, .5), (e - a).normalized()
     quer = Vector((-r.y, r.x))
     for s in (-1.7, 1.7):
-        p, q = o + r * s + quer * (FAHRBAHN / 2 - 2), o + r * s - quer * (FAHRBAHN / 2 - 2)
+        p, q = o + r * s + quer * (FAHRBAHN / 2 - 3.4), o + r * s - quer * (FAHRBAHN / 2 - 3.4)
         band([tuple(p), tuple(q)], 1.9, stoff("#ffcf1f", rau=.5, fleck=.02, leuchten=.12), .6, .5, rund=0)
 
 
@@ -155,8 +155,8 @@ def president():
 
 
 def waikiki():
-    for x, y, m in ((66, 118, .8), (100, 66, .9), (130, 36, .95), (172, 18, .9), (232, 12, .85), (268, 26, .9), (274, 62, .8),
-                    (62, 100, .75), (252, 8, .7), (94, 88, .8), (182, 70, .8)):
+    for x, y, m in ((64, 126, .75), (100, 66, .9), (130, 36, .95), (172, 18, .9), (232, 12, .85), (268, 26, .9), (274, 62, .8),
+                    (252, 8, .7), (94, 88, .8), (182, 70, .8)):
         with am_brett(x, y):
             palme(0, 0, mass=m)
     for nr, (x, y) in enumerate(((118, 92), (146, 74), (205, 66), (168, 66))):
@@ -324,6 +324,9 @@ def brett():
     felder()
     schwelle(linie, 7, 6)
     schwelle(linie, 26, 25)
+    strecke = [p for p in linie if 596 < p[0] < 668 and 178 < -p[1] / TIEFE < 215]       # Leitlinie auf dem langen Stück
+    for p, q in list(zip(strecke, strecke[2:]))[::4]:
+        band([p, q], 1.3, stoff("#f4efe2", fleck=0), .6, .5, rund=0)
     for bauen in (bauten.bank, bauten.rathaus, bauten.parkplatz, bauten.schilder, president, waikiki, taj, boomerang, safari, fuji, étoile, royal):
         bauen()
     landschaft(linie)

@@ -34,8 +34,10 @@ def bank():
             keil(0, -2, 0, 21, 38, 9, "#f6edd9", .3, drehung=90)
             satteldach(0, -2, 0, 23, 39, 9.6, ziegel("#4e8b7c", 2.2), über=.8, drehung=90)
         quader(0, 17, 26.5, 58, 28, 2.2, ziegel("#4e8b7c", 2.2), .5)
-        schrift("BANK", 0, -.9, 23.9, 4.4, metall("#c28a1e"), dick=.4, datei="DejaVuSans-Bold.ttf")
-        drehkörper(0, -12.3, 27.6 + 2.6, [(2.2, -.3), (2.2, .3)], metall("#e0a92f"), 24)
+        with rahmen(Matrix.Translation((0, -4.6, 26.4)) @ Matrix.Rotation(math.radians(-36), 4, "X")):
+            quader(0, 0, 0, 37, 1.0, 12, lack("#234a42"), .5)
+            quader(0, -.35, 1, 35, .6, 10, lack("#2f6156"), .3)
+            schrift("BANK", 0, -.75, 5.9, 9.6, stoff("#ffd45e", fleck=0, leuchten=.15), dick=.25, datei="DejaVuSans-Bold.ttf")
         for x in (-36, 36):
             zypresse(x, 3, 1, .8)
             busch(x * .93, -2.5, 1, .7, blüten="gelb")
@@ -69,7 +71,10 @@ def rathaus():
         walmdach(0, 5, 28.9, 10, 10, 11, ziegel("#4a8a7a", 1.6), über=1.0, first=0)
         spitze(0, 5, 39.4, .8, metall())
         for x in (-16.5, 16.5):
-            kugelbaum(x, -.5, .6, .42)
+            kugelbaum(x, .5, .6, .42)
+        with rahmen(Matrix.Translation((0, -3.6, .4)) @ Matrix.Rotation(math.radians(-48), 4, "X")):
+            quader(0, 0, 0, 32, .8, 6.4, lack("#3a4d6b"), .3)
+            schrift("RATHAUS", 0, -.45, 3.1, 5.6, stoff("#ffe7a6", fleck=0), dick=.15, datei="DejaVuSans-Bold.ttf")
         fahne(0, 5, 41, 7, ("gelb", "gruen"), b=4.4, h=2.8)
 
 

@@ -51,7 +51,7 @@ def klammer(p, d, kasten_):
 def eingang(rechteck, feldmitte, farbe, blau=None):
     """Baut den Eingang eines Platzes in sein Rechteck (Entwurfspunkte)."""
     l, o, b, h = rechteck
-    m = min(1.15, (b - 1.0) / 16.5, (h - 1.0) / 11.6)
+    m = min(1.15, (b - 1.0) / 16.5, (h - 1.0) / 11.9)
     grund = [welt(l + .6, o + h - .6).x, welt(0, o + h - .8).y, welt(l + b - .6, 0).x, welt(0, o + .4).y]
     c, s = welt(l + b / 2, o + h / 2).xy, welt(*feldmitte).xy
     d = (c - s).normalized()
@@ -66,11 +66,11 @@ def eingang(rechteck, feldmitte, farbe, blau=None):
     # Das Tor steht so weit vom Feld weg, wie sein Bild noch ganz im Rechteck bleibt
     ort = c + d * (von + .62 * (bis - von))
     ort.x = min(max(ort.x, grund[0] + 8 * m), grund[2] - 8 * m)
-    ort.y = min(max(ort.y, grund[1] + 2.4 * m), grund[3] - 12.5 * m + 1.5)
+    ort.y = min(max(ort.y, grund[1] + 2.4 * m), grund[3] - 14.3 * m)
     weg_stoff = blau or stoff("#efdcae", rau=.85, fleck=.08, muster=("platte", 3.0, 3.0, .16), musterhub=.4)
     start, ziel = c + d * von, c + d * bis
-    linie = glätten([tuple(start), tuple(ort), tuple(ziel)], 8, zu=False)
-    linie = [p for i, p in enumerate(linie) if not i or (Vector(p) - Vector(linie[i - 1])).length > .05]
+    linie = ([start] if (ort - start).dot(d) > 2 * m else [ort - d * 2 * m]) + [ort] + ([ziel] if (ziel - ort).dot(d) > 2 * m else [ort + d * 2 * m])
+    linie = glätten([tuple(p) for p in linie], 8, zu=False)
     band(linie, 8.0 * m, weg_stoff, .1, .5, rund=.1)
     for seite in (-1, 1):
         band(linie, .9 * m, blau or "#fbf2dc", .1, .9, rund=.1, versatz=seite * 4.4 * m)
@@ -82,7 +82,7 @@ def eingang(rechteck, feldmitte, farbe, blau=None):
         e = a + quer * seite * min(ende, 16)
         if ende > 2.5:
             if blau:
-                band([tuple(a), tuple(e)], 2.6, blau, 0, 3.2, rund=.7)
+                band([tuple(a), tuple(e)], 2.6, lack("#3f86e8"), 0, 3.2, rund=.7)
             else:
                 hecke([tuple(a), tuple(e)], 3.2, 2.8, "#43923f")
     winkel = max(-66, min(66, winkel))                  # ganz von der Seite wäre es nur ein Strich
@@ -95,11 +95,11 @@ def platz(nr, blau):
     neu(nr)
     rechteck = tuple(w / 12 for w in twips)
     if blau:
-        eingang(rechteck, mitte(feld), "#2f7fe8", "#5aa8ff")
+        eingang(rechteck, mitte(feld), "#1f62d8", "#8cc2ff")
         datei = os.path.join(args.ziel, "eingangs", "%d.png" % (800 + nr))
     else:
         schattengrund()
-        eingang(rechteck, mitte(feld), "#1f9a46")
+        eingang(rechteck, mitte(feld), "#18a34c")
         datei = os.path.join(args.ziel, "eingangn", "%d.png" % (700 + nr))
     rendere(datei, *rechteck, fein=args.fein, proben=args.proben, rand=2)
     if blau:

@@ -159,9 +159,9 @@ def schneeberg(x, y, r, h):
     höhe = h * (a ** 1.25) * (1 + .035 * np.sin(9 * w + 4 * a) * a)
     höhe = np.where(a > .985, h * .955, höhe)
     gx, gy = p.x + radius * np.cos(w), p.y + radius * np.sin(w)
-    farbe = np.broadcast_to(np.array(rgb("#6f8f4e")), (m, n, 3)).copy()
+    farbe = np.broadcast_to(np.array(rgb("#7fa048")), (m, n, 3)).copy()
     a2 = np.broadcast_to(a, (m, n))
-    farbe = mische(farbe, "#7d7f92", stufe(a2 + .05 * np.sin(11 * w), .18, .42))
+    farbe = mische(farbe, "#7d7f92", stufe(a2 + .05 * np.sin(11 * w), .26, .48))
     farbe = mische(farbe, "#fbfcff", stufe(a2 + .09 * np.sin(8 * w + 1) + .05 * np.sin(19 * w), .54, .60))
     rund = lambda q: np.concatenate([q, q[:, :1]], 1)       # noqa: E731
     als_netz("Schneeberg", rund(gx), rund(gy), rund(np.broadcast_to(höhe, (m, n))), rund(farbe), punktstoff("Berg", .85, .15, .7, .5, .10))

@@ -68,7 +68,7 @@ def tisch():
     quader(B / 2, -H / 2, -10, B + 200, H + 200, 10, hell, 0)
     rechteckring(l, o, b, h, .8, 7.0, -1, 5.5, leiste, 1.6)
     quader(l + b / 2, -o - h / 2, -1, b + 2, h + 2, 1.2, "#3a2a1e", 0)
-    filz = stoff("#2f6b4f", rau=1, glanz=.03, fleck=.07, korn=.5, kornmass=1.6)
+    filz = stoff("#31604d", rau=1, glanz=.03, fleck=.07, korn=.5, kornmass=1.6)
     for l, o, b, h in (NOTEN, WÜRFEL):
         quader(l + b / 2, -o - h / 2, -1, b, h, 1.3, filz, 0)
         rechteckring(l, o, b, h, 0, 3.4, -1, 4.2, leiste, 1.3)
@@ -98,8 +98,8 @@ def zeichen():
         fahne(0, 0, 18, 9, ("gelb", "rot"))
     with bei(-1, -13, 2, -62, .78):
         wagen("#f5b921")
-    rendere(os.path.join(args.ziel, "formen", "velmo.png"), 0, 0, 64, 64, fein=4 if args.fein >= 4 else 2, proben=args.proben, rand=1,
-            mitte=Vector((1, 4, 6)))
+    rendere(os.path.join(args.ziel, "formen", "velmo.png"), 0, 0, 72, 72, fein=256 / 72, proben=args.proben, rand=1,
+            mitte=Vector((1.5, 4, 6)))
 
 
 args = argumente()
