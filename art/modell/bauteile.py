@@ -9,7 +9,7 @@ import random
 import bmesh
 from mathutils import Matrix, Vector
 
-from kasten import (_objekt, _netz_aus, als_stoff, aus_bmesh, band, bei, drehkörper, gemeinsam, glas, heller,
+from kasten import (_objekt, _netz_aus, als_stoff, band, bei, drehkörper, gemeinsam, glas,
                     holz, kugel, lack, lage, metall, prisma, putz, quader, rahmen, rohr, schrift, stoff, wasser, ziegel,
                     zylinder, keil, stein, laub)
 

@@ -1,6 +1,5 @@
 """Was auf dem Brett von Anfang an steht: Bank, Rathaus, Parkplatz, Schilder, Boote, Leuchtturm."""
-import os
-import sys
+import math
 
 from kasten import *       # noqa: F401,F403
 from bauteile import *     # noqa: F401,F403

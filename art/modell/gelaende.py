@@ -1,11 +1,10 @@
 """Meer und Land der Insel: ein Höhenfeld mit Farben je Punkt, das Wasser darum."""
 import math
-import sys
 
 import numpy as np
 
 from kasten import *       # noqa: F401,F403
-from kasten import _netz_aus, _objekt, _rauschen, _relief, _mal
+from kasten import _mal, _rauschen, _relief
 
 # Küste im Uhrzeigersinn, Entwurfspunkte
 KÜSTE = [(56, 104), (72, 78), (98, 52), (126, 30), (168, 12), (215, 3), (255, 10), (282, 22), (304, 10), (330, -14),

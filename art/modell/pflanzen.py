@@ -5,7 +5,7 @@ import random
 import bmesh
 from mathutils import Matrix, Vector, noise
 
-from kasten import als_stoff, aus_bmesh, bei, gemeinsam, heller, lack, laub, stoff, lage
+from kasten import als_stoff, aus_bmesh, gemeinsam, heller, lack, laub, stoff, lage
 
 ARTEN = 3        # verschiedene Netze je Baumart
 

@@ -1,11 +1,10 @@
 """Der Tisch, auf dem das Brett liegt (bilder/formen/form1/form1.jpg), und das Zeichen des Spiels (bilder/formen/velmo.png)."""
-import math
 import os
 import sys
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 from kasten import *       # noqa: E402,F403
-from kasten import _rauschen, _relief, _rechne      # noqa: E402
+from kasten import _rechne         # noqa: E402
 from bauteile import *     # noqa: E402,F403
 from pflanzen import *     # noqa: E402,F403
 from auto import wagen     # noqa: E402
