@@ -75,6 +75,7 @@ Fenster::Fenster(Umgebung &u, std::function<void()> schließt)
             fläche->update();
     });
     messe();
+    anzeige.setStyleSheet(feldgestalt(vergrößerung()));
 }
 
 void Fenster::wechsleVollbild() { setWindowState(windowState() ^ Qt::WindowFullScreen); }

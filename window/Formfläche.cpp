@@ -47,17 +47,29 @@ void Formfläche::folge(const Form &form, const Maß &m, const VisualControl *ge
     setVisible(form.Visible);
 }
 
-void Formfläche::folgePlatz(const Form &form) {
+/// Ringsum der Schatten; eine Form mit Bild, der nur ein Streifen zur ganzen Anzeige fehlt, füllt ihn mit.
+QMargins Formfläche::saumVon(const Form &form) const {
     const Bildschirm schirm = u.p.Screen();
-    const bool füllt = form.Left <= 0 && form.Top <= 0 && form.Left + form.Width >= schirm.Width &&
-                       form.Top + form.Height >= schirm.Height;
+    const double links = form.Left, oben = form.Top, rechts = schirm.Width - form.Left - form.Width,
+                 unten = schirm.Height - form.Top - form.Height;
+    const double streifen = schirm.Width / 40;
+    if (form.region() || std::max({links, oben, rechts, unten}) <= 0) return {};
+    if (std::max({links, oben, rechts, unten}) <= streifen && !form.Picture().leer())
+        return {maß.punkt(std::max(links, 0.0)), maß.punkt(std::max(oben, 0.0)), maß.punkt(std::max(rechts, 0.0)),
+                maß.punkt(std::max(unten, 0.0))};
+    const int schatten = static_cast<int>(std::ceil(maß.strich(10) / maß.dichte) * maß.dichte);
+    return {schatten, schatten, schatten, schatten};
+}
+
+void Formfläche::folgePlatz(const Form &form) {
     größe = maß.rechteck({0, 0, form.Width, form.Height}).size();
-    umriss = form.region() ? umrissVon(*form.region(), schirm.TwipsPerPixelX * maß.jeTwip) : QPainterPath();
-    rand = füllt || form.region() ? 0 : static_cast<int>(std::ceil(maß.strich(10) / maß.dichte) * maß.dichte);
+    umriss = form.region() ? umrissVon(*form.region(), u.p.Screen().TwipsPerPixelX * maß.jeTwip) : QPainterPath();
+    saum = saumVon(form);
+    wirftSchatten = saum.left() > 0 && saum.left() == saum.right();
     const QPoint ecke(maß.punkt(form.Left), maß.punkt(form.Top));
-    setGeometry(maß.fensterrechteck(QRect(ecke, größe).adjusted(-rand, -rand, rand, rand)));
-    setAttribute(Qt::WA_OpaquePaintEvent, umriss.isEmpty() && rand == 0);
-    const Grund neu{form.Picture().Datei, form.BackColor, füllt};
+    setGeometry(maß.fensterrechteck(QRect(ecke, größe).marginsAdded(saum)));
+    setAttribute(Qt::WA_OpaquePaintEvent, umriss.isEmpty() && !wirftSchatten);
+    const Grund neu{form.Picture().Datei, form.BackColor};
     if (neu == grund) return;
     grund = neu;
     update();
@@ -126,7 +138,7 @@ void Formfläche::folgeBedienelemente(const Form &form) {
             widget->setToolTip(text(s.hinweis));
         }
         if (!widget) continue;
-        widget->setGeometry(maß.fensterrechteck(maß.rechteck(s.ort()).translated(rand, rand)));
+        widget->setGeometry(maß.fensterrechteck(maß.rechteck(s.ort()).translated(ursprung())));
         widget->setVisible(s.sichtbar);
     }
 }
@@ -151,7 +163,7 @@ void Formfläche::erneuere(const Control &c) {
 }
 
 void Formfläche::erneuere(const QRect &punkte) {
-    update(maß.fensterrechteck(punkte.translated(rand, rand)).adjusted(-1, -1, 1, 1));
+    update(maß.fensterrechteck(punkte.translated(ursprung())).adjusted(-1, -1, 1, 1));
 }
 
 QRect Formfläche::ortVon(const Stück &s) const {
@@ -159,12 +171,27 @@ QRect Formfläche::ortVon(const Stück &s) const {
     return s.control != versetztes ? ort : ort.translated(maß.punkt(versatz.x()), maß.punkt(versatz.y()));
 }
 
+void Formfläche::maleSaum(QPainter &p) {
+    const QRect ganz(QPoint(), größe);
+    if (wirftSchatten) return maleSchatten(p, ganz, saum.left());
+    // Das Bild spiegelt sich über seine Kanten hinaus.
+    for (const bool waagrecht : {true, false})
+        for (const bool hinten : {true, false}) {
+            const int um = hinten ? (waagrecht ? größe.width() : größe.height()) * 2 : 0;
+            p.save();
+            p.translate(waagrecht ? um : 0, waagrecht ? 0 : um);
+            p.scale(waagrecht ? -1 : 1, waagrecht ? 1 : -1);
+            maleBild(p, u.bilder, grund.bild, ganz);
+            p.restore();
+        }
+}
+
 void Formfläche::maleAlles(QPainter &p, const QRect &bereich) {
     const QRect ganz(QPoint(), größe);
     p.setClipRect(ganz);
     if (!grund.bild.empty()) maleBild(p, u.bilder, grund.bild, ganz);
     if (grund.bild.empty() || u.bilder.roh(grund.bild).isNull())
-        malePapier(p, maß, ganz, farbton::aus(grund.farbe), umriss.isEmpty() && !grund.füllt);
+        malePapier(p, maß, ganz, farbton::aus(grund.farbe), wirftSchatten);
     for (const auto &[r, farbe] : zeichnung)
         p.fillRect(maß.rechteck(r), farbton::aus(farbe));
     for (const Stück &s : liste) {
@@ -187,13 +214,13 @@ void Formfläche::paintEvent(QPaintEvent *e) {
         return QRectF(r.x() * maß.dichte, r.y() * maß.dichte, r.width() * maß.dichte, r.height() * maß.dichte)
             .toAlignedRect();
     };
-    const QRect bereich = punkte(e->rect()).translated(-rand, -rand);
+    const QRect bereich = punkte(e->rect()).translated(-ursprung());
     QPainter p(this);
     p.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     p.scale(1 / maß.dichte, 1 / maß.dichte);
-    p.translate(rand, rand);
+    p.translate(ursprung());
     if (umriss.isEmpty()) {
-        if (rand > 0 && !QRect(QPoint(), größe).contains(bereich)) maleSchatten(p, QRect(QPoint(), größe), rand);
+        if (!QRect(QPoint(), größe).contains(bereich)) maleSaum(p);
         return maleAlles(p, bereich);
     }
     // Eine Form mit Umriss wird gezeichnet und dann mit glattem Rand ausgeschnitten.
@@ -216,7 +243,7 @@ void Formfläche::paintEvent(QPaintEvent *e) {
 bool Formfläche::event(QEvent *e) {
     if (e->type() != QEvent::ToolTip) return QWidget::event(e);
     const auto *wo = static_cast<QHelpEvent *>(e);
-    const QPoint hier(static_cast<int>(wo->x() * maß.dichte) - rand, static_cast<int>(wo->y() * maß.dichte) - rand);
+    const QPoint hier = (QPointF(wo->pos()) * maß.dichte).toPoint() - ursprung();
     const auto s = std::find_if(liste.rbegin(), liste.rend(), [&](const Stück &s) {
         return s.sichtbar && s.sorte != Sorte::Rahmen && s.sorte != Sorte::Linie && ortVon(s).contains(hier);
     });

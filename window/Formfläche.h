@@ -6,6 +6,7 @@
 #include "window/Maß.h"
 #include "window/Zeichenliste.h"
 
+#include <QMargins>
 #include <QPainterPath>
 #include <QWidget>
 
@@ -51,16 +52,18 @@ class Formfläche : public QWidget {
     struct Grund {
         std::string bild;
         Farbe farbe;
-        bool füllt = false; // die ganze Anzeige
         bool operator==(const Grund &) const = default;
     };
     void folgePlatz(const Form &);
+    QMargins saumVon(const Form &) const;
     void folgeListe(const Form &, const VisualControl *gezogen);
     void folgeZeichnung(const Form &);
     void folgeBedienelemente(const Form &);
     void blendeVerdeckendes(Zeichenliste &, const VisualControl *gezogen) const;
     void erneuere(const QRect &punkte);
     QRect ortVon(const Stück &) const;
+    QPoint ursprung() const { return {saum.left(), saum.top()}; }
+    void maleSaum(QPainter &);
     void maleAlles(QPainter &, const QRect &bereich);
 
     Umgebung &u;
@@ -69,8 +72,9 @@ class Formfläche : public QWidget {
     const VisualControl *gezogenes = nullptr;
     Grund grund;
     QPainterPath umriss; // leer: das ganze Rechteck
-    int rand = 0;        // Bildpunkte ringsum für den Schatten
-    QSize größe;         // der Form, in Bildpunkten
+    QMargins saum;       // Bildpunkte ringsum, die die Form nicht bedeckt
+    bool wirftSchatten = false;
+    QSize größe; // der Form, in Bildpunkten
     Zeichenliste liste;
     std::vector<std::pair<Rechteck, Farbe>> zeichnung;
     const Control *versetztes = nullptr;

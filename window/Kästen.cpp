@@ -17,7 +17,8 @@ namespace {
 class Kasten : public QDialog {
   public:
     Kasten(Fenster &fenster, const QString &text, const QString &titel)
-        : QDialog(&fenster), knöpfe(new QDialogButtonBox(QDialogButtonBox::Ok, this)) {
+        : QDialog(&fenster, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+          knöpfe(new QDialogButtonBox(QDialogButtonBox::Ok, this)) {
         const double punkt = fenster.vergrößerung(); // Längen des Fensters je Bildpunkt des Entwurfs
         const auto länge = [punkt](int entwurf) { return static_cast<int>(entwurf * punkt); };
         setWindowTitle(titel);
@@ -43,6 +44,11 @@ class Kasten : public QDialog {
         knöpfe->addButton("Abbrechen", QDialogButtonBox::RejectRole);
         feld->setFocus();
         return feld;
+    }
+
+  protected:
+    void showEvent(QShowEvent *) override {
+        move(parentWidget()->mapToGlobal(parentWidget()->rect().center()) - rect().center());
     }
 
   private:
