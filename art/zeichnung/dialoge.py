@@ -148,8 +148,7 @@ def messingschild(x, y, b, h, text, groesse):
 # --- Dialoge ---------------------------------------------------------------------------------------------------------------
 def geldfeld():
     b, h = 1444, 620
-    zier = "".join(f'<g opacity=".16" transform="translate({x} {y}) rotate({w}) scale(1.5)">{scheine(v, 1)}</g>' for x, y, w, v in ((250, 330, -9, 50), (1190, 330, 8, 500)))
-    return svg(b, h, tafel(b, h, innen=zier), grunddefs())
+    return svg(b, h, tafel(b, h), grunddefs())
 
 
 def baufeld():

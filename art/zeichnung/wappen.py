@@ -1,4 +1,4 @@
-"""Die Wappen der acht Hotels als Emailleschilder für die Bildknöpfe; das untere Drittel bleibt für die Beschriftung frei.
+"""Die Wappen der acht Hotels als Emailleschilder für die Bildknöpfe; der Knopf schreibt den Namen darunter.
 
 Aufruf: python3 wappen.py
 """
@@ -80,7 +80,7 @@ def schild(k):
     defs = (verlauf("gold", [(0, "#fff0b0"), (.45, "#eebb45"), (1, "#a8701c")], 0, 0, .6, 1) + verlauf("marmor", [(0, "#ffffff"), (.6, "#f3ece0"), (1, "#c9bda8")], 0, 0, .5, 1)
             + kugel("feld", [(0, hell), (1, tief)], .38, .3, .8) + '<clipPath id="rund"><ellipse rx="94" ry="70"/></clipPath>'
             + verlauf("glas", [(0, "#ffffff", .5), (.5, "#ffffff", .06), (.55, "#ffffff", 0)]))
-    return svg(324, 244, f"""<g transform="translate(162 86)"><ellipse cx="4" cy="8" rx="103" ry="78" fill="#2a1404" opacity=".5" filter="url(#weich)"/>
+    return svg(232, 176, f"""<g transform="translate(114 84)"><ellipse cx="4" cy="8" rx="103" ry="78" fill="#2a1404" opacity=".5" filter="url(#weich)"/>
 <g filter="url(#praegung)"><ellipse rx="104" ry="79" fill="{GOLD}"/></g><ellipse rx="94" ry="70" fill="#3a2208"/><ellipse rx="93" ry="69" fill="url(#feld)"/>
 <g clip-path="url(#rund)"><g transform="translate(0 5) scale(1.13)">{zeichnen()}</g><ellipse rx="94" ry="70" fill="none" stroke="#2a1404" stroke-width="9" opacity=".28" transform="translate(3 4)"/>
 <path d="M-94 -70H94V-20Q0 -2 -94 -30Z" fill="url(#glas)"/></g></g>""", defs)
