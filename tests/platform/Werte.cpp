@@ -1,0 +1,91 @@
+// Die Arten der Werte, Zeichen und Dateien, wo kein Befehl einer Szene hinreicht.
+#include "include/Werte.h"
+#include "bench/Programmordner.h"
+#include "platform/Dateien.h"
+#include "platform/Laufzeitfehler.h"
+#include "platform/Region.h"
+#include "platform/Zeichen.h"
+#include "tests/Prüfung.h"
+
+#include <filesystem>
+
+using namespace velmo;
+
+namespace {
+
+template <class F> bool wirft(Fehlerart art, const F &tu) {
+    try {
+        tu();
+    } catch (const Laufzeitfehler &f) {
+        return f.Art() == art;
+    }
+    return false;
+}
+
+void prüfeKurz(Prüfung &t) {
+    Kurz k = 32767;
+    t.gilt("32767 + 1 läuft über", wirft(Fehlerart::Überlauf, [&] { k += 1; }));
+    t.gleich("und bleibt", int(k), 32767);
+    t.gilt("-32768 - 1 läuft über", wirft(Fehlerart::Überlauf, [] { Kurz(-32768) -= 1; }));
+}
+
+void prüfeLose(Prüfung &t) {
+    t.gilt("Ziffern gelten als Zahl", Lose("6") == Lose(6));
+    t.gilt("leer ist nicht 0", !(Lose() == Lose(0)));
+    t.gilt("leer ist der leere Text", Lose() == Lose(""));
+    t.gleich("leer rechnet als 0", Lose().Zahl(), 0.0);
+    t.gilt("Text ist keine Zahl", wirft(Fehlerart::Typ, [] { static_cast<void>(Lose("s").Zahl()); }));
+}
+
+void prüfeZeichen(Prüfung &t) {
+    t.gleich("Länge in Zeichen", Zeichenzahl("Tschüß…"), 7);
+    t.gleich("Links schneidet Zeichen", Links("Tschüß", 5), std::string("Tschü"));
+    t.gleich("Rechts auch", Rechts("Tschüß", 2), std::string("üß"));
+    t.gleich("mehr, als da ist", Links("ab", 9), std::string("ab"));
+    t.gilt("weniger als nichts", wirft(Fehlerart::Argument, [] { Links("ab", -1); }));
+    std::string alle;
+    for (int b = 1; b < 256; ++b)
+        alle += static_cast<char>(b);
+    t.gilt("jedes Byte kommt durch Windows-1252 hin und zurück", nachWindows1252(ausWindows1252(alle)) == alle);
+    t.gleich("was es dort nicht gibt", nachWindows1252("a→b"), std::string("a?b"));
+}
+
+void prüfeRegion(Prüfung &t) {
+    Region r;
+    t.gilt("leer", !r.enthält(0, 0));
+    r.vereinige(GerundetesRechteck{0, 0, 100, 60, 20, 20});
+    r.vereinige(Vieleck{{{100, 20}, {140, 30}, {100, 40}}});
+    t.gilt("die Ecke ist rund", !r.enthält(0, 0) && r.enthält(10, 1) && r.enthält(4, 4));
+    t.gilt("das Vieleck gehört dazu", r.enthält(130, 30) && !r.enthält(130, 22));
+}
+
+void prüfeDateien(Prüfung &t) {
+    const Programmordner ordner;
+    const std::filesystem::path wurzel = ordner.Pfad();
+    ordner.schreibe("Charakter/Änne.cha", "alt");
+    t.gleich("jede Schreibung findet", liesDatei(wurzel / "charakter" / "Änne.CHA"), std::string("alt"));
+    schreibeDatei(wurzel / "CHARAKTER" / "Änne.cha", "neu");
+    t.gleich("ersetzt wird die eine Datei", liesDatei(wurzel / "Charakter" / "Änne.cha"), std::string("neu"));
+    t.gilt("nichts bleibt daneben liegen", std::distance(std::filesystem::directory_iterator(wurzel / "Charakter"),
+                                                         std::filesystem::directory_iterator()) == 1);
+    t.gilt("der Ordner fehlt", wirft(Fehlerart::Datei, [&] { schreibeDatei(wurzel / "fehlt" / "x", ""); }));
+    ordner.sperre("Charakter/Änne.cha");
+    t.gilt("Gesperrtes bleibt", wirft(Fehlerart::Datei, [&] { schreibeDatei(wurzel / "Charakter" / "Änne.cha", ""); }));
+    t.gleich("und ist zu lesen", liesDatei(wurzel / "Charakter" / "Änne.cha"), std::string("neu"));
+    schreibeDatei(wurzel / "Charakter" / "zweite.cha", "geht");
+    ordner.sperre("Charakter");
+    t.gilt("in Gesperrtem entsteht nichts",
+           wirft(Fehlerart::Datei, [&] { schreibeDatei(wurzel / "Charakter" / "dritte.cha", ""); }));
+}
+
+} // namespace
+
+int main() {
+    Prüfung t;
+    prüfeKurz(t);
+    prüfeLose(t);
+    prüfeZeichen(t);
+    prüfeRegion(t);
+    prüfeDateien(t);
+    return t.ende();
+}

@@ -1,0 +1,118 @@
+// Die Laufzeit an eigenen kleinen Formularen: Reihenfolge der Zeitgeber, wartende Behandlungen, Formulare, die sich in
+// ihrer eigenen Behandlung entladen.
+#include "bench/Prüffläche.h"
+#include "include/Programm.h"
+#include "tests/Prüfung.h"
+
+#include <string>
+
+using namespace velmo;
+
+namespace {
+
+/// Was die Handler taten, in ihrer Reihenfolge.
+std::string Spur;
+
+class Uhrform : public Form {
+  public:
+    static constexpr const char *Formname = "Uhrform";
+    explicit Uhrform(Programm &p) : Form(p, Formname, {0, 0, 1000, 1000}) {
+        später.Tick = [] { Spur += 's'; };
+        früher.Tick = [] { Spur += 'f'; };
+        wartend.Tick = [&p] {
+            Spur += '(';
+            for (int i = 0; i < 25; ++i)
+                p.DoEvents();
+            Spur += ')';
+        };
+    }
+    void Form_Load() override { Spur += 'L'; }
+    void Form_Unload() override { Spur += 'U'; }
+
+    Timer später{*this, "später", 20, false};
+    Timer früher{*this, "früher", 10, false};
+    Timer wartend{*this, "wartend", 10, false};
+};
+
+class Knopfform : public Form {
+  public:
+    static constexpr const char *Formname = "Knopfform";
+    explicit Knopfform(Programm &p) : Form(p, Formname, {0, 0, 1000, 1000}) {
+        Knopf.Click = [this, &p] {
+            p.entlade(Formname);
+            Caption = "noch da"; // lebt, bis keine Behandlung mehr läuft
+            Spur += Caption;
+        };
+    }
+    CommandButton Knopf{*this, "Knopf", {100, 100, 500, 500}};
+};
+
+constexpr Formeintrag Tafel[] = {eintrag<Uhrform>(), eintrag<Knopfform>()};
+
+/// Ein Programm auf der Prüffläche, deren Wartende die Uhr selbst weiterdrehen.
+struct Stand {
+    Stand() {
+        Spur.clear();
+        fläche.Fahrer = [this] {
+            if (!p.Fälliges()) ++fläche.Uhr;
+        };
+    }
+    void warte(Zeit ms) {
+        for (const Zeit ende = fläche.Uhr + ms; fläche.Uhr < ende; p.Fälliges())
+            ++fläche.Uhr;
+    }
+    Prüffläche fläche;
+    Programm p{fläche, Tafel, ""};
+};
+
+void prüfeReihenfolge(Prüfung &t) {
+    Stand s;
+    auto &form = s.p.form<Uhrform>();
+    form.früher.Enabled = true;
+    form.später.Enabled = true;
+    s.warte(40);
+    t.gleich("nach Fälligkeit, dann nach Entstehung", Spur, std::string("Lfsffsf"));
+    Spur.clear();
+    form.früher.Interval = 0.0;
+    s.warte(40);
+    t.gleich("ein Abstand von 0 ist aus", Spur, std::string("ss"));
+    Spur.clear();
+    form.später.Enabled = false;
+    form.später.Enabled = true;
+    s.warte(19);
+    t.gleich("das Einschalten beginnt den Abstand neu", Spur, std::string(""));
+}
+
+void prüfeWarten(Prüfung &t) {
+    Stand s;
+    auto &form = s.p.form<Uhrform>();
+    form.wartend.Enabled = true;
+    form.früher.Enabled = true;
+    s.warte(10);
+    t.gleich("eine wartende Behandlung beginnt nicht von vorn, andere laufen in ihr", Spur, std::string("Lf(ff)"));
+}
+
+void prüfeEntladen(Prüfung &t) {
+    Stand s;
+    s.p.zeige("Knopfform");
+    s.p.eingabe.drücke(Maustaste::Links, {300, 300});
+    s.p.eingabe.löse(Maustaste::Links, {300, 300});
+    t.gleich("ein Knopf schließt seine eigene Form", Spur, std::string("noch da"));
+    t.gilt("danach ist sie nicht geladen", !s.p.geladene("Knopfform"));
+
+    Spur.clear();
+    s.p.form<Uhrform>().früher.Enabled = true;
+    s.p.entlade("Uhrform");
+    s.warte(50);
+    t.gleich("mit der Form schweigen ihre Zeitgeber", Spur, std::string("LU"));
+}
+
+} // namespace
+
+int main() {
+    Prüfung t;
+    prüfeReihenfolge(t);
+    prüfeWarten(t);
+    prüfeEntladen(t);
+    return t.ende();
+}
