@@ -68,9 +68,11 @@ def eingang(rechteck, feldmitte, farbe, blau=None):
     ort.x = min(max(ort.x, grund[0] + 8 * m), grund[2] - 8 * m)
     ort.y = min(max(ort.y, grund[1] + 2.4 * m), grund[3] - 14.3 * m)
     weg_stoff = blau or stoff("#efdcae", rau=.85, fleck=.08, muster=("platte", 3.0, 3.0, .16), musterhub=.4)
-    start, ziel = c + d * von, c + d * bis
-    linie = ([start] if (ort - start).dot(d) > 2 * m else [ort - d * 2 * m]) + [ort] + ([ziel] if (ziel - ort).dot(d) > 2 * m else [ort + d * 2 * m])
-    linie = glätten([tuple(p) for p in linie], 8, zu=False)
+    # Der Weg läuft gerade durch das Tor, vom Bordstein bis an den Rand des Platzes
+    von, bis = klammer(ort, d, grund)
+    while von < -3 * m and zurStraße(ort + d * von) < .3:
+        von += .5
+    linie = [tuple(ort + d * min(von, -3 * m)), tuple(ort + d * max(bis, 3 * m))]
     band(linie, 8.0 * m, weg_stoff, .1, .5, rund=.1)
     for seite in (-1, 1):
         band(linie, .9 * m, blau or "#fbf2dc", .1, .9, rund=.1, versatz=seite * 4.4 * m)
