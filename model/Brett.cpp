@@ -22,6 +22,16 @@ constexpr Stapelzeile Stapeltafel[] = {
     {5000, "g5000", "k5000", "p5000", 6720, 5640},
 };
 
+/// Ein Schildchen aus Papier; erst ein Besitzer macht es sichtbar.
+void gestalte(Label &schild) {
+    schild.Visible = false;
+    schild.FontSize = 7;
+    schild.FontBold = true;
+    schild.Alignment = static_cast<double>(Ausrichtung::Mitte);
+    schild.Deckend = true;
+    schild.BackColor = Farbe{0xFFF6DC};
+}
+
 } // namespace
 
 Notenstapel::Notenstapel(Form &form, int note, const char *feld, const char *knopf, const char *bild, Rechteck r)
@@ -46,7 +56,7 @@ Brett::Brett(Programm &p) : Form(p, Formname, {0, 0, 9600, 7200}, "Velmo") {
     for (Image *bild : nachTiefe)
         bild->nachVorn();
     for (const Hotel &h : Hotels)
-        schilder.emplace_back(Picture1, h.Schild, h.Schildort).Visible = false;
+        gestalte(schilder.emplace_back(Picture1, h.Schild, h.Schildort));
     Info.nachVorn();
     Info.Visible = false;
     for (const Stapelzeile &z : Stapeltafel)

@@ -30,14 +30,14 @@ using S = Baustufe;
 // clang-format off
 inline constexpr std::array<Hotel, 8> Reihe = {{
     // Kürzel Name      Seite           Schild      sein Ort
-    {H::b, "Boomerang", Seite::links,  "Booml",    {6600, 4680,  900, 192}},
-    {H::p, "President", Seite::links,  "Presil",   {2880, 4680,  900, 192}},
-    {H::w, "Waikiki",   Seite::links,  "Waikikil", {1080,  400, 1000, 192}},
-    {H::t, "Taj Mahal", Seite::links,  "Tajl",     {3720,  760,  900, 192}},
-    {H::s, "Safari",    Seite::links,  "Safaril",  {7560, 1080,  900, 192}},
-    {H::f, "Fujijama",  Seite::rechts, "Fujil",    {6600, 3460,  900, 192}},
-    {H::l, "L'Étoile",  Seite::rechts, "Etoill",   {4000, 3330,  900, 192}},
-    {H::r, "Royal",     Seite::rechts, "Royall",   {2160, 2500,  900, 192}},
+    {H::b, "Boomerang", Seite::links,  "Booml",    {6530, 4462, 1020, 192}},
+    {H::p, "President", Seite::links,  "Presil",   {2850, 4582, 1020, 192}},
+    {H::w, "Waikiki",   Seite::links,  "Waikikil", { 200,  790,  870, 192}},
+    {H::t, "Taj Mahal", Seite::links,  "Tajl",     {3714,  940, 1020, 192}},
+    {H::s, "Safari",    Seite::links,  "Safaril",  {7900,  860,  980, 192}},
+    {H::f, "Fujijama",  Seite::rechts, "Fujil",    {5490, 2936, 1020, 192}},
+    {H::l, "L'Étoile",  Seite::rechts, "Etoill",   {4940, 3412,  800, 192}},
+    {H::r, "Royal",     Seite::rechts, "Royall",   {2738, 2210, 1020, 192}},
 }};
 
 inline constexpr std::array<Stufe, 36> Stufen = {{
