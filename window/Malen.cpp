@@ -17,8 +17,16 @@ constexpr int Ausrichtungen[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter
 
 QPen stift(const QColor &farbe, double breite) { return {farbe, breite, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin}; }
 
+/// Ein Schildchen mit feinem Rand.
+void malePapier(QPainter &p, const Maß &m, const Stück &s, const QRect &ort) {
+    const QColor grund = farbton::aus(s.grund);
+    p.setPen(stift(grund.darker(160), 12 * m.jeTwip));
+    p.setBrush(grund);
+    p.drawRoundedRect(QRectF(ort).adjusted(0.5, 0.5, -0.5, -0.5), 40 * m.jeTwip, 40 * m.jeTwip);
+}
+
 void maleBeschriftung(QPainter &p, const Maß &m, const Stück &s, const QRect &ort) {
-    if (s.deckend) p.fillRect(ort, farbton::aus(s.grund));
+    if (s.deckend && !s.text.empty()) malePapier(p, m, s, ort);
     const int ausrichtung = Ausrichtungen[std::clamp(s.ausrichtung, 0, 2)] | Qt::AlignTop | Qt::TextWordWrap;
     maleText(p, ort, ausrichtung, text(s.text), schrift(s.schriftart, s.schriftgrad, s.fett, m.jeTwip),
              s.gesperrt ? farbton::Blass : farbton::aus(s.farbe));
