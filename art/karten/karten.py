@@ -56,7 +56,7 @@ def karte(h, bild):
          f'<rect x="50" y="50" width="{B - 100}" height="{H - 100}" rx="14" fill="none" stroke="{farbe}" stroke-width="3"/>',
          f'<rect x="70" y="70" width="{B - 140}" height="216" rx="10" fill="{farbe}"/>',
          f'<rect x="82" y="82" width="{B - 164}" height="192" rx="6" fill="none" stroke="#f3dca0" stroke-width="4"/>',
-         text(B / 2, 234, h["name"], 168, "#fff4d8", "middle", mehr='letter-spacing="10"'),
+         text(B / 2, 226, h["name"], 156, "#fff4d8", "middle", mehr='letter-spacing="10"'),
          f'<image x="92" y="332" width="1110" height="1290" preserveAspectRatio="xMidYMid slice" xlink:href="data:image/png;base64,{daten}"/>',
          f'<rect x="92" y="332" width="1110" height="1290" rx="4" fill="none" stroke="{farbe}" stroke-width="10"/>',
          f'<rect x="104" y="344" width="1086" height="1266" fill="none" stroke="#fff4d8" stroke-width="5" opacity=".85"/>']
@@ -66,7 +66,7 @@ def karte(h, bild):
     t.append(f'<rect x="{links - 24}" y="{y}" width="{rechts - links + 48}" height="92" rx="8" fill="{farbe}"/>')
     t += [text(links, y + 65, "Ausbau", 58, "#fff4d8"), text(bau, y + 65, "Kosten", 58, "#fff4d8", "end"), text(nacht, y + 65, "je Nacht", 58, "#fff4d8", "end")]
     y += 92
-    hoch = min(150, 726 / len(h["stufen"]))
+    hoch = min(182, 726 / len(h["stufen"]))
     for nr, s in enumerate(h["stufen"]):
         if nr % 2 == 0:
             t.append(f'<rect x="{links - 24}" y="{y}" width="{rechts - links + 48}" height="{hoch:.1f}" fill="{farbe}" opacity=".10"/>')
@@ -74,6 +74,12 @@ def karte(h, bild):
         t += [text(links, grund, STUFE[s["stand"]], 68), text(bau, grund, str(s["kosten"]), 76, farbe, "end"), text(nacht, grund, str(s["satz"]), 76, farbe, "end")]
         y += hoch
     t.append(f'<rect x="{links - 24}" y="{y}" width="{rechts - links + 48}" height="5" fill="{farbe}"/>')
+    if y < 1200:                                   # Zierde, wo wenige Stufen Platz lassen
+        mx, my = (links + rechts) / 2, (y + 1405) / 2
+        for s in (-1, 1):
+            t.append(f'<path d="M{mx + s * 70} {my} q{s * 70} -34 {s * 150} 0 t{s * 190} 0" fill="none" stroke="{farbe}" stroke-width="9" stroke-linecap="round"/>')
+            t.append(f'<circle cx="{mx + s * 440}" cy="{my}" r="15" fill="{farbe}"/>')
+        t.append(f'<path d="M{mx} {my - 46} l46 46 l-46 46 l-46 -46 z" fill="{farbe}"/>')
     preis, andere = eingang(h["eingänge"])
     y = 1480
     t += [text(links, y, "Eingang", 76), text(rechts, y, f"{preis} DM" if not andere else f"{preis}, {andere}", 76 if not andere else 66, farbe, "end")]

@@ -8,6 +8,7 @@ import sys
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "hotels"))
 from anlage import *       # noqa: E402,F403
+from anlage import _netz_aus, _objekt   # noqa: E402
 from mache import HOTELS, baue   # noqa: E402
 
 SEITE = (1110, 1290)                    # Bildpunkte des Bildes auf der Karte bei --fein 4
@@ -15,10 +16,10 @@ SEITE = (1110, 1290)                    # Bildpunkte des Bildes auf der Karte be
 # Wo die Karte vom Brett abweicht: Fußpunkte der Stufen in Entwurfspunkten, damit das Hotel ein Bild füllt.
 ORTE = {
     "boomerang": dict(boom=(0, 0), boomp=(-4, 34)),
-    "waikiki": dict(kikin1=(-52, 5), kikin2=(-26, -24), kikin3=(26, -24), kikin4=(52, 5), kikih=(0, 12), kikip=(0, 46)),
+    "waikiki": dict(kikin3=(-27, -31), kikin4=(27, -31), kikin1=(-30, 2), kikin2=(30, 2), kikih=(0, 30), kikip=(0, 63)),
     "tajmahal": dict(tajh=(0, 0), tajn1=(-31, 2), tajn2=(31, 2), tajp=(0, 34)),
     "safari": dict(safn2=(-8, -22), safh=(27, 0), safn1=(-26, 5), safp=(0, 38)),
-    "president": dict(presip=(160, 428)),
+    "president": dict(presip=(104, 466)),
     "royal": dict(royp=(212, 230)),
     "etoile": dict(letp=(368, 306)),
 }
@@ -34,6 +35,22 @@ LAND = {
     "etoile": (lambda: gras("#86bb50"), (lambda x, y: kugelbaum(x, y, mass=.9, farbe="#4b9438"), lambda x, y: busch(x, y, mass=1.2, blüten="rosa"))),
     "royal": (lambda: gras("#7cb646"), (lambda x, y: kugelbaum(x, y, mass=1.0, farbe="#3f8a3c"), lambda x, y: busch(x, y, mass=1.2, farbe="#3f8a34", blüten="rot"))),
 }
+
+
+def schneeberg(x, y):
+    """Der Berg hinter den Pagoden, mit zackiger Schneehaube."""
+    with am_brett(x, y):
+        drehkörper(0, 0, -1, [(46, 0), (30, 12), (19, 27), (10, 44), (5, 56), (3.4, 57)], stoff("#7d90b0", rau=.9, fleck=.15, fleckmass=.1), 64)
+        n = 40
+        p, f = [], []
+        for k, (r, z) in enumerate(((15.8, 34), (10.4, 44.5), (5.4, 56.4), (3.4, 57.8), (.1, 56.6))):
+            for i in range(n):
+                zacke = (4.5 * (i % 4 in (1, 2)) + 2.2 * (i % 7 == 3)) if k == 0 else 0
+                q = r - zacke * .55 if k == 0 else r
+                p.append(((q + .5) * math.cos(2 * math.pi * i / n), (q + .5) * math.sin(2 * math.pi * i / n), z - 1 + zacke))
+        for k in range(4):
+            f += [(k * n + i, k * n + (i + 1) % n, (k + 1) * n + (i + 1) % n, (k + 1) * n + i) for i in range(n)]
+        _objekt("Schnee", _netz_aus(p, f), "#f7f9fc", lage(), 0, glatt=True)
 
 
 def szene(hotel, args):
@@ -71,9 +88,11 @@ def szene(hotel, args):
             continue
         if any(k[0] - 4 < x < k[0] + k[2] + 4 and k[1] + k[3] < y < k[1] + k[3] + 15 for k in kästen):
             continue
-        if all((ort - o).length > 15 for o in gepflanzt):
+        if all((ort - o).length > max(15, .09 * b) for o in gepflanzt):
             gepflanzt.append(ort)
             random.choice(bäume)(ort.x, ort.y)
+    if hotel == "fujijama":
+        schneeberg(mx - b * .34, my - h * .27)
     rendere(os.path.join(args.ziel, hotel + ".png"), mx - b / 2, my - h / 2, b, h, fein=args.fein / 4 / seite, proben=args.proben, durchsichtig=False)
 
 
