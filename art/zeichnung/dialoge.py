@@ -45,10 +45,10 @@ def nagel(x, y, r=8):
     return f'<g filter="url(#schatten)"><circle cx="{x}" cy="{y}" r="{r}" fill="{GOLD}"/></g><circle cx="{x - r * .3}" cy="{y - r * .35}" r="{r * .3}" fill="#fff" opacity=".8"/>'
 
 
-def tafel(b, h, rand=26, innen="", **wie):
-    """Der Rahmen der Familie: Holz, Papier, vier Messingnägel."""
-    e = rand / 2
-    return holz(b, h) + papier(rand, rand, b - 2 * rand, h - 2 * rand, **wie) + innen + "".join(nagel(x, y, e * .62) for x in (e, b - e) for y in (e, h - e))
+def tafel(b, h, rand=26, innen="", oben=None, **wie):
+    """Der Rahmen der Familie: Holz, Papier, vier Messingnägel; oben: Breite der oberen Leiste, wenn sie schmaler ist."""
+    e, o = rand / 2, oben or rand
+    return holz(b, h) + papier(rand, o, b - 2 * rand, h - rand - o, **wie) + innen + "".join(nagel(x, y, e * .62) for x in (e, b - e) for y in (e, h - e))
 
 
 # --- Dinge ---------------------------------------------------------------------------------------------------------------
@@ -183,7 +183,7 @@ def kran(x, y, s):
 def bauphase():
     b, h = 1952, 1148
     felder = "".join(f'<rect x="{x / 3 - 8}" y="{y / 3 - 8}" width="340" height="260" rx="14" fill="#5c3419" opacity=".14"/>' for x in (600, 1800, 3000, 4200) for y in (840, 1680))
-    return svg(b, h, tafel(b, h, 20, innen=kran(1560, 1090, .55) + felder), grunddefs())
+    return svg(b, h, tafel(b, h, 20, innen=kran(1560, 1090, .55) + felder, oben=7, zierlinie=False), grunddefs())          # die Überschrift beginnt ganz oben
 
 
 def tor(x, y, s):

@@ -55,18 +55,18 @@ def malen(breite, hoehe, wahl, name):
 
 
 # --- Pokal -----------------------------------------------------------------------------------------------------------------
-PUNKT = 200            # Bildpunkte je Einheit; der Ursprung ist die Mitte der Tafel für das Bild des Siegers
-TAFEL = (1148, 680)
+PUNKT = 200            # Bildpunkte je Einheit
+SCHALE = (880, 660)    # hier liegt der Ursprung im Bild: die Mitte der Schale
 
 
 def pokal(wahl):
-    """Der Pokal auf der Bühne. Die Tafel trägt das Bild des Siegers, unten bleibt Platz für seinen Namen."""
+    """Der Pokal auf der Bühne, rechts der Rahmen für das Bild des Siegers, unten die Tafel für seinen Namen."""
     neu(2)
     bpy.data.objects.remove(bpy.data.objects["Sonne"])
     welt("#8a7658", .75, "#050406")
     k = bpy.context.scene.camera
     k.data.ortho_scale = 2004 / PUNKT
-    k.location = ((1002 - TAFEL[0]) / PUNKT, -30, (TAFEL[1] - 938.5) / PUNKT + 3.89)
+    k.location = ((1002 - SCHALE[0]) / PUNKT, -30, (SCHALE[1] - 938.5) / PUNKT + 3.89)
     k.rotation_euler = (math.radians(82), 0, 0)
     gold = metall("#f2b63a", .20)
     alt = metall("#b97f22", .35)
@@ -97,15 +97,10 @@ def pokal(wahl):
     for i in range(18):                    # Buckel am unteren Rand der Schale
         a = 2 * math.pi * i / 18
         kugel(1.34 * math.cos(a), .2 + 1.34 * math.sin(a), -1.50, .16, gold)
-    # Tafel vor der Schale
-    quader(0, -2.0, -1.16, 2.26, .30, 2.32, metall("#c98f2c", .28), .12)
-    quader(0, -2.12, -1.05, 2.06, .22, 2.10, gold, .06)
-    quader(0, -2.24, -1.0, 1.9, .06, 2.0, stoff("#2a1c3a", rau=.6), .02)
-    for s in (-1, 1):                      # Schleife
-        band_ = stoff("#2f6fc0", rau=.5, glanz=.35)
-        o = kugel(0, 0, 0, 1, band_)
-        o.matrix_world = Matrix.Translation((s * .52, -2.1, 1.36)) @ Matrix.Rotation(-s * .35, 4, "Y") @ Matrix.Diagonal((.52, .16, .26, 1))
-    kugel(0, -2.25, 1.30, .2, stoff("#24589c", rau=.5))
+    # Stern auf der Schale
+    stern = [((1.15 if i % 2 == 0 else .48) * math.sin(math.pi * i / 5), (1.15 if i % 2 == 0 else .48) * math.cos(math.pi * i / 5)) for i in range(10)]
+    o = prisma(stern, 0, .25, metall("#ffd667", .16), .07)
+    o.matrix_world = Matrix.Translation((0, -1.80, .22)) @ Matrix.Rotation(math.radians(90), 4, "X")
     # Lorbeer um den Sockel
     blatt = stoff("#3f8a3a", rau=.5, glanz=.3)
     for s in (-1, 1):
@@ -120,16 +115,16 @@ def pokal(wahl):
     def münzen(x, y, zahl, r=.36):
         for i in range(zahl):
             zylinder(x + z.uniform(-.03, .03), y + z.uniform(-.03, .03), -4.86 + .10 * i, r, .09, metall(z.choice(("#eab83f", "#e0a833")), .3), rund=.02, seiten=40)
-    for x, y, n_ in ((-2.3, -1.2, 9), (-3.05, -.7, 14), (-2.9, -1.9, 4), (2.35, -1.3, 7), (3.0, -.7, 11), (-3.75, -1.3, 6), (3.3, -1.7, 3)):
+    for x, y, n_ in ((-2.3, -1.2, 9), (-2.95, -.9, 12), (-2.75, -1.9, 4), (2.35, -1.3, 7), (3.0, -.7, 9), (-3.7, -1.4, 5), (3.3, -1.7, 3)):
         münzen(x, y, n_)
-    for x, y, w, n_, f_ in ((-4.5, .2, 12, 6, "#4aa39b"), (-4.1, 1.2, -8, 9, "#c1699d"), (3.95, .6, -12, 6, "#d9913f")):
+    for x, y, w, n_, f_ in ((-3.9, .2, 12, 5, "#4aa39b"), (-3.6, 1.2, -8, 8, "#c1699d"), (4.2, .6, -12, 4, "#d9913f")):
         for i in range(n_):
             with bei(x + z.uniform(-.05, .05), y, -4.86 + .21 * i, w + z.uniform(-4, 4)):
                 quader(0, 0, 0, 1.55, .85, .19, stoff(f_, rau=.7), .03)
                 quader(0, 0, -.01, .3, .87, .21, stoff("#fbf3e2", rau=.7), .02)
-    for x, h, r, f_ in ((-4.45, .9, .74, "#2f6fc0"), (-3.75, 1.75, .70, "#f2b92c"), (-5.0, 2.05, .66, "#c8392f"), (-4.3, 2.75, .62, "#3f9a4a"), (3.6, 1.3, .60, "#e58a9a"), (3.85, .3, .54, "#3fb5ad")):
+    for x, h, r, f_ in ((-3.55, 1.9, .62, "#2f6fc0"), (-2.9, 2.6, .58, "#f2b92c"), (-3.95, 2.75, .54, "#c8392f"), (3.7, 1.0, .66, "#e58a9a"), (4.45, 1.75, .62, "#3fb5ad"), (3.55, 2.35, .60, "#f2b92c"), (4.5, .35, .52, "#c8392f")):
         drehkörper(x, 1.2, h, [(.02, -1.18 * r), (.10 * r, -1.12 * r), (.05 * r, -1.04 * r)] + [(r * math.sin(a) * (1 - .10 * math.cos(a) * (math.cos(a) < 0) * -1), -r * 1.08 * math.cos(a)) for a in [math.pi * i / 24 for i in range(1, 24)]] + [(.01, r * 1.08)], stoff(f_, rau=.18, glanz=.6, fleck=.02), 40)
-        fuß = -4.3 if x < 0 else 4.0
+        fuß = -3.75 if x < 0 else 4.2
         rohr(glätten([(x, 1.2, h - 1.15 * r), (x * .9 + fuß * .1 + .15, 1.2, h - 2.4), (fuß, 1.2, -3.2)], 8, zu=False), .018, stoff("#e9dcc0"))
     for _ in range(150):
         x, y, h = z.uniform(-5.4, 4.2), z.uniform(-1, 3), z.uniform(-3.5, 5.2)
@@ -142,11 +137,28 @@ def pokal(wahl):
     licht((4, 3.0, 7), (0, 0, 0), 2, 800, (1, .85, .6))
     licht((-7, 1, 0), (0, 0, 0), 2, 450, (1, .7, .5))
     roh = malen(2004, 1877, wahl, "pokal.roh.png")
-    ziel = wahl.get("ziel", os.path.join(FORMEN, "gewinn"))
+    siegerbühne(roh, wahl.get("ziel", os.path.join(FORMEN, "gewinn")))
+
+
+def siegerbühne(roh, ziel):
+    """Hängt den goldenen Rahmen an Kordeln in das Bild und stellt die Namenstafel davor; zum Rand wird es schwarz wie die Form."""
+    from dialoge import holz, papier, grunddefs, nagel
+    from stift import svg
+    b, h = 2004, 1877
+    x, y, w, k = 1600, 1040, 376, 400      # das Bild des Siegers
+    kordel = "".join(f'<path d="M{x + v * w} {y - 22}V0" stroke="#5a3a10" stroke-width="11"/><path d="M{x + v * w} {y - 22}V0" stroke="#e9b744" stroke-width="8" stroke-dasharray="9 5"/>' for v in (.2, .8))
+    rahmen_ = (f'<g filter="url(#schattengross)">{kordel}<rect x="{x - 24}" y="{y - 24}" width="{w + 48}" height="{k + 48}" rx="14" fill="#8c5e1c"/></g><g filter="url(#praegung)">'
+               f'<path d="M{x - 24} {y - 24}H{x + w + 24}V{y + k + 24}H{x - 24}ZM{x} {y}V{y + k}H{x + w}V{y}Z" fill="url(#gold)" fill-rule="evenodd"/></g><rect x="{x}" y="{y}" width="{w}" height="{k}" fill="#1a1224"/>')
+    tafel = (f'<g filter="url(#schattengross)"><rect x="536" y="1618" width="892" height="168" rx="20" fill="#5c3419"/></g><g transform="translate(536 1618)"><clipPath id="t"><rect width="892" height="168" rx="20"/></clipPath>'
+             f'<g clip-path="url(#t)">{holz(892, 168)}</g>{papier(18, 16, 856, 136, 12, zierlinie=False)}</g>' + nagel(545 + 4, 1702, 6) + nagel(1419 - 4, 1702, 6))
     os.makedirs(ziel, exist_ok=True)
-    # zum Rand hin wird es schwarz wie die Form dahinter
-    subprocess.run(["convert", roh, "-resize", "2004x1877!", "(", "-size", "2004x1877", "xc:black", "-fill", "white", "-draw", "roundrectangle 70,70 1933,1806 220,220", "-blur", "0x60", ")",
-                    "-compose", "multiply", "-composite", "-strip", "-quality", "90", os.path.join(ziel, "picture1.jpg")], check=True)
+    quelle = os.path.join(os.path.dirname(roh), "pokal.svg")
+    with open(quelle, "w", encoding="utf-8") as f:
+        f.write(svg(b, h, f'''<image width="{b}" height="{h}" preserveAspectRatio="none" xlink:href="file://{roh}"/>
+<path d="M-400 -400H{b + 400}V{h + 400}H-400ZM60 260Q60 60 260 60H{b - 260}Q{b - 60} 60 {b - 60} 260V{h - 260}Q{b - 60} {h - 60} {b - 260} {h - 60}H260Q60 {h - 60} 60 {h - 260}Z" fill="#000" fill-rule="evenodd" filter="url(#dunst)"/>{rahmen_}{tafel}''',
+                    grunddefs() + '<filter id="dunst" x="-30%" y="-30%" width="160%" height="160%"><feGaussianBlur stdDeviation="55"/></filter>'))
+    subprocess.run(["rsvg-convert", "--unlimited", "-o", quelle + ".png", quelle], check=True)
+    subprocess.run(["convert", quelle + ".png", "-background", "black", "-flatten", "-strip", "-quality", "90", os.path.join(ziel, "picture1.jpg")], check=True)
 
 
 # --- Pleite -----------------------------------------------------------------------------------------------------------------
@@ -283,11 +295,13 @@ def rahmen(roh, ziel):
     from dialoge import tafel, grunddefs
     from stift import svg
     b, h = 1584, 1596
-    foto = f'<g filter="url(#schattengross)"><rect x="50" y="146" width="{b - 100}" height="1192" rx="6" fill="#fffdf4"/></g><image x="58" y="154" width="1468" height="1176" preserveAspectRatio="none" xlink:href="file://{roh}"/><rect x="58" y="154" width="1468" height="1176" fill="none" stroke="#3a1e08" stroke-width="2" opacity=".6"/>'
+    foto = (f'<g filter="url(#schattengross)"><rect x="50" y="100" width="{b - 100}" height="1192" rx="6" fill="#fffdf4"/></g>'
+            f'<image x="58" y="108" width="1468" height="1176" preserveAspectRatio="none" xlink:href="file://{roh}"/>'
+            '<rect x="58" y="108" width="1468" height="1176" fill="none" stroke="#3a1e08" stroke-width="2" opacity=".6"/>')
     os.makedirs(ziel, exist_ok=True)
     quelle = os.path.join(os.path.dirname(roh), "pleite.svg")
     with open(quelle, "w", encoding="utf-8") as f:
-        f.write(svg(b, h, tafel(b, h, 22, innen=foto, zierlinie=False), grunddefs()))
+        f.write(svg(b, h, tafel(b, h, 22, innen=foto, oben=7, zierlinie=False), grunddefs()))
     subprocess.run(["rsvg-convert", "--unlimited", "-o", quelle + ".png", quelle], check=True)
     subprocess.run(["convert", quelle + ".png", "-strip", "-quality", "90", os.path.join(ziel, "verloren.jpg")], check=True)
 
