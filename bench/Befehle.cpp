@@ -65,9 +65,11 @@ void ruhe(Szene &s, Wörter) {
 
 void bis(Szene &s, Wörter w) {
     const Vergleich v = liesVergleich(w.first(3));
-    const Zeit höchstens = w.size() > 3 ? liesDauer(w[3]) : LängstesBis;
+    Zeit grenze = s.fläche.Uhr + (w.size() > 3 ? liesDauer(w[3]) : LängstesBis);
     s.finde(v.Name);
-    s.beginne({.grenze = s.fläche.Uhr + höchstens,
+    // Die Uhr springt; den Zeitpunkt, auf den gewartet wird, darf sie nicht überspringen.
+    if (v.Name == "zeit") grenze = std::clamp(static_cast<Zeit>(alsZahl(v.erwartet)), s.fläche.Uhr, grenze);
+    s.beginne({.grenze = grenze,
                .erfüllt = [&s, v] { return v.gilt(s); },
                .gescheitert =
                    [&s, v] { s.prüfe(false, v.Name + " ist " + schreibe(s.finde(v.Name).lies()), v.Erwartung()); }});

@@ -49,6 +49,7 @@ Programmordner::Programmordner() : wurzel(neuerOrdner()) {
 
 Programmordner::~Programmordner() {
     std::error_code fehler;
+    fs::permissions(wurzel, fs::perms::owner_all, fs::perm_options::add, fehler);
     for (const auto &eintrag : fs::recursive_directory_iterator(wurzel, fehler))
         if (eintrag.is_directory(fehler) && !eintrag.is_symlink(fehler))
             fs::permissions(eintrag.path(), fs::perms::owner_all, fs::perm_options::add, fehler);

@@ -119,7 +119,7 @@ void Szene::beende(const char *fehler) {
     if (ende != std::string_view("keiner")) return;
     ende = fehler;
     gestartet = false;
-    if (zeitbefehl && !erfüllt()) zeitIstUm();
+    if (zeitbefehl) zeitIstUm();
 }
 
 Zugang Szene::finde(const std::string &Name) {

@@ -70,9 +70,9 @@ bool Szene::erfüllt() {
 void Szene::zeitIstUm() {
     const int außen = zeile;
     zeile = zeitbefehl->zeile;
-    const auto gescheitert = std::move(zeitbefehl->gescheitert);
+    const Zeitbefehl alt = std::move(*zeitbefehl);
     zeitbefehl.reset();
-    if (gescheitert) gescheitert();
+    if (alt.gescheitert && !alt.erfüllt()) alt.gescheitert();
     zeile = außen;
 }
 
