@@ -19,7 +19,8 @@ int main() {
         for (const Baukosten &b : Baukostentafel)
             if (b.Hotel == h.Kürzel) {
                 const auto stand = static_cast<std::size_t>(b.Stand);
-                std::printf("%s{\"stand\": %zu, \"kosten\": %d, \"satz\": %d}", komma, stand, b.Kosten, miete.Satz[stand]);
+                std::printf("%s{\"stand\": %zu, \"kosten\": %d, \"satz\": %d}", komma, stand, b.Kosten,
+                            miete.Satz[stand]);
                 komma = ", ";
             }
         std::printf("], \"eingänge\": [");
