@@ -21,6 +21,7 @@ std::string ohneAnfang(const std::string &text, int n) { return Rechts(text, Zei
 Sprech::Sprech(Programm &programm) : Form(programm, Formname, {-1200, -2076, 5568, 3984}, "Sprechblas"), p(programm) {
     BackColor = Farbe{0x904000};
     Label1.FontName = "Comic Sans MS";
+    Label1.FontSize = 7.5; // sechs Zeilen
     Label1.ForeColor = Farbe{0xFFFFFF};
     for (Line *linie : {&Line1, &Line2, &Line3, &Line4, &Line5})
         linie->BorderColor = Blasenrand;

@@ -6,7 +6,7 @@ namespace velmo {
 
 namespace {
 
-constexpr const char *Danktext = "\n\n\nVELMO\n\n\n"
+constexpr const char *Danktext = "\n\nVELMO\n\n"
                                  "Regeln und Programm\n"
                                  "die Inselwerkstatt\n\n"
                                  "Insel, Hotels und Gäste\n"

@@ -36,6 +36,10 @@ void schiebe(Form &form, double schritt, double bis) {
 
 Menu2::Menu2(Programm &programm) : Form(programm, Formname, {420, 1056, 8868, 4716}), p(programm) {
     BackColor = Farbe{0xFFFFFF};
+    for (Shape *rahmen : {&Shape1, &Shape2})
+        rahmen->BorderColor = Farbe{0x9C7440};
+    for (Schriftelement *feld : std::initializer_list<Schriftelement *>{&Text1, &Text2, &List1, &List2, &List3})
+        feld->FontSize = 10;
     MouseMove = [this](double, double) { umrande(nullptr); };
     Picture1.MouseMove = MouseMove;
     klickl.MouseMove = [this](double, double) { umrande(&klickl); };

@@ -16,7 +16,7 @@ class Menu2 : public Form {
     Label Label3{*this, "Label3", {3540, 2250, 960, 252}, "Autofarbe"};
     Label Label5{*this, "Label5", {3540, 2760, 960, 432}, "Anzahl der Gegner"};
     Label Label6{*this, "Label6", {3540, 3360, 960, 432}, "Schwierig- keit"};
-    Label Label4{*this, "Label4", {6960, 900, 1692, 408}, "Gespeicherte Charakter:"};
+    Label Label4{*this, "Label4", {6840, 1080, 1980, 240}, "Gespeicherte Charakter:"};
     Image Picture1{*this, "Picture1", {1596, 1320, 1188, 1176}};
     Image klickl{*this, "klickl", {1080, 1320, 540, 1212}};
     Image klickr{*this, "klickr", {2760, 1320, 540, 1212}};

@@ -9,7 +9,7 @@ namespace velmo {
 frmHilfe::frmHilfe(Programm &programm) : Form(programm, Formname, {0, 0, 9612, 7248}), p(programm) {
     BackColor = Farbe{0xE0E0E0};
     Label1.FontName = "Bookman Old Style";
-    Label1.FontSize = 20;
+    Label1.FontSize = 24;
     std::string text;
     for (const char *zeile : Hilfezeilen)
         text += (text.empty() ? "" : "\n") + std::string(zeile);

@@ -26,7 +26,9 @@ std::string Versionszeile() {
     for (Schriftelement *s :
          std::initializer_list<Schriftelement *>{&Titelzeile, &Wir, &Versionn, &Label1, &Command1, &OK})
         s->FontName = "Tahoma";
-    Titelzeile.FontSize = 24;
+    shpRect3.BorderColor = Farbe{0xB08040};
+    Titelzeile.FontSize = 28;
+    Titelzeile.FontBold = true;
     Macherzeile.FontName = "Arial";
     Macherzeile.FontSize = 12;
     Command1.Click = Wir.Click = [this] { p.zeige("Dank"); };
