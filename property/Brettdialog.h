@@ -5,6 +5,9 @@
 
 namespace velmo {
 
+/// Die Farbe von Rahmen und Linien auf dem Papier der Dialoge.
+inline constexpr Farbe Holz{0x8A663E};
+
 class Brettdialog : public Form {
   public:
     void Form_Load() override;

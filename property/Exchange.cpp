@@ -4,6 +4,7 @@
 #include "media/Bilder.h"
 #include "model/Geld.h"
 #include "platform/FormAnpassen.h"
+#include "property/Brettdialog.h"
 
 #include <algorithm>
 
@@ -30,6 +31,7 @@ Exchange::Exchange(Programm &programm) : Form(programm, Formname, {VonRechts, Vo
     for (VisualControl *fläche : {static_cast<VisualControl *>(&Label1), static_cast<VisualControl *>(&Label2),
                                   static_cast<VisualControl *>(&Label3), static_cast<VisualControl *>(&Image1)})
         fläche->MouseDown = MouseDown;
+    Line1.BorderColor = Holz;
     Command1.Click = [this] { Command1_Click(); };
     Command2.Click = [this] { p.entlade(Formname); };
     Entwurfsbilder(p, *this);

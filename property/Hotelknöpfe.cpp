@@ -1,5 +1,7 @@
 #include "property/Hotelknöpfe.h"
 
+#include "property/Brettdialog.h"
+
 namespace velmo {
 
 namespace {
@@ -23,6 +25,7 @@ constexpr Knopfzeile Knopftafel[] = {
 
 Hotelknopf::Hotelknopf(Form &form, Hotelkürzel k, const char *rahmen, const char *knopf, Rechteck r)
     : Hotel(k), Rahmen(form, rahmen, r), Knopf(form, knopf, r, hotel(k).Name) {
+    Rahmen.BorderColor = Holz;
     Knopf.Visible = false;
 }
 

@@ -27,6 +27,8 @@ eingang::eingang(Programm &programm) : Brettdialog(programm, Formname, 6360, 390
         label->FontSize = 14;
         label->Alignment = static_cast<double>(Ausrichtung::Mitte);
     }
+    for (Line *linie : {&Line1, &Line2, &Line3, &Line4})
+        linie->BorderColor = Holz;
     Knöpfe.beiKlick([this](Hotelkürzel k) { wähle(k); });
     SSCommand9.Click = [this] { p.entlade(Formname); };
     Entwurfsbilder(p, *this);
