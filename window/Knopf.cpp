@@ -99,6 +99,11 @@ void Knopf::maleInhalt(QPainter &p, const QRect &r) const {
         const int ab = std::max(1, static_cast<int>(maß.strich(0.75)));
         maleText(p, für.translated(0, ab), wie, t, f, QColor(255, 255, 255, 200));
     }
+    // Helle Schrift braucht auf dem hellen Messing einen Saum.
+    if (isEnabled() && tinte.lightness() > 200)
+        for (const QPoint &um : {QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1), QPoint(1, 1)})
+            maleText(p, für.translated(um * std::max(1, static_cast<int>(maß.strich(1)))), wie, t, f,
+                     farbton::Holzschatten);
     maleText(p, für, wie, t, f, isEnabled() ? tinte : farbton::Blass);
 }
 
