@@ -100,6 +100,8 @@ class Label : public Schriftelement {
     using Schriftelement::Schriftelement;
     Eigenschaft<std::string> &Caption = beschriftung;
     Eigenschaft<double> Alignment{*this, 0}; // Ausrichtung
+    /// Der Text steht in halber Höhe statt oben.
+    Eigenschaft<bool> Mittig{*this, false};
     /// Ohne Hintergrundfarbe scheint durch, was dahinter liegt.
     Eigenschaft<bool> Deckend{*this, false};
     Eigenschaft<Farbe> BackColor{*this, Farbe{0xFFFFFF}};

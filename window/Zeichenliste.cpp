@@ -18,6 +18,7 @@ Stück stück(const Label &l) {
     s.text = l.Caption;
     s.ausrichtung = static_cast<int>(l.Alignment);
     s.deckend = l.Deckend;
+    s.mittig = l.Mittig;
     s.grund = l.BackColor;
     return s;
 }

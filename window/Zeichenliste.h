@@ -21,7 +21,7 @@ struct Stück {
 
     std::string text, schriftart, hinweis;
     double schriftgrad = 8.25;
-    bool fett = false, deckend = false, erhaben = false;
+    bool fett = false, deckend = false, erhaben = false, mittig = false;
     Farbe farbe, grund;
     int ausrichtung = 0;
 
