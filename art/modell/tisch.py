@@ -71,8 +71,6 @@ def tisch():
     for l, o, b, h in (NOTEN, WÜRFEL):
         quader(l + b / 2, -o - h / 2, -1, b, h, 1.3, filz, 0)
         rechteckring(l, o, b, h, 0, 3.4, -1, 4.2, leiste, 1.3)
-    for y in (503, 594):
-        quader(716, -y, -1, 131, 1.2, 1.3, leiste, .3)
     sonne = bpy.data.objects["Sonne"]
     sonne.rotation_euler = Vector((-.42, .40, .82)).to_track_quat("Z", "Y").to_euler()
     bpy.context.scene.camera.rotation_euler = (0, 0, 0)
