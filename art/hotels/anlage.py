@@ -45,9 +45,9 @@ def kreis(x, y, r, quer=1.0, teile=32):
     return [(x + r * math.cos(2 * math.pi * i / teile), y + r * quer * math.sin(2 * math.pi * i / teile)) for i in range(teile)]
 
 
-def boden(b, t, stoff_, y=0.6, x=0.0, ecke=5.0, dick=0.7, z=0.0):
+def boden(b, t, stoff_, y=0.6, x=0.0, ecke=5.0, dick=0.25):
     """Eigenes Stück Land unter einer Stufe."""
-    return prisma(umriss(b, t, ecke, x, y), z, dick, stoff_, .3)
+    return prisma(umriss(b, t, ecke, x, y), 0, dick, stoff_, .1)
 
 
 def erde(farbe):

@@ -1,7 +1,7 @@
 """Boomerang: Lodge im roten Land, Wellblech und Veranda, Windrad, Felsen, der Bumerang auf dem Dach."""
 from anlage import *       # noqa: F403
 
-ERDE, FELS, BLECH, WAND = "#c9643a", "#b5492a", "#4fa093", "#f6e3b4"
+ERDE, FELS, BLECH, WAND = "#b4603a", "#b5492a", "#4fa093", "#f6e3b4"
 
 
 def bumerang(x, y, z, weit, dick=2.2):
@@ -61,7 +61,7 @@ def tank(x, y, r, h):
 
 def boom():
     erdton = erde(ERDE)
-    boden(103, 112, erdton, ecke=16, dick=.5)
+    boden(103, 112, erdton, ecke=16)
     fels(-4, 112, 92, 44, 40)
     fels(34, 103, 34, 26, 19, "#c1552f")
     windrad(-38, 84, 0, 56, 12.5)
@@ -81,7 +81,7 @@ def boom():
     for i in range(8):
         quader(-42 + 12 * i, 15.5, 4, 1.7, 1.7, 13.5, "weiss", .3)
     for a, e in ((-42, -12), (12, 42)):
-        zaun([(a, 15.5), (e, 15.5)], "weiss", 4.6, 3.0, 4, latten=2, dick=.6)
+        zaun([(a, 15.5), (e, 15.5)], "weiss", 4.6, 3.0, 4, latten=2)
     # Obergeschoss mit Giebel
     haus(0, 48, 22, 46, 26, 19, putz("#e8b968"), ((10.5, 9.5, 5.2, 6.2, dict(rahmen="weiss")),))
     walmdach(0, 48, 41, 46, 26, 13, wellblech("#5fb3a4", 2.6), über=4, first=22, dick=1.4)

@@ -146,13 +146,13 @@ def letn2():
 def letn3():
     """Rathausartiger Palast mit Uhrgiebel und zwei Hauben."""
     boden(47, 38, erde("#e2c894"), ecke=5)
-    oben = geschosse(0, 21, 0, 38, 20, (13, 12, 11.5, 11), 6.6)
+    oben = geschosse(0, 21, 0, 38, 20, (14, 13, 12.5, 12), 6.6)
     mansarde(0, 21, oben, 38, 20, 13, _dach(), 0, sims=SIMS)
     for s in (-1, 1):
-        o = geschosse(s * 16.2, 17, 0, 11.4, 17, (13, 12, 11.5, 11, 9), 9, fb=4)
+        o = geschosse(s * 16.2, 17, 0, 11.4, 17, (14, 13, 12.5, 12, 9), 9, fb=4)
         o = kuppelhaube(s * 16.2, 15.5, o, 11.4, 12, 13)
         spitze(s * 16.2, 15.5, o - .4, 1.3, metall("gold"))
-    o = geschosse(0, 16.5, 0, 14, 18, (13, 12, 11.5, 11), 6, fb=3.6)
+    o = geschosse(0, 16.5, 0, 14, 18, (14, 13, 12.5, 12), 6, fb=3.6)
     with bei(0, 7.2, o - .4):
         quader(0, 4, 0, 14, 8, 2, SIMS, .4)
         quader(0, 4, 2, 10, 6, 9, _wand(), .4)

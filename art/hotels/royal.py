@@ -41,7 +41,7 @@ def banner(x, z, b=3.4, h=12, farben=(ROT, "gold")):
 
 
 def royh():
-    boden(45, 40, erde("#e2c795"), ecke=5, dick=.6)
+    boden(45, 40, erde("#e2c795"), ecke=5)
     haus(0, 25, 0, 34, 18, 26, _stein(), ((15, 8, 3.6, 6, BOGEN),))
     brustwehr(0, 25, 27, 34, 18, 2.2)
     haus(0, 23, 26, 17, 12, 6.5, _stein(), ((1.4, 5.5, 2.8, 4.4, BOGEN),))
@@ -65,7 +65,7 @@ def royh():
 
 def royn1():
     """Hoher Bergfried mit Eckwarten."""
-    boden(50, 44, erde("#e2c795"), ecke=6, dick=.6)
+    boden(50, 44, erde("#e2c795"), ecke=6)
     haus(0, 22, 0, 40, 26, 38, _stein(), ((6, 9, 4, 7, BOGEN), (22, 9, 4, 7, BOGEN)))
     brustwehr(0, 22, 39, 40, 26, 2.6)
     haus(0, 24, 38, 25, 18, 34, _stein(), ((8, 8, 4, 7, BOGEN), (21, 8, 4, 7, BOGEN)))
@@ -86,7 +86,7 @@ def royn1():
 
 def royn2():
     """Großer Rundturm mit Altan und Seitenflügel."""
-    boden(48, 44, erde("#e2c795"), ecke=6, dick=.6)
+    boden(48, 44, erde("#e2c795"), ecke=6)
     haus(0, 22, 0, 42, 24, 30, _stein(), ((5, 10, 4.4, 7, BOGEN), (17.5, 10, 4.4, 7, BOGEN)))
     brustwehr(0, 22, 31, 42, 24, 2.4)
     for s in (-1, 1):
@@ -110,7 +110,7 @@ def royn2():
 
 def royn3():
     """Uhrturm."""
-    boden(46, 40, erde("#e2c795"), ecke=6, dick=.6)
+    boden(46, 40, erde("#e2c795"), ecke=6)
     haus(0, 22, 0, 38, 24, 26, _stein(), ((4.5, 9, 4, 6.4, BOGEN), (15.5, 9, 4, 6, BOGEN)))
     brustwehr(0, 22, 27, 38, 24, 2.4)
     satteldach(0, 23, 27.5, 33, 16, 8, _dach(), über=.5, giebel=_stein())

@@ -1,7 +1,7 @@
 """Waikiki: Strandhütten und Pavillons mit geschwungenem Palmdach, Palmen, Bretter, Lagune."""
 from anlage import *       # noqa: F403
 
-SAND, STROH, ROT = "#f0d59a", "#d6a850", "#d8452f"
+SAND, STROH, ROT = "#e4cd9e", "#d6a850", "#d8452f"
 
 
 def _sand():
@@ -58,7 +58,7 @@ def steg(x, y, b, t, h=2.4):
 
 
 def strand(b=46, t=32):
-    boden(b, t, _sand(), ecke=9, dick=.8)
+    boden(b, t, _sand(), ecke=9)
 
 
 def girlande(x0, x1, y, z, hang=1.6, zahl=7):
@@ -185,7 +185,7 @@ def kikin4():
 
 def kikip():
     """Lagune mit Wasserfall, Rutsche, Strandbar."""
-    boden(73, 35, _sand(), ecke=10, dick=.8)
+    boden(73, 35, _sand(), ecke=10)
     becken(glätten([(-27, 9), (-12, 5), (2, 8), (16, 5), (25, 11), (21, 20), (7, 22), (-4, 19), (-14, 23), (-25, 19)], 6), .5, stoff("#fbe9bd", rau=.9), 2.2, "#22c1cf", 1.1)
     for x, y, r, h in ((-2, 27, 6, 8), (4, 27.5, 5, 10), (9, 27, 4.5, 7), (-7, 28, 4, 5), (14, 27, 3, 3.4)):
         kugel(x, y, h * .3, r, stein("#8d7358"), (1, .8, h / r * .72), fein=3)
