@@ -15,15 +15,17 @@ import re
 import subprocess
 
 import numpy as np
-from PIL import Image, ImageChops, ImageDraw, ImageFilter
+from PIL import Image, ImageChops, ImageFilter
 
 WURZEL = os.path.normpath(os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", ".."))
 BILDER = os.path.join(WURZEL, "bilder")
-B, H = 903, 573                  # Animation1 misst 3612 x 2292 Twips
+B, H = 903, 573                  # gerechnet wird in Dritteln eines Entwurfspunkts (3612 x 2292 Twips)
+AUSGABE = (752, 477)             # Bildpunkte des Films
 TAKT, DAUER = 25, 9.4            # Bilder je s, s
 NAME_DA, WAGEN_AB, HUPE, BREMSE, STEHT, SCHLUSS = 5.0, 6.75, (7.5, 7.81), 8.2, 8.56, 8.75
+BELICHTUNGEN, VERSCHLUSS = 4, .6  # je Bild; Anteil der Bildzeit
 FEIN = 4                         # Bildpunkte je Entwurfspunkt der Bilder
-GÜTE, GÜTE_MIN, BYTES_JE_BILD = 82, 50, 42000
+GÜTE, GÜTE_MIN, BYTES_JE_BILD = 82, 42, 31500
 
 
 # ---------------------------------------------------------------- Hilfen
@@ -109,16 +111,20 @@ class Insel:
         bild = bild.convert("RGB")
         self.fein = [(m, bild if m == 1 else bild.resize((round(self.breite * m), round(self.höhe * m)), Image.Resampling.LANCZOS))
                      for m in (1, .72, .52, .38)]
-        self.meer = self._meer(bild)
         felder = tafel("model/Feldtabelle.h", r"\{ *(\d+), *(\d+)\}, *\{ *\d+, *\d+\}")
         self.felder = [((int(x) + 240) * FEIN / 12, (int(y) + 180) * FEIN / 12) for x, y in felder]
+        self.meer = self._meer(bild)
 
-    @staticmethod
-    def _meer(bild):
-        a = np.asarray(bild.resize((bild.width // 8, bild.height // 8))).astype(int)
+    def _meer(self, bild):
+        """Orte auf dem Wasser: blau, weder Haus noch Feld."""
+        grob = 8
+        größe = (bild.width // grob, bild.height // grob)
+        a = np.asarray(bild.resize(größe)).astype(int)
         ja = (a[..., 2] > a[..., 0] + 70) & (a[..., 2] > 130) & (a[..., 1] > 90)
+        ja &= np.asarray(self.häuser.resize(größe)) == 0
         y, x = np.nonzero(ja)
-        return [(float(px) * 8 + 4, float(py) * 8 + 4) for px, py in zip(x, y)]
+        orte = [((px + .5) * grob, (py + .5) * grob) for px, py in zip(x, y)]
+        return [o for o in orte if all(math.dist(o, f) > 130 for f in self.felder)]
 
     def zeichne(self, kamera):
         mass, bild = next(((m, b) for m, b in reversed(self.fein) if m >= .9 * B / kamera.weite), self.fein[0])
@@ -155,9 +161,9 @@ class Kamera:
 
 
 #       s    x     y    Weite Drehung Neigung
-FLUG = [(-.4, 720, 560, 1250, -.02, .10),
-        (.0, 720, 565, 1240, -.03, .12),
-        (1.3, 850, 600, 1010, -.035, .24),
+FLUG = [(-.4, 690, 560, 1300, -.02, .08),
+        (.0, 700, 565, 1290, -.02, .10),
+        (1.3, 840, 600, 1030, -.035, .24),
         (2.5, 1420, 640, 1000, .01, .26),
         (3.4, 2010, 730, 1060, .035, .24),
         (4.1, 1980, 800, 1480, .02, .15),
@@ -175,14 +181,14 @@ def kamera(t):
     return Kamera(x, y, min(weite, 2600), drehung, neigung, stoß)
 
 
-# ---------------------------------------------------------------- Wolken, Glitzern, Möwen, kleine Wagen
+# ---------------------------------------------------------------- Wolken, Glitzern, kleine Wagen
 
 #          x     y    Höhe  Maß Bild   (Brettpunkte)
-WOLKEN = [(250, 900, 420, 1.0, 0), (1250, 250, 460, .9, 1), (1750, 1050, 400, .8, 2), (2500, 330, 440, 1.1, 0),
-          (2800, 1250, 420, 1.0, 1), (1150, 1350, 380, .8, 2), (420, 180, 430, .8, 1), (60, 1500, 420, 1.1, 2)]
+WOLKEN = [(200, 980, 420, 1.0, 0), (1230, 330, 420, .7, 1), (2500, 330, 440, 1.0, 0), (2800, 1250, 420, 1.0, 1),
+          (330, 180, 430, .8, 2), (60, 1500, 420, 1.1, 2)]
 # Durch diese stößt die Kamera zu Beginn: Ort im Bild von der Mitte, Maß
-SCHLEIER = [(-.34, -.26, 1.3), (.36, -.30, 1.5), (-.42, .22, 1.5), (.34, .30, 1.4), (.02, -.42, 1.2), (-.05, .42, 1.3),
-            (.05, .03, .9)]
+SCHLEIER = [(-.44, -.32, 1.1), (.42, -.34, 1.2), (-.46, .30, 1.2), (.44, .36, 1.2), (.02, -.46, .9), (-.08, .50, 1.0),
+            (.16, .05, .55)]
 
 
 def wolken(bild, t, k, teile):
@@ -201,10 +207,10 @@ def wolken(bild, t, k, teile):
 def schleier(bild, t, teile):
     if t > 1.6:
         return
-    weit = math.exp(1.5 * t)
+    weit = math.exp(1.3 * t + 1.1 * t * t)
     for i, (x, y, mass) in enumerate(SCHLEIER):
         setze(bild, teile.wolken[i % 3], B * (.5 + x * weit), H * (.5 + y * weit), mass * weit, drehung=.1 * (i - 3),
-              deckung=1 - sanft(t, .35 + .12 * i, .95 + .1 * i))
+              deckung=1 - sanft(t, .35, 1.15))
 
 
 def glitzern(bild, t, k, insel, stern):
@@ -216,30 +222,6 @@ def glitzern(bild, t, k, insel, stern):
         u, v, s = k.punkt(x + 3 * t, y)
         if hell and -9 < u < B + 9 and -9 < v < H + 9:
             setze(bild, stern, u, v, (.10 + .16 * stark) * (.5 + .5 * s), deckung=hell * .85)
-
-
-def möwe(flügel):
-    """Eine Möwe von oben, die Flügel gehoben um -1 bis 1."""
-    bild = Image.new("RGBA", (240, 120))
-    d = ImageDraw.Draw(bild)
-    for s in (-1, 1):
-        knick, spitze = (120 + s * 48, 60 - 18 - 8 * flügel), (120 + s * (104 - 10 * abs(flügel)), 60 - 4 - 34 * flügel)
-        d.polygon([(120, 50), knick, spitze, (knick[0] - s * 4, knick[1] + 17), (120, 72)], fill=(250, 249, 244, 255))
-        d.polygon([spitze, (spitze[0] - s * 20, spitze[1] + 1), (spitze[0] - s * 17, spitze[1] + 9)], fill=(70, 74, 84, 255))
-    d.ellipse((111, 38, 129, 92), fill=(255, 255, 252, 255))
-    d.polygon([(116, 40), (124, 40), (120, 30)], fill=(240, 170, 40, 255))
-    return bild
-
-
-def möwen(bild, t, k, teile):
-    for start, dx, dy, mass in ((1.0, 0, 0, .30), (1.12, -70, 46, .26), (1.2, 66, 60, .24)):
-        f = t - start
-        if not 0 <= f < 3.4:
-            continue
-        u, v = B * (-.08 + .40 * f) + dx, H * (.80 - .17 * f) + dy + 8 * math.sin(f * 2)
-        nr = int((f * 2.2 % 1 if f % 1.8 < 1 else .25) * len(teile.möwen))
-        setze(bild, teile.möwenschatten, u + 46, v + 70, mass * .9, drehung=1.2, deckung=.3)
-        setze(bild, teile.möwen[nr], u, v, mass, drehung=1.2)
 
 
 WAGENREIHE = ((125, 14.2, 2.1), (129, 19.0, 1.7), (133, 24.3, 1.9), (137, 4.5, 1.8))   # Bild, Feld bei 0 s, Felder je s
@@ -266,7 +248,7 @@ def kleine_wagen(bild, t, k, insel, bilder):
 
 BUCHSTABEN = "VELMO"
 MITTEN = (149, 297, 430, 592, 772)           # im Bild, Bildpunkte
-FUSS, GRÖSSE = 372, .66                      # Bildpunkte; Maß der Teile
+FUSS, GRÖSSE = 346, .66                      # Bildpunkte; Maß der Teile
 WOHIN = (45 / 130, 78 / 90)                  # Fuß eines Buchstabens in seinem Teil
 
 
@@ -336,7 +318,7 @@ def wagenort(t):
 def wagen(bild, t, teile):
     if t < WAGEN_AB - .1:
         return
-    x, y, mass = wagenort(t), 496.0, .80
+    x, y, mass = wagenort(t), 474.0, .78
     grad = 90 - 40 * sanft(t, BREMSE - .25, STEHT + .02)
     unten = max(g for g in teile.wagen if g <= grad)
     y += 12 * sanft(t, BREMSE - .25, STEHT)
@@ -383,8 +365,6 @@ class Teile:
         self.buchstaben = {z + s: teil(z + s) for z in BUCHSTABEN for s in ("", "_s")}
         winkel = sorted(int(d[5:7]) for d in os.listdir(ordner) if re.fullmatch(r"wagen\d\d\.png", d))
         self.wagen = {g: (teil("wagen%02d" % g), teil("wagen%02d_s" % g)) for g in winkel}
-        self.möwen = [möwe(math.sin(2 * math.pi * i / 12)) for i in range(12)]
-        self.möwenschatten = schwarz(self.möwen[0], 6)
         self.stern = stern()
         self.kleine = {n: lade(BILDER, "auto", "%d.png" % n) for n in range(125, 141)}
 
@@ -404,7 +384,7 @@ def rahmen():
     x, y = np.meshgrid(np.linspace(-1, 1, B), np.linspace(-1, 1, H))
     a = np.zeros((H, B, 4), np.uint8)
     a[..., :3] = (6, 22, 46)
-    a[..., 3] = np.clip((np.hypot(x * .9, y) - .62) * 120, 0, 90).astype(np.uint8)
+    a[..., 3] = np.clip((np.hypot(x * .9, y) - .62) * 100, 0, 70).astype(np.uint8)
     return Image.fromarray(a, "RGBA")
 
 
@@ -412,24 +392,26 @@ def einzelbild(t, insel, teile, rand):
     k = kamera(t)
     k.prüfe(insel)
     bild = insel.zeichne(k)
+    for i in range(1, BELICHTUNGEN):                   # im Flug verwischt, was sich bewegt
+        spät = kamera(t + VERSCHLUSS * i / BELICHTUNGEN / TAKT)
+        bild = Image.blend(bild, insel.zeichne(spät), 1 / (i + 1))
     kleine_wagen(bild, t, k, insel, teile.kleine)
     glitzern(bild, t, k, insel, teile.stern)
     wolken(bild, t, k, teile)
-    möwen(bild, t, k, teile)
     schleier(bild, t, teile)
     ruhe = sanft(t, NAME_DA - .25, NAME_DA + .35)      # der Name steht vor unscharfem Grund
     if ruhe:
-        bild = bild.filter(ImageFilter.GaussianBlur(2.4 * ruhe))
-        bild.alpha_composite(Image.new("RGBA", (B, H), (10, 34, 62, int(46 * ruhe))))
+        bild = bild.filter(ImageFilter.GaussianBlur(2.1 * ruhe))
+        bild.alpha_composite(Image.new("RGBA", (B, H), (10, 34, 62, int(20 * ruhe))))
     setze(bild, rand, B / 2, H / 2, deckung=.5 + .5 * ruhe)
     name(bild, t, teile)
     wagen(bild, t, teile)
-    return bild.convert("RGB")
+    return bild.convert("RGB").resize(AUSGABE, Image.Resampling.LANCZOS)
 
 
 def jpeg(bild):
     """So gut, wie es die Bytes je Bild erlauben."""
-    for güte in range(GÜTE, GÜTE_MIN - 1, -4):
+    for güte in range(GÜTE, GÜTE_MIN - 1, -3):
         aus = io.BytesIO()
         bild.save(aus, "JPEG", quality=güte, subsampling=2, optimize=True)
         if aus.tell() <= BYTES_JE_BILD:
