@@ -35,6 +35,9 @@ int main() {
     prüfung.gilt("kein Takt", !istFilm(probefilm({"eins"}, 1, 0, 0)));
     prüfung.gilt("zu langsam", !istFilm(probefilm({"eins"}, 11, 1)));
     prüfung.gilt("eine Wellendatei", !istFilm(abschnitt("RIFF", "WAVE" + film.substr(12))));
+    std::string ragt = film;
+    ragt.replace(film.find("00dc") + 4, 4, wort(1000));
+    prüfung.gilt("ein Bild ragt hinaus", !istFilm(ragt));
     bool jederSchnittFällt = true;
     for (std::size_t länge = 0; länge < film.size(); ++länge)
         jederSchnittFällt &= !istFilm(film.substr(0, länge));
