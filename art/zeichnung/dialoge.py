@@ -32,7 +32,7 @@ def papier(x, y, b, h, r=16, fuellung="url(#papier)", zierlinie=True):
          f'<rect x="{x - 5}" y="{y - 5}" width="{b + 11}" height="{h + 11}" rx="{r + 5}" fill="none" stroke="#ffdca0" stroke-width="2" opacity=".35"/>'
          f'<rect x="{x}" y="{y}" width="{b}" height="{h}" rx="{r}" fill="{fuellung}"/>'
          f'<g opacity=".20"><rect x="{x}" y="{y}" width="{b}" height="{h}" rx="{r}" filter="url(#faser)"/></g>'
-         f'<g opacity=".30"><rect x="{x}" y="{y}" width="{b}" height="{h}" rx="{r}" filter="url(#korn)"/></g>'
+         f'<g opacity=".20"><rect x="{x}" y="{y}" width="{b}" height="{h}" rx="{r}" filter="url(#korn)"/></g>'
          f'<rect x="{x}" y="{y}" width="{b}" height="{h}" rx="{r}" fill="url(#licht)" opacity=".5"/>'
          f'<path d="M{x} {y + h}V{y + r}Q{x} {y} {x + r} {y}H{x + b}" fill="none" stroke="#3a1e08" stroke-width="9" opacity=".22"/>')
     if zierlinie:
@@ -215,7 +215,7 @@ def karten():
     """Spieltisch: Nussbaum mit grünem Filz, auf den die Karte fällt."""
     b, h = 3072, 2180
     return svg(b, h, holz(b, h, "url(#nuss)") + f"""<rect x="84" y="84" width="{b - 168}" height="{h - 168}" rx="70" fill="#1c0c02" opacity=".8"/>
-<rect x="92" y="92" width="{b - 184}" height="{h - 184}" rx="62" fill="url(#filz)"/><g opacity=".8"><rect x="92" y="92" width="{b - 184}" height="{h - 184}" rx="62" filter="url(#korn)"/></g>
+<rect x="92" y="92" width="{b - 184}" height="{h - 184}" rx="62" fill="url(#filz)"/><g opacity=".35"><rect x="92" y="92" width="{b - 184}" height="{h - 184}" rx="62" filter="url(#korn)"/></g>
 <g opacity=".10"><rect x="92" y="92" width="{b - 184}" height="{h - 184}" rx="62" filter="url(#faser)"/></g>
 <rect x="96" y="96" width="{b - 190}" height="{h - 190}" rx="60" fill="none" stroke="#03140c" stroke-width="26" opacity=".35"/>
 <rect x="84" y="84" width="{b - 168}" height="{h - 168}" rx="70" fill="none" stroke="url(#gold)" stroke-width="9"/>
@@ -267,20 +267,6 @@ def dank():
                kugel("mond", [(0, "#fffbe8"), (.7, "#f6dc9a"), (1, "#d9b060")], .4, .36, .7) + verlauf("nacht", [(0, "#05060c"), (.6, "#0a0f20"), (1, "#1c1a38")]) + verlauf("meer", [(0, "#141a34"), (1, "#04050a")]))
 
 
-def tisch():
-    """Der Tisch, auf dem das Brett liegt: helles Holz, Papier unter den Texten, Filz für Würfel und Scheine."""
-    b, h = 3200, 2400
-    def filz(x, y, w, k, r):
-        return (f'<rect x="{x}" y="{y}" width="{w}" height="{k}" rx="{r}" fill="#1c0c02" opacity=".7"/><rect x="{x + 5}" y="{y + 5}" width="{w - 8}" height="{k - 8}" rx="{r - 4}" fill="url(#filz)"/>'
-                f'<g opacity=".7"><rect x="{x + 5}" y="{y + 5}" width="{w - 8}" height="{k - 8}" rx="{r - 4}" filter="url(#korn)"/></g><rect x="{x + 8}" y="{y + 8}" width="{w - 14}" height="{k - 14}" rx="{r - 6}" fill="none" stroke="#03140c" stroke-width="10" opacity=".3"/>'
-                f'<rect x="{x}" y="{y}" width="{w + 2}" height="{k + 2}" rx="{r}" fill="none" stroke="#ffe3b0" stroke-width="2.5" opacity=".5"/>')
-    blatt = papier(22, 22, 1052, 236, 14, zierlinie=False) + papier(2612, 22, 566, 236, 14, zierlinie=False)
-    brett = '<rect x="28" y="268" width="2988" height="1732" rx="10" fill="#1c0c02" opacity=".85"/><rect x="26" y="266" width="2993" height="1737" rx="12" fill="none" stroke="#ffe3b0" stroke-width="3" opacity=".5"/>'
-    return svg(b, h, f"""<rect width="{b}" height="{h}" fill="url(#eiche)"/><g opacity=".26"><rect width="{b}" height="{h}" filter="url(#maserung)"/></g><g opacity=".22"><rect width="{b}" height="{h}" filter="url(#maserungfein)"/></g>
-<rect width="{b}" height="{h}" fill="url(#licht)"/>{blatt}{brett}{filz(1698, 22, 430, 236, 26)}{filz(452, 2012, 2126, 420, 30)}""",
-               grunddefs() + verlauf("eiche", [(0, "#e3bd85"), (.5, "#cf9f64"), (1, "#b27f48")], 0, 0, .3, 1) + kugel("filz", [(0, "#4f9a68"), (.55, "#2d7048"), (1, "#1a4a30")], .3, .2, .9))
-
-
 def hilfe():
     b, h = 1602, 1208          # halb so fein: das Textfeld deckt fast alles zu
     return svg(b, h, tafel(b, h, 30, zierlinie=False), grunddefs())
@@ -309,10 +295,6 @@ def knopf(zustand):
 SEE = kugel("see", [(0, "#bfe8f4"), (1, "#4fa4d0")], .4, .2, .9)
 
 
-def zeichen():
-    return svg(256, 256, plakette(), grunddefs() + SEE)
-
-
 def plakette():
     """Das Zeichen des Spiels: Palme am Strand auf Emaille."""
     return f"""<ellipse cx="132" cy="138" rx="112" ry="112" fill="#1c0c02" opacity=".5" filter="url(#weich)"/><g filter="url(#praegung)"><circle cx="128" cy="128" r="118" fill="{GOLD}"/></g>
@@ -331,8 +313,7 @@ ALLE = {
     "formen/karten/image1.png": lambda: scheibenknopf("links"), "formen/karten/image2.png": lambda: scheibenknopf("rechts"), "formen/karten/image3.png": lambda: scheibenknopf("zu", 296),
     "formen/menu2/menu2.jpg": menu2, "formen/menu2/klickl.png": lambda: pfeil(True), "formen/menu2/klickr.png": lambda: pfeil(False),
     "formen/hof/hof.jpg": hof, "formen/dank/dank.jpg": dank, "formen/frmhilfe/frmhilfe.jpg": hilfe,
-    "formen/form1/form1.jpg": tisch, "formen/knopf/ruhe.png": lambda: knopf("ruhe"), "formen/knopf/gedrueckt.png": lambda: knopf("gedrueckt"), "formen/knopf/gesperrt.png": lambda: knopf("gesperrt"),
-    "formen/velmo.png": zeichen,
+    "formen/knopf/ruhe.png": lambda: knopf("ruhe"), "formen/knopf/gedrueckt.png": lambda: knopf("gedrueckt"), "formen/knopf/gesperrt.png": lambda: knopf("gesperrt"),
 }
 
 if __name__ == "__main__":

@@ -143,20 +143,21 @@ def pokal(wahl):
 def siegerbühne(roh, ziel):
     """Hängt den goldenen Rahmen an Kordeln in das Bild und stellt die Namenstafel davor; zum Rand wird es schwarz wie die Form."""
     from dialoge import holz, papier, grunddefs, nagel
-    from stift import svg
+    from stift import svg, verlauf
     b, h = 2004, 1877
     x, y, w, k = 1600, 1040, 376, 400      # das Bild des Siegers
     kordel = "".join(f'<path d="M{x + v * w} {y - 22}V0" stroke="#5a3a10" stroke-width="11"/><path d="M{x + v * w} {y - 22}V0" stroke="#e9b744" stroke-width="8" stroke-dasharray="9 5"/>' for v in (.2, .8))
     rahmen_ = (f'<g filter="url(#schattengross)">{kordel}<rect x="{x - 24}" y="{y - 24}" width="{w + 48}" height="{k + 48}" rx="14" fill="#8c5e1c"/></g><g filter="url(#praegung)">'
                f'<path d="M{x - 24} {y - 24}H{x + w + 24}V{y + k + 24}H{x - 24}ZM{x} {y}V{y + k}H{x + w}V{y}Z" fill="url(#gold)" fill-rule="evenodd"/></g><rect x="{x}" y="{y}" width="{w}" height="{k}" fill="#1a1224"/>')
-    tafel = (f'<g filter="url(#schattengross)"><rect x="536" y="1618" width="892" height="168" rx="20" fill="#5c3419"/></g><g transform="translate(536 1618)"><clipPath id="t"><rect width="892" height="168" rx="20"/></clipPath>'
-             f'<g clip-path="url(#t)">{holz(892, 168)}</g>{papier(18, 16, 856, 136, 12, zierlinie=False)}</g>' + nagel(545 + 4, 1702, 6) + nagel(1419 - 4, 1702, 6))
+    tafel = (f'<g filter="url(#schattengross)"><rect x="536" y="1592" width="892" height="168" rx="20" fill="#5c3419"/></g><g transform="translate(536 1592)"><clipPath id="t"><rect width="892" height="168" rx="20"/></clipPath>'
+             f'<g clip-path="url(#t)">{holz(892, 168)}</g>{papier(18, 16, 856, 136, 12, zierlinie=False)}</g>' + nagel(546, 1676, 6) + nagel(1418, 1676, 6))
+    rand = "".join(f'<rect x="{x0}" y="{y0}" width="{w0}" height="{h0}" fill="url(#{n})"/>' for n, x0, y0, w0, h0 in (("vl", 0, 0, 200, h), ("vr", b - 200, 0, 200, h), ("vo", 0, 0, b, 160), ("vu", 0, h - 160, b, 160)))
     os.makedirs(ziel, exist_ok=True)
     quelle = os.path.join(os.path.dirname(roh), "pokal.svg")
     with open(quelle, "w", encoding="utf-8") as f:
         f.write(svg(b, h, f'''<image width="{b}" height="{h}" preserveAspectRatio="none" xlink:href="file://{roh}"/>
-<path d="M-400 -400H{b + 400}V{h + 400}H-400ZM60 260Q60 60 260 60H{b - 260}Q{b - 60} 60 {b - 60} 260V{h - 260}Q{b - 60} {h - 60} {b - 260} {h - 60}H260Q60 {h - 60} 60 {h - 260}Z" fill="#000" fill-rule="evenodd" filter="url(#dunst)"/>{rahmen_}{tafel}''',
-                    grunddefs() + '<filter id="dunst" x="-30%" y="-30%" width="160%" height="160%"><feGaussianBlur stdDeviation="55"/></filter>'))
+{rand}{rahmen_}{tafel}''',
+                    grunddefs() + "".join(verlauf(n, [(0, "#000"), (.35, "#000", .72), (1, "#000", 0)], *v) for n, v in (("vl", (0, 0, 1, 0)), ("vr", (1, 0, 0, 0)), ("vo", (0, 0, 0, 1)), ("vu", (0, 1, 0, 0))))))
     subprocess.run(["rsvg-convert", "--unlimited", "-o", quelle + ".png", quelle], check=True)
     subprocess.run(["convert", quelle + ".png", "-background", "black", "-flatten", "-strip", "-quality", "90", os.path.join(ziel, "picture1.jpg")], check=True)
 
