@@ -267,6 +267,12 @@ def dank():
                kugel("mond", [(0, "#fffbe8"), (.7, "#f6dc9a"), (1, "#d9b060")], .4, .36, .7) + verlauf("nacht", [(0, "#05060c"), (.6, "#0a0f20"), (1, "#1c1a38")]) + verlauf("meer", [(0, "#141a34"), (1, "#04050a")]))
 
 
+def ueber():
+    """Das Blatt mit den Angaben; das Zeichen des Spiels liegt blass darunter."""
+    b, h = 1632, 1524
+    return svg(b, h, tafel(b, h, 22, innen=f'<g opacity=".16" transform="translate(436 640) scale(3)">{plakette()}</g>'), grunddefs() + SEE)
+
+
 def hilfe():
     b, h = 1602, 1208          # halb so fein: das Textfeld deckt fast alles zu
     return svg(b, h, tafel(b, h, 30, zierlinie=False), grunddefs())
@@ -312,7 +318,7 @@ ALLE = {
     "formen/bezahlen/image3.jpg": bezahlen, "formen/karten/karten.jpg": karten,
     "formen/karten/image1.png": lambda: scheibenknopf("links"), "formen/karten/image2.png": lambda: scheibenknopf("rechts"), "formen/karten/image3.png": lambda: scheibenknopf("zu", 296),
     "formen/menu2/menu2.jpg": menu2, "formen/menu2/klickl.png": lambda: pfeil(True), "formen/menu2/klickr.png": lambda: pfeil(False),
-    "formen/hof/hof.jpg": hof, "formen/dank/dank.jpg": dank, "formen/frmhilfe/frmhilfe.jpg": hilfe,
+    "formen/hof/hof.jpg": hof, "formen/dank/dank.jpg": dank, "formen/frmhilfe/frmhilfe.jpg": hilfe, "formen/Überf/Überf.jpg": ueber,
     "formen/knopf/ruhe.png": lambda: knopf("ruhe"), "formen/knopf/gedrueckt.png": lambda: knopf("gedrueckt"), "formen/knopf/gesperrt.png": lambda: knopf("gesperrt"),
 }
 
