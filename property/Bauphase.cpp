@@ -8,7 +8,7 @@ namespace velmo {
 
 Bauphase::Bauphase(Programm &programm) : Brettdialog(programm, Formname, 5856, 3444) {
     Label1.MouseDown = zieht();
-    Label1.FontSize = 12;
+    Label1.FontSize = 11;
     Label1.Mittig = true;
     Knöpfe.beiKlick([this](Hotelkürzel k) { baue(k); });
     Command1.Click = [this] { p.entlade(Formname); };
