@@ -21,6 +21,8 @@ class Bildspeicher {
     void eile(bool an) { inEile = an; }
 
   private:
+    QImage gelesen(const std::string &Datei, const QSize &mindestens);
+
     struct Schlüssel {
         QString Datei;
         QSize größe;

@@ -54,9 +54,9 @@ int QtOberfläche::laufe(Programm &p, const Handler &beginn) {
                                 }});
     fenster = std::make_unique<Fenster>(*umgebung, [this] { schließe(); });
     fenster->show();
-    QTimer::singleShot(0, [&] {
+    QTimer::singleShot(0, fenster.get(), [&] {
         bearbeite(beginn);
-        QTimer::singleShot(0, [this] { töne.beginne(); }); // nach dem ersten Bild
+        QTimer::singleShot(0, fenster.get(), [this] { töne.beginne(); }); // nach dem ersten Bild
     });
     QApplication::exec();
     return endstand();
@@ -85,7 +85,7 @@ void QtOberfläche::bearbeite(const Handler &handler) {
     }
     --tiefe;
     if (ausnahme) {
-        if (tiefe == 0) QApplication::quit();
+        if (tiefe == 0) QApplication::exit();
         return;
     }
     fenster->folge();

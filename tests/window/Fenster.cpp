@@ -1,0 +1,194 @@
+// Was nur am Fenster zu sehen ist: Größe, Schleife, Schließen, Fehler. Läuft ohne Bildschirm und ohne Lautsprecher.
+#include "bench/Programmordner.h"
+#include "shell/Formtafel.h"
+#include "tests/Prüfung.h"
+#include "window/Gestaltung.h"
+#include "window/QtOberfläche.h"
+
+#include <QAbstractEventDispatcher>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QTimer>
+
+#include <algorithm>
+#include <functional>
+#include <vector>
+
+using namespace velmo;
+
+namespace {
+
+/// Ein Programm im Fenster und was nacheinander mit ihm geschieht; jeder Schritt wartet, bis er gelingt.
+class Lauf {
+  public:
+    using Schritt = std::function<bool()>; // falsch: noch nicht so weit
+
+    Programmordner ordner;
+    QtOberfläche oberfläche;
+    Programm p{oberfläche, Formtafel(), ordner.Pfad()};
+    std::vector<Schritt> schritte;
+
+    /// Läuft bis zum Ende des Programms; -1, wenn ein Schritt hängen blieb.
+    int laufe(const Handler &beginn) {
+        bool hängt = false;
+        int versuche = 0;
+        QTimer antrieb;
+        antrieb.callOnTimeout([&] {
+            if (!schritte.empty() && schritte.front()()) {
+                schritte.erase(schritte.begin());
+                versuche = 0;
+            } else if (++versuche > 600) {
+                hängt = true;
+                QCoreApplication::exit();
+            }
+        });
+        antrieb.start(10);
+        const int stand = oberfläche.laufe(p, beginn);
+        return hängt ? -1 : stand;
+    }
+};
+
+QWidget *fenster() {
+    const auto alle = QApplication::topLevelWidgets();
+    for (QWidget *w : alle)
+        if (w->windowTitle() == "Velmo" && !w->isModal()) return w;
+    return nullptr;
+}
+
+/// Ein Klick an den Bildpunkt des Entwurfs, wo das Fenster ihn zeigt.
+void klick(double x, double y) {
+    QWidget &w = *fenster();
+    const double strecke = std::min(w.width() / 800.0, w.height() / 600.0);
+    const QPointF ort((w.width() - 800 * strecke) / 2 + x * strecke, (w.height() - 600 * strecke) / 2 + y * strecke);
+    for (const auto art : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent e(art, ort, w.mapToGlobal(ort), Qt::LeftButton,
+                      art == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(&w, &e);
+    }
+}
+
+bool sichtbar(const Programm &p, const char *form) { return p.geladene(form) && p.geladene(form)->Visible; }
+
+void prüfeWegDurchsMenü(Prüfung &t) {
+    Lauf l;
+    l.schritte = {
+        [&] {
+            if (QWidget *kasten = QApplication::activeModalWidget()) kasten->close(); // ohne Film
+            return sichtbar(l.p, "Intro");
+        },
+        [] {
+            QKeyEvent taste(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a");
+            QApplication::sendEvent(fenster(), &taste);
+            return true;
+        },
+        [&] { return sichtbar(l.p, "Menu") && !l.p.geladene("Intro"); },
+        [&] {
+            klick(16 + 650, 137); // Ende
+            return true;
+        },
+    };
+    t.gleich("Taste im Film, dann Ende im Menü", l.laufe([&] { starte(l.p); }), 0);
+}
+
+void prüfeKlickBeiJederGröße(Prüfung &t) {
+    Lauf l;
+    int getroffen = 0;
+    for (const QSize größe : {QSize(800, 600), QSize(1600, 1200), QSize(1900, 700), QSize(500, 900)}) {
+        l.schritte.push_back([größe] {
+            fenster()->resize(größe);
+            return true;
+        });
+        l.schritte.push_back([&] {
+            auto &würfeln = dynamic_cast<VisualControl &>(*l.p.geladene("Form1")->control("WüButton"));
+            würfeln.Click = [&] { ++getroffen; };
+            klick((würfeln.Left + 10) / 12, (würfeln.Top + 10) / 12);
+            return true;
+        });
+    }
+    l.schritte.push_back([] { return fenster()->close() || true; });
+    t.gleich("geschlossen", l.laufe([&] { l.p.zeige("Form1"); }), 0);
+    t.gleich("der Knopf trifft bei jeder Größe", getroffen, 4);
+}
+
+void prüfeSchließenImWarten(Prüfung &t) {
+    Lauf l;
+    l.schritte = {[&] { return sichtbar(l.p, "Form1"); }, [] { return fenster()->close() || true; }};
+    t.gleich("Schließen mitten in einem Warten endet", l.laufe([&] {
+        l.p.zeige("Form1");
+        l.p.warteBis([] { return false; });
+    }),
+             0);
+}
+
+void prüfeLaufzeitfehler(Prüfung &t) {
+    Lauf l;
+    l.schritte = {[&] { // der Kasten kommt nach dem Ende der Schleife
+        QWidget *kasten = QApplication::activeModalWidget();
+        return kasten && kasten->close();
+    }};
+    t.gleich("ein Laufzeitfehler endet mit 1", l.laufe([&] {
+        l.p.zeige("Form1");
+        throw Laufzeitfehler(Fehlerart::Überlauf);
+    }),
+             1);
+}
+
+void prüfeRuhe(Prüfung &t) {
+    Lauf l;
+    int erwacht = 0;
+    auto *schleife = QAbstractEventDispatcher::instance();
+    QTimer::singleShot(700, [&] { // alles ist gezeichnet
+        const auto zähler = QObject::connect(schleife, &QAbstractEventDispatcher::awake, [&] { ++erwacht; });
+        QTimer::singleShot(600, [zähler] {
+            QObject::disconnect(zähler);
+            fenster()->close();
+        });
+    });
+    t.gleich("Ruhe endet", l.oberfläche.laufe(l.p, [&] { l.p.zeige("HoF"); }), 0);
+    t.gilt("ohne Zeitgeber schläft die Schleife", erwacht <= 5);
+}
+
+void prüfeSchritte(Prüfung &t) {
+    Lauf l;
+    Zeit dauer = 0;
+    bool getickt = false;
+    l.schritte = {[&] { return dauer > 0 && (fenster()->close() || true); }};
+    t.gleich("Schritte enden", l.laufe([&] {
+        l.p.zeige("Form1");
+        l.p.zeige("Menu2");
+        Form &form = *l.p.geladene("Menu2");
+        auto &uhr = dynamic_cast<Timer &>(*l.p.geladene("Form1")->control("Timer1"));
+        uhr.Tick = [&] { getickt = true; };
+        l.p.DoEvents(); // zeigt sie zum ersten Mal
+        uhr.Enabled = true;
+        const Zeit vorher = l.oberfläche.jetzt();
+        for (int i = 0; i < 150; ++i) {
+            form.Left += 20;
+            l.oberfläche.zeigeSchritt(form, 2);
+        }
+        dauer = l.oberfläche.jetzt() - vorher;
+        uhr.Enabled = false;
+    }),
+             0);
+    t.gilt("150 Schritte zu 2 ms dauern 0,3 s", dauer >= 250 && dauer < 600);
+    t.gilt("und halten die Zeitgeber an", !getickt);
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("SDL_AUDIODRIVER", "dummy");
+    QApplication app(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    gestalteProgramm();
+    Prüfung t;
+    prüfeWegDurchsMenü(t);
+    prüfeKlickBeiJederGröße(t);
+    prüfeSchließenImWarten(t);
+    prüfeLaufzeitfehler(t);
+    prüfeRuhe(t);
+    prüfeSchritte(t);
+    return t.ende();
+}
