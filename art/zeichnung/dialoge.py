@@ -207,8 +207,7 @@ def exchange():
 def bezahlen():
     b, h = 2484, 2324
     kopf = papier(26, 26, b - 52, 488)
-    glocken = f'<g opacity=".9">{glocke(2290, 160, .78)}</g>'
-    return svg(b, h, holz(b, h) + kopf + glocken + "".join(nagel(x, y, 8) for x in (13, b - 13) for y in (13, 527)), grunddefs())
+    return svg(b, h, holz(b, h) + kopf + "".join(nagel(x, y, 8) for x in (13, b - 13) for y in (13, 527)), grunddefs())
 
 
 def karten():
@@ -260,7 +259,7 @@ def dank():
     b, h = 3316, 2484
     z = random.Random(4)
     sterne = "".join(f'<circle cx="{z.uniform(0, b):.0f}" cy="{z.uniform(0, h * .8) ** 1.0:.0f}" r="{z.choice((1.5, 2, 2.5, 3.5, 5))}" fill="{z.choice(("#ffffff", "#ffe9c0", "#cfe0ff"))}" opacity="{z.uniform(.3, 1):.2f}"/>' for _ in range(420))
-    glanz = "".join(f'<path d="M{2600 - 30 * k + z.uniform(-90, 90):.0f} {h - 330 + 20 * k}h{z.uniform(60, 220):.0f}" stroke="#ffe2a0" stroke-width="5" stroke-linecap="round" opacity="{z.uniform(.15, .5):.2f}"/>' for k in range(14))
+    glanz = "".join(f'<path d="M{2660 + z.uniform(-120, 20) - 6 * k:.0f} {h - 330 + 20 * k}h{z.uniform(60, 220):.0f}" stroke="#ffe2a0" stroke-width="5" stroke-linecap="round" opacity="{z.uniform(.15, .5):.2f}"/>' for k in range(14))
     return svg(b, h, f"""<rect width="{b}" height="{h}" fill="url(#nacht)"/>{sterne}<circle cx="2720" cy="430" r="150" fill="#ffedbd" opacity=".25" filter="url(#sehrweich)"/><circle cx="2720" cy="430" r="118" fill="url(#mond)"/>
 <rect y="{h - 360}" width="{b}" height="360" fill="url(#meer)"/>{glanz}<path d="M0 {h - 350}Q260 {h - 480} 520 {h - 470}T1040 {h - 352}Z" fill="#05070c"/>
 <g transform="translate(400 {h - 640}) scale(2.2)" opacity=".96">{palmenbild("#04060a", "#04060a").replace('url(#bild)', '#04060a')}</g>""",
@@ -270,12 +269,12 @@ def dank():
 def ueber():
     """Das Blatt mit den Angaben; das Zeichen des Spiels liegt blass darunter."""
     b, h = 1632, 1524
-    return svg(b, h, tafel(b, h, 22, innen=f'<g opacity=".16" transform="translate(436 640) scale(3)">{plakette()}</g>'), grunddefs() + SEE)
+    return svg(b, h, tafel(b, h, 22, innen=f'<g opacity=".10" transform="translate(436 640) scale(3)">{plakette()}</g>'), grunddefs() + SEE)
 
 
 def hilfe():
     b, h = 1602, 1208          # halb so fein: das Textfeld deckt fast alles zu
-    return svg(b, h, tafel(b, h, 30, zierlinie=False), grunddefs())
+    return svg(b, h, tafel(b, h, 14, oben=3, zierlinie=False), grunddefs())
 
 
 # --- Knöpfe -----------------------------------------------------------------------------------------------------------------
