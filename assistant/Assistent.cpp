@@ -24,6 +24,7 @@ void BlaseAnlegen(Programm &p) {
 
 Assistent::Assistent(Programm &programm) : Form(programm, Formname, {2316, Oben, 2040, 1944}, "Dorvin"), p(programm) {
     BackColor = Farbe{0xFFFFFF};
+    Shape1.BorderColor = Farbe{0x5A2800};
     Image1.Click = [this] { Timer1.Enabled = true; };
     Image1.MouseDown = [this](auto...) { BlaseAnlegen(p); };
     Runterfahr.Tick = [this] { Runterfahr_Timer(); };

@@ -39,7 +39,7 @@ Menu2::Menu2(Programm &programm) : Form(programm, Formname, {420, 1056, 8868, 47
     for (Shape *rahmen : {&Shape1, &Shape2})
         rahmen->BorderColor = Farbe{0x9C7440};
     for (Schriftelement *feld : std::initializer_list<Schriftelement *>{&Text1, &Text2, &List1, &List2, &List3})
-        feld->FontSize = 10;
+        feld->FontSize = 9;
     MouseMove = [this](double, double) { umrande(nullptr); };
     Picture1.MouseMove = MouseMove;
     klickl.MouseMove = [this](double, double) { umrande(&klickl); };
