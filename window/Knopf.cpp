@@ -50,6 +50,8 @@ void Knopf::zeige(const Stück &neu, const Maß &m) {
     setAccessibleName(velmo::text(stück.text.empty() ? stück.hinweis : stück.text));
     setToolTip(velmo::text(stück.hinweis));
     setEnabled(!stück.gesperrt);
+    // Gesperrt lässt er die Maus zur Form durch.
+    setAttribute(Qt::WA_TransparentForMouseEvents, stück.gesperrt);
     update();
 }
 
