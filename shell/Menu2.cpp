@@ -19,7 +19,6 @@ namespace {
 
 constexpr int ErstesBild = 141, LetztesBild = 155, Anfangsbild = 152;
 constexpr int LängsterName = 13;
-constexpr int Startgeld[] = {12000, 20000, 30000}; // je Zeile der Schwierigkeit
 
 std::string Charakterordner(const Spielzustand &z) { return z.Programmpfad + "/charakter"; }
 
@@ -136,6 +135,23 @@ void Menu2::Command1_Click() {
 }
 
 void Menu2::Command2_Click() {
+    schreibeWahl();
+    if (List1.ListIndex < 0) {
+        p.MsgBox("Sie müssen eine Farbe wählen!");
+        return p.zeige(Formname);
+    }
+    teileAutosAus();
+    p.Zustand.Spielerbild = Picture1.Picture;
+    MMControl1.Command(Befehl::Play);
+    schiebe(*this, 20, 9400);
+    p.verstecke("Menu");
+    p.entlade(Formname);
+    p.zeige(Form1::Formname);
+    p.zeige(Assistent::Formname);
+    begrüße();
+}
+
+void Menu2::schreibeWahl() {
     Spielzustand &z = p.Zustand;
     z.Spielername = Text1.Text().empty() ? "Spieler 1" : Text1.Text();
     z.Spitzname = Text2.Text().empty() ? z.Spielername : Text2.Text();
@@ -145,22 +161,13 @@ void Menu2::Command2_Click() {
     z.Schwierigkeit = static_cast<int>(List3.ListIndex) + 1;
     if (z.Schwierigkeit > 0)
         for (Kurz &geld : z.Computergeld)
-            geld = Startgeld[z.Schwierigkeit - 1];
+            geld = Schwierigkeitsgrade[z.Schwierigkeit - 1].Startgeld;
     z.Gegnerzahl = static_cast<int>(List2.ListIndex) + 1;
-    if (List1.ListIndex < 0) {
-        p.MsgBox("Sie müssen eine Farbe wählen!");
-        return p.zeige(Formname);
-    }
-    teileAutosAus();
-    z.Spielerbild = Picture1.Picture;
-    MMControl1.Command(Befehl::Play);
-    schiebe(*this, 20, 9400);
-    p.verstecke("Menu");
-    p.entlade(Formname);
-    p.zeige(Form1::Formname);
-    p.zeige(Assistent::Formname);
+}
+
+void Menu2::begrüße() {
     Ansagen(p,
-            "Hi " + z.Spitzname +
+            "Hi " + p.Zustand.Spitzname +
                 ", ich bin Dorvin, der Assistent von Velmo. Ich helfe dir gerne weiter und ich berichte dir was läuft.",
             0);
 }

@@ -4,6 +4,14 @@
 
 namespace velmo {
 
+/// Die Schwierigkeit bestimmt, womit die Computer anfangen (DM).
+struct Schwierigkeitsgrad {
+    const char *Name;
+    int Startgeld;
+};
+inline constexpr Schwierigkeitsgrad Schwierigkeitsgrade[] = {
+    {"Putzfrau", 12000}, {"Hotelleiter", 20000}, {"Topmanager", 30000}};
+
 class Menu2 : public Form {
   public:
     static constexpr const char *Formname = "Menu2";
@@ -24,7 +32,10 @@ class Menu2 : public Form {
     TextBox Text2{*this, "Text2", {4560, 1680, 1812, 372}};
     ListBox List1{*this, "List1", {4560, 2160, 1812, 432}, {"Rot", "Grün", "Blau", "Gelb"}};
     ListBox List2{*this, "List2", {4560, 2760, 1812, 432}, {"1", "2", "3"}};
-    ListBox List3{*this, "List3", {4560, 3360, 1812, 432}, {"Putzfrau", "Hotelleiter", "Topmanager"}};
+    ListBox List3{*this,
+                  "List3",
+                  {4560, 3360, 1812, 432},
+                  {Schwierigkeitsgrade[0].Name, Schwierigkeitsgrade[1].Name, Schwierigkeitsgrade[2].Name}};
     FileListBox File1{*this, "File1", {7080, 1320, 1452, 1992}, "*.cha"};
     CommandButton Command4{*this, "Command4", {5280, 4080, 1092, 492}, "Charakter speichern"};
     CommandButton Command3{*this, "Command3", {6480, 4080, 1092, 492}, "Charakter laden"};
@@ -47,7 +58,9 @@ class Menu2 : public Form {
     void Command3_Click();
     void Command4_Click();
     void Command5_Click();
+    void schreibeWahl();
     void teileAutosAus();
+    void begrüße();
 
     Programm &p;
 };
