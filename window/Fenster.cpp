@@ -21,7 +21,8 @@ namespace velmo {
 namespace {
 
 constexpr QSize Entwurf(800, 600);
-constexpr int Ruhezeit = 150; // ms
+constexpr int Ruhezeit = 150;      // ms
+constexpr double Ziehgröße = 1.75; // das Gezogene ist größer, damit man es unter dem Zeiger sieht
 
 /// Die größte bequeme Größe, die auf den Bildschirm passt.
 QSize anfangsgröße(const QSize &bildschirm) {
@@ -146,7 +147,8 @@ void Fenster::folgeGezogenem() {
     if (!bild || !quelle || !quelle->stück(*bild)) return ziehbild->hide();
     const Punkt zeiger = u.p.eingabe.zeiger();
     const Stück &s = *quelle->stück(*bild);
-    const QRect punkte = maß.rechteck({zeiger.x - s.Width / 2, zeiger.y - s.Height / 2, s.Width, s.Height});
+    const double breit = s.Width * Ziehgröße, hoch = s.Height * Ziehgröße;
+    const QRect punkte = maß.rechteck({zeiger.x - breit / 2, zeiger.y - hoch / 2, breit, hoch});
     ziehbild->zeige(u.bilder.bild(s.bild, punkte.size()), maß.fensterrechteck(punkte));
 }
 

@@ -134,6 +134,7 @@ void QtOberfläche::gibAb(Rast rast) {
         QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
         return prüfeAusnahme();
     }
+    if (sollSchließen) plane();
     tat = false;
     QCoreApplication::processEvents();
     prüfeAusnahme();
