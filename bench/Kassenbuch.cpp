@@ -98,7 +98,7 @@ std::optional<std::string> Kassenbuch::prüfe(const Spielzustand &z) {
         // Wer im selben Zug ruiniert wird, hat vorher gesetzte Eingänge bezahlt und kann ein verlorenes Hotel neu
         // kaufen.
         if (ruin && Computernummer(b.Besitzer)) {
-            möglich.buchung({0, -eingangspreis(k)});
+            möglich.buchung({0, -eingangspreis(k), -2 * eingangspreis(k)}); // an der Bank und beim Halt
             if (a.Besitzer == b.Besitzer) möglich.buchung(mitNull(kaufbeträge(k, true)));
         }
         for (const Baustufe s : AlleStufen) {
