@@ -22,6 +22,10 @@ namespace {
 constexpr int Rundengrenze = 3000;
 constexpr Zeit Stillstand = 600'000; // ms ohne eine Regung des Spielers: das Spiel hängt
 
+// Was der Spieler im Assistenten wählt, und was daraus folgt.
+constexpr const char *Gewähltes[] = {"Spielerfarbe", "Gegnerzahl", "Schwierigkeit", "Computergeld(", "Autobesitzer(",
+                                     "Autog.",       "Autoe.",     "Autob.",        "Autor."};
+
 enum class Ausgang { Sieg, Niederlage, Überlauf, Umwandlung, Unbeendet };
 
 struct Befund : std::runtime_error {
@@ -66,8 +70,26 @@ class Dauerlauf {
 
     void beginne() {
         spieler->beginneSpiel();
+        prüfeAnfang();
         buch.eröffne(programm->Zustand);
         regung = fläche.Uhr;
+    }
+
+    /// Jedes Spiel beginnt wie das erste, bis auf das, was der Spieler im Assistenten wählt.
+    void prüfeAnfang() {
+        std::map<std::string, std::string> stand;
+        const auto sammle = [&](const std::string &vor) {
+            return [&stand, vor](const std::string &name, const Zugang &z) { stand[vor + name] = alsText(z.lies()); };
+        };
+        programm->Zustand.zähleAuf(sammle(""));
+        for (Control *c : brett(*programm).Controls())
+            c->zähleAuf(sammle(std::string(c->Name) + "."));
+        std::erase_if(stand, [](const auto &eintrag) {
+            return std::ranges::any_of(Gewähltes, [&](const char *w) { return eintrag.first.starts_with(w); });
+        });
+        if (anfang.empty()) anfang = stand;
+        for (const auto &[name, wert] : stand)
+            if (wert != anfang[name]) throw Befund("am Anfang ist " + name + " " + wert + ", zuerst " + anfang[name]);
     }
 
     Ausgang laufe() {
@@ -135,6 +157,7 @@ class Dauerlauf {
     std::unique_ptr<Programm> programm;
     std::unique_ptr<Mitspieler> spieler;
     Kassenbuch buch;
+    std::map<std::string, std::string> anfang; // der Stand am Anfang des ersten Spiels
     unsigned saat;
     int runden = 0, zugZuvor = 0;
     Zeit regung = 0;
