@@ -131,8 +131,9 @@ void Tonwerk::führeAus(const std::shared_ptr<Stimme> &s) {
         }
     }
     if (!klingt) {
+        lass(*s);
         s->Länge = 0;
-        return lass(*s);
+        return;
     }
     s->Beginn = zuletzt = Tonuhr::now();
     s->stand = Stimme::Stand::Klingt;
