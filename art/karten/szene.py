@@ -75,7 +75,7 @@ def szene(hotel, args):
     quader(mitte.x, mitte.y, -6, 2000, 2000, 3, wasser("#2f9fc4"), 0)
     ufer = welt(0, my - h * .40).y
     küste = [(mitte.x - 900, mitte.y - 900), (mitte.x + 900, mitte.y - 900)] + \
-            [(mitte.x + 900 - 30 * i, ufer + 7 * math.sin(i * 1.7) + 5 * math.sin(i * .6)) for i in range(61)]
+            [(mitte.x + 900 - 5 * i, ufer + b * (.035 * math.sin(22 * i / b) + .02 * math.sin(51 * i / b))) for i in range(361)]
     prisma([(x, y + 9) for x, y in küste], -3, 1.6, stoff("#bfe6e8", rau=.3), .2)
     prisma(küste, -3, 2.4, erde("#ecd49a"), .6)
     prisma([(x, y - 12) for x, y in küste], -1, .9, grund(), .4)
