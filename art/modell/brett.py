@@ -149,14 +149,14 @@ def president():
         with am_brett(x, y, drehung=drehung):
             quader(0, 0, .9, 16, 6, 1.2, "#a89a84", .3)
             blumenbeet(0, 0, 14, 4, ("rot", "gelb", "weiss"), .5, 1.6)
-    for x, y in ((262, 352), (216, 404)):
+    for x, y in ((262, 350), (206, 376)):
         with am_brett(x, y):
             brunnen(0, 0, 1, 8, "#ddd5c6")
 
 
 def waikiki():
     for x, y, m in ((64, 126, .75), (100, 66, .9), (130, 36, .95), (172, 18, .9), (232, 12, .85), (268, 26, .9), (274, 62, .8),
-                    (252, 8, .7), (94, 88, .8), (182, 70, .8)):
+                    (268, 46, .7), (252, 8, .7), (94, 88, .8), (182, 70, .8)):
         with am_brett(x, y):
             palme(0, 0, mass=m)
     for nr, (x, y) in enumerate(((118, 92), (146, 74), (205, 66), (168, 66))):
