@@ -1,9 +1,9 @@
 # Gemeinsames von spielen, testen und .ci/run: holt fehlende Debian-Pakete und baut. Wird eingelesen, im Ordner des
 # Verzeichnisses. Ein zweiter Aufruf ohne Neues kostet eine Frage an dpkg und einen Blick von ninja.
 
-Bauwerkzeug="g++ cmake ninja-build"
-Fensterpakete="qt6-base-dev libsdl2-dev libsdl2-mixer-dev timgm6mb-soundfont
-    fonts-comic-neue fonts-lato fonts-urw-base35 fonts-dejavu-core"
+Baupakete="g++ cmake ninja-build qt6-base-dev libsdl2-dev libsdl2-mixer-dev"
+# Was das Spiel erst beim Spielen braucht: Schriften und den Klangsatz der Musik.
+Spielpakete="fonts-comic-neue fonts-lato fonts-urw-base35 fonts-dejavu-core timgm6mb-soundfont"
 
 # Als Verwalter, ohne Rückfrage.
 alsVerwalter() {

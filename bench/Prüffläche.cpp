@@ -20,13 +20,6 @@ void Prüffläche::leere() {
     Modus.reset();
 }
 
-void Prüffläche::gibAb(Rast) {
-    if (Fahrer)
-        Fahrer();
-    else
-        ++Uhr;
-}
-
 double Prüffläche::Rnd() {
     if (Vorgaben.empty()) return static_cast<double>(Erzeuger() >> 11) * 0x1p-53;
     const double ziehung = Vorgaben.front();
