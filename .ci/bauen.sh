@@ -34,7 +34,7 @@ holePakete() {
     rm -f "$protokoll"
 }
 
-# baue VOREINSTELLUNG ORDNER [CMAKE-WORT...]: mit CI=true sind Warnungen Fehler.
+# baue VOREINSTELLUNG ORDNER [CMAKE-WORT...]: mit CI=true sind Warnungen Fehler, mit ziel=NAME entsteht nur das.
 baue() {
     voreinstellung=$1 ordner=$2
     shift 2
@@ -48,5 +48,5 @@ baue() {
         }
         rm -f "$protokoll"
     fi
-    ninja -C "$ordner" --quiet
+    ninja -C "$ordner" ${ziel:-}
 }
