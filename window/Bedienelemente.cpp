@@ -17,7 +17,7 @@ namespace {
 
 /// Schrift in Längen des Fensters.
 void nimmSchrift(QWidget &w, const Schriftelement &e, const Maß &m) {
-    w.setFont(schrift(e.FontName, e.FontSize, e.FontBold, m.jeTwip / m.dichte));
+    w.setFont(schrift(e.FontName, e.FontSize, e.FontBold, m.jeTwip * 12 / m.dichte));
 }
 
 Bedienelement textfeld(TextBox &feld, QWidget *form, Programm &p, const Bearbeiter &bearbeite) {

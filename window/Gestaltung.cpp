@@ -57,7 +57,7 @@ QString mitLängen(const char *vorlage, double v) {
 void gestalteProgramm() {
     QApplication::setStyle(new Stil);
     QApplication::setPalette(palette());
-    QApplication::setFont(schrift("", 8.25, false, 1.0 / 12));
+    QApplication::setFont(schrift("", 8.25, false, 1));
     QToolTip::setPalette(palette());
 }
 

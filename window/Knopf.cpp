@@ -46,6 +46,7 @@ void Knopf::zeige(const Stück &neu, const Maß &m) {
     if (neu == stück && m == maß) return;
     stück = neu;
     maß = m;
+    fertig = {};
     setText(velmo::text(stück.text).replace('&', "&&"));
     setAccessibleName(velmo::text(stück.text.empty() ? stück.hinweis : stück.text));
     setToolTip(velmo::text(stück.hinweis));
@@ -74,7 +75,8 @@ QPixmap Knopf::körper(Zustand z, const QSize &größe) const {
     }
     QPainter p(&bild);
     p.setCompositionMode(QPainter::CompositionMode_SourceAtop);
-    if (z == Zustand::Überfahren) p.fillRect(bild.rect(), QColor(255, 255, 255, 80));
+    if (stück.erhaben && isEnabled()) p.fillRect(bild.rect(), QColor(255, 206, 32, 125)); // leuchtet
+    if (z == Zustand::Überfahren) p.fillRect(bild.rect(), QColor(255, 255, 255, 60));
     return bild;
 }
 
@@ -95,18 +97,11 @@ void Knopf::maleInhalt(QPainter &p, const QRect &r) const {
     }
     const int wie = Qt::AlignCenter | Qt::TextWordWrap;
     const QString t = velmo::text(stück.text);
-    const QFont f = schrift(stück.schriftart, stück.schriftgrad, stück.fett || stück.erhaben, maß.jeTwip);
-    const QColor tinte = stück.farbe == Farbe{0} ? farbton::Tinte : farbton::aus(stück.farbe);
-    if (stück.erhaben && isEnabled()) {
-        const int ab = std::max(1, static_cast<int>(maß.strich(0.75)));
-        maleText(p, für.translated(0, ab), wie, t, f, QColor(255, 255, 255, 200));
-    }
-    // Helle Schrift braucht auf dem hellen Messing einen Saum.
-    if (isEnabled() && tinte.lightness() > 200)
-        for (const QPoint &um : {QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1), QPoint(1, 1)})
-            maleText(p, für.translated(um * std::max(1, static_cast<int>(maß.strich(1)))), wie, t, f,
-                     farbton::Holzschatten);
-    maleText(p, für, wie, t, f, isEnabled() ? tinte : farbton::Blass);
+    const QFont f = schrift(stück.schriftart, stück.schriftgrad, stück.fett || stück.erhaben, Satzpunkte);
+    // Sehr helle Schrift wäre auf dem hellen Messing nicht zu lesen.
+    QColor tinte = farbton::aus(stück.farbe);
+    if (stück.farbe == Farbe{0} || tinte.lightness() > 200) tinte = farbton::Tinte;
+    maleText(p, maß, für, wie, t, f, isEnabled() ? tinte : farbton::Blass);
 }
 
 void Knopf::paintEvent(QPaintEvent *) {

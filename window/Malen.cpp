@@ -29,7 +29,7 @@ void maleBeschriftung(QPainter &p, const Maß &m, const Stück &s, const QRect &
     if (s.deckend && !s.text.empty()) malePapier(p, m, s, ort);
     const int ausrichtung = Ausrichtungen[std::clamp(s.ausrichtung, 0, 2)] |
                             (s.mittig ? Qt::AlignVCenter : Qt::AlignTop) | Qt::TextWordWrap;
-    maleText(p, ort, ausrichtung, text(s.text), schrift(s.schriftart, s.schriftgrad, s.fett, m.jeTwip),
+    maleText(p, m, ort, ausrichtung, text(s.text), schrift(s.schriftart, s.schriftgrad, s.fett, Satzpunkte),
              s.gesperrt ? farbton::Blass : farbton::aus(s.farbe));
 }
 
@@ -135,11 +135,18 @@ void maleBild(QPainter &p, Bildspeicher &bilder, const std::string &Datei, const
         p.drawPixmap(r, bild);
 }
 
-void maleText(QPainter &p, const QRect &r, int ausrichtung, const QString &t, const QFont &f, const QColor &farbe) {
+void maleText(QPainter &p, const Maß &m, const QRect &r, int ausrichtung, const QString &t, const QFont &f,
+              const QColor &farbe) {
     if (t.isEmpty()) return;
-    p.setFont(eingepasst(f, r, ausrichtung, t));
+    const double strecke = m.jeTwip * 12 / Satzpunkte;
+    const QSizeF platz = QSizeF(r.size()) / strecke;
+    p.save();
+    p.translate(r.topLeft());
+    p.scale(strecke, strecke);
+    p.setFont(eingepasst(f, platz, ausrichtung, t));
     p.setPen(farbe);
-    p.drawText(r, ausrichtung, t);
+    p.drawText(QRectF(QPointF(), platz), ausrichtung, t);
+    p.restore();
 }
 
 void malePapier(QPainter &p, const Maß &m, const QRect &r, const QColor &farbe, bool rahmen) {

@@ -18,8 +18,8 @@ void male(QPainter &, Bildspeicher &, const Maß &, const Stück &, const QRect 
 
 /// Ein Bild im Rechteck, ohne Verzerrung der Kanten.
 void maleBild(QPainter &, Bildspeicher &, const std::string &Datei, const QRect &);
-/// Umbrochener Text; was nicht passt, wird kleiner.
-void maleText(QPainter &, const QRect &, int ausrichtung, const QString &, const QFont &, const QColor &);
+/// Umbrochener Text; was nicht passt, wird kleiner. Die Schrift ist in Satzpunkten.
+void maleText(QPainter &, const Maß &, const QRect &, int ausrichtung, const QString &, const QFont &, const QColor &);
 /// Der Grund einer Form ohne Bild: Papier in ihrer Farbe mit feinem Rahmen.
 void malePapier(QPainter &, const Maß &, const QRect &, const QColor &, bool rahmen);
 /// Der weiche Schatten ringsum, den eine Form auf die dahinter wirft.

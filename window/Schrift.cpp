@@ -1,6 +1,6 @@
 #include "window/Schrift.h"
 
-#include <QFontMetrics>
+#include <QFontMetricsF>
 #include <QStringList>
 
 #include <cmath>
@@ -36,20 +36,21 @@ const Schriftzeile &zeile(const std::string &Name) {
 
 QString text(const std::string &utf8) { return QString::fromStdString(utf8); }
 
-QFont schrift(const std::string &Name, double Punkte, bool fett, double jeTwip) {
+QFont schrift(const std::string &Name, double Schriftgrad, bool fett, double punkte) {
+    constexpr double JeGrad = 20.0 / 12; // Bildpunkte des Entwurfs
     const Schriftzeile &z = zeile(Name);
     QFont f;
     f.setFamilies({z.hier, "DejaVu Sans"});
     f.setWeight(fett ? z.fett : z.normal);
-    f.setPixelSize(std::max(1, static_cast<int>(std::lround(Punkte * 20 * z.grad * jeTwip))));
+    f.setPixelSize(std::max(1, static_cast<int>(std::lround(Schriftgrad * JeGrad * z.grad * punkte))));
     return f;
 }
 
-QFont eingepasst(QFont f, const QRect &r, int ausrichtung, const QString &text) {
+QFont eingepasst(QFont f, const QSizeF &platz, int ausrichtung, const QString &text) {
     const int anfang = f.pixelSize();
     while (f.pixelSize() * 9 > anfang * 5) {
-        const QRect bedarf = QFontMetrics(f).boundingRect(QRect(0, 0, r.width(), 1 << 16), ausrichtung, text);
-        if (bedarf.width() <= r.width() && bedarf.height() <= r.height()) break;
+        const QRectF bedarf = QFontMetricsF(f).boundingRect(QRectF(0, 0, platz.width(), 1e6), ausrichtung, text);
+        if (bedarf.width() <= platz.width() && bedarf.height() <= platz.height()) break;
         f.setPixelSize(f.pixelSize() - std::max(1, anfang / 25));
     }
     return f;

@@ -1,7 +1,7 @@
 #pragma once
 // Die Schriften des Entwurfs, auf die des Systems abgebildet.
 #include <QFont>
-#include <QRect>
+#include <QSizeF>
 #include <QString>
 
 #include <string>
@@ -10,10 +10,15 @@ namespace velmo {
 
 QString text(const std::string &utf8);
 
-/// Die Schrift des Entwurfs. Punkte gelten bei 120 DPI: ein Punkt sind 20 Twips.
-QFont schrift(const std::string &Name, double Punkte, bool fett, double jeTwip);
+/// Schriften auf den Formen werden in Achtel-Bildpunkten des Entwurfs gesetzt und dann auf die Anzeige gestreckt: so
+/// bricht ein Text bei jeder Größe gleich um.
+constexpr double Satzpunkte = 8;
+
+/// Die Schrift des Entwurfs; punkte sind ihre Einheiten je Bildpunkt des Entwurfs. Schriftgrade gelten bei 120 DPI: ein
+/// Punkt sind 20 Twips.
+QFont schrift(const std::string &Name, double Schriftgrad, bool fett, double punkte);
 
 /// Verkleinert die Schrift, bis der umbrochene Text in das Rechteck passt, höchstens auf gut die Hälfte.
-QFont eingepasst(QFont, const QRect &, int ausrichtung, const QString &text);
+QFont eingepasst(QFont, const QSizeF &, int ausrichtung, const QString &text);
 
 } // namespace velmo
