@@ -200,7 +200,8 @@ void Formfläche::maleAlles(QPainter &p, const QRect &bereich) {
         if (!s.sichtbar || !malbereich(s, maß).translated(ort.topLeft() - malort(s, maß).topLeft()).intersects(bereich))
             continue;
         if (s.sorte == Sorte::Film) {
-            if (const QImage *film = u.filmbild(s.control)) p.drawImage(ort, *film);
+            if (const QImage *film = u.filmbild(s.control))
+                p.drawImage(ort.topLeft(), film->scaled(ort.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
             continue;
         }
         p.setOpacity(s.blass ? 0.4 : 1);
