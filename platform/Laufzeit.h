@@ -70,8 +70,6 @@ class Laufzeit {
     const std::vector<Timer *> &Zeitplan() const { return zeitplan; }
     /// Führt eine Ereignisbehandlung aus; danach verschwinden entladene Formulare, wenn keine andere mehr läuft.
     void behandle(const Handler &);
-    /// Läuft gerade eine Ereignisbehandlung?
-    bool beschäftigt() const { return tiefe > 0; }
 
     // Für Formulare und Zeitgeber.
     std::uint64_t nächsteNummer() { return ++nummern; }

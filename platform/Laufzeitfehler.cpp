@@ -33,6 +33,5 @@ Laufzeitfehler::Laufzeitfehler(Fehlerart art, int nummer, std::string text)
 Laufzeitfehler Laufzeitfehler::dateiFehlt() { return {Fehlerart::Datei, 53, "Datei nicht gefunden"}; }
 Laufzeitfehler Laufzeitfehler::dateiende() { return {Fehlerart::Datei, 62, "Eingabe hinter Dateiende"}; }
 Laufzeitfehler Laufzeitfehler::pfadFehlt() { return {Fehlerart::Datei, 76, "Pfad nicht gefunden"}; }
-Laufzeitfehler Laufzeitfehler::zugriffVerweigert() { return {Fehlerart::Datei, 70, "Zugriff verweigert"}; }
 
 } // namespace velmo

@@ -16,7 +16,6 @@ class Laufzeitfehler : public std::exception {
     static Laufzeitfehler dateiFehlt();
     static Laufzeitfehler dateiende();
     static Laufzeitfehler pfadFehlt();
-    static Laufzeitfehler zugriffVerweigert();
 
     Fehlerart Art() const { return art; }
     /// Die Beschreibung des Systems, etwa "Überlauf".
