@@ -33,10 +33,8 @@ class Formfläche : public QWidget {
 
     /// Bringt die Fläche auf den Stand der Form; gezogen ist das Steuerelement, das der Spieler gerade zieht.
     void folge(const Form &, const Maß &, const VisualControl *gezogen);
-    /// Zeichnet alles neu, auch was sich nicht geändert hat.
-    void vergissStand() { stand.reset(); }
 
-    /// Wo das Steuerelement zu sehen ist, in Twips; nicht unter den Gezeichneten: null.
+    /// Wie das Steuerelement zuletzt gezeigt wurde; null, wenn es nicht unter den Gezeichneten ist.
     const Stück *stück(const Control &) const;
     /// Zeigt es um dx, dy Twips verschoben.
     void versetze(const Control &, double dx, double dy);
