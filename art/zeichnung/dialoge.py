@@ -87,12 +87,9 @@ def hammer():
 
 
 def pfeil(links, b=180, h=404):
-    """Wegweiser aus Holz, der nach der Seite zeigt."""
-    d = f"M{b * .14} {h * .5}L{b * .72} {h * .2}Q{b * .86} {h * .16} {b * .86} {h * .28}V{h * .72}Q{b * .86} {h * .84} {b * .72} {h * .8}Z"
-    spiegel = "" if links else f' transform="translate({b} 0) scale(-1 1)"'
-    richtung = (lambda t: t)(d)
-    if not links:
-        d = f"M{b * .86} {h * .5}L{b * .28} {h * .2}Q{b * .14} {h * .16} {b * .14} {h * .28}V{h * .72}Q{b * .14} {h * .84} {b * .28} {h * .8}Z"
+    """Messingpfeil zum vorigen oder nächsten Bild."""
+    x = (lambda t: b * t) if links else (lambda t: b * (1 - t))
+    d = f"M{x(.14)} {h * .5}L{x(.72)} {h * .2}Q{x(.86)} {h * .16} {x(.86)} {h * .28}V{h * .72}Q{x(.86)} {h * .84} {x(.72)} {h * .8}Z"
     return svg(b, h, f'<g filter="url(#schatten)"><path d="{d}" fill="#5c3419" stroke="#5c3419" stroke-width="14" stroke-linejoin="round"/><g filter="url(#praegung)"><path d="{d}" fill="{GOLD}" stroke="{GOLD}" stroke-width="4" stroke-linejoin="round"/></g></g>', grunddefs())
 
 
