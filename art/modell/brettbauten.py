@@ -33,7 +33,7 @@ def bank():
             keil(0, -2, 0, 21, 38, 9, "#f6edd9", .3, drehung=90)
             satteldach(0, -2, 0, 23, 39, 9.6, ziegel("#4e8b7c", 2.2), über=.8, drehung=90)
         quader(0, 17, 26.5, 58, 28, 2.2, ziegel("#4e8b7c", 2.2), .5)
-        with rahmen(Matrix.Translation((0, -4.6, 26.4)) @ Matrix.Rotation(math.radians(-36), 4, "X")):
+        with rahmen(Matrix.Translation((0, -6.4, 25.6)) @ Matrix.Rotation(math.radians(-4), 4, "X")):
             quader(0, 0, 0, 37, 1.0, 12, lack("#234a42"), .5)
             quader(0, -.35, 1, 35, .6, 10, lack("#2f6156"), .3)
             schrift("BANK", 0, -.75, 5.9, 9.6, stoff("#ffd45e", fleck=0, leuchten=.15), dick=.25, datei="DejaVuSans-Bold.ttf")
