@@ -31,7 +31,7 @@ QSize anfangsgröße(const QSize &bildschirm) {
         const QSize größe = Entwurf * drittel / 2;
         if (größe.width() <= platz.width() && größe.height() <= platz.height()) return größe;
     }
-    return Entwurf.scaled(platz, Qt::KeepAspectRatio);
+    return Entwurf.scaled(Entwurf.boundedTo(bildschirm), Qt::KeepAspectRatio);
 }
 
 } // namespace
