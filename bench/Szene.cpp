@@ -33,13 +33,7 @@ Szene::Szene(std::string name, std::string_view skript) : datei(std::move(name))
 }
 
 Bilanz Szene::spiele() {
-    try {
-        laufe();
-    } catch (const Skriptende &) {
-    } catch (const std::exception &fehler) {
-        melde(fehler.what());
-        ++bilanz.gescheitert;
-    }
+    laufe();
     return bilanz;
 }
 
@@ -60,13 +54,25 @@ void Szene::laufe() {
         } catch (const Neuanfang &) {
         } catch (const Skriptende &) {
             return;
+        } catch (const std::exception &fehler) {
+            return scheitere(fehler.what());
         }
     }
 }
 
 void Szene::nächsterBefehl() {
-    std::vector<Wort> wörter;
     const int außen = zeile;
+    try {
+        führeAus();
+    } catch (const Schreibfehler &fehler) {
+        scheitere(fehler.what());
+        throw Skriptende{};
+    }
+    zeile = außen;
+}
+
+void Szene::führeAus() {
+    std::vector<Wort> wörter;
     Zeile hier;
     while (wörter.empty()) {
         if (rest.empty()) {
@@ -86,7 +92,6 @@ void Szene::nächsterBefehl() {
         throw Neuanfang{};
     }
     befehl.führeAus(*this, Wörter(wörter).subspan(1));
-    zeile = außen; // beim Fehler bleibt die Zeile stehen, die ihn machte
 }
 
 void Szene::starte() {
@@ -131,6 +136,11 @@ Zugang Szene::finde(const std::string &Name) {
 void Szene::prüfe(bool gilt, const std::string &ist, const std::string &erwartet) {
     ++(gilt ? bilanz.bestanden : bilanz.gescheitert);
     if (!gilt) melde(ist + ", erwartet " + erwartet);
+}
+
+void Szene::scheitere(const std::string &grund) {
+    melde(grund);
+    ++bilanz.gescheitert;
 }
 
 void Szene::melde(const std::string &text) const { std::cout << datei << ':' << zeile << ": " << text << '\n'; }

@@ -70,12 +70,15 @@ class Szene {
     void neuesProgramm();
     void laufe();
     void nächsterBefehl();
+    void führeAus();
     void imWarten();
     void zeitschritt();
     bool erfüllt();
     void zeitIstUm();
     bool fälliges();
     void beende(const char *fehler);
+    /// Beendet die Szene als gescheitert.
+    void scheitere(const std::string &grund);
     void melde(const std::string &text) const;
 
     const std::string datei;

@@ -10,6 +10,7 @@ class Form1 : public Brett {
 
     void Form_Load() override;
     void Form_Unload() override;
+    bool trägtSpiel() const override { return true; }
 
   private:
     void verbindeKnöpfe();

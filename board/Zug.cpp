@@ -111,6 +111,7 @@ void WüButton_Click(Programm &p) {
 
 void Fertig_Click(Programm &p) {
     Brett &b = brett(p);
+    if (b.Timer4.Enabled) return; // ein Computer ist noch am Zug; sein gratis Bau hat den Knopf schon eingeschaltet
     p.Zustand.AmZug += 1;
     p.Zustand.Wartelauf = 0;
     b.Label1.Caption = "Der Computer würfelt und fährt.";

@@ -38,6 +38,9 @@ class Form : public Besitzer {
 
     virtual void Form_Load() {}
     virtual void Form_Unload() {}
+    /// Mit dieser Form endet, was sie trägt: alle Behandlungen, die bei ihrem Entladen noch warten, kehren nicht
+    /// zurück.
+    virtual bool trägtSpiel() const { return false; }
     /// Eigene Werte der Form unter ihren Namen.
     virtual void eigeneWerte(const Namensempfänger &) {}
 

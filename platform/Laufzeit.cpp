@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 #include <tuple>
+#include <utility>
 
 namespace velmo {
 
@@ -12,12 +13,16 @@ auto findeIn(const std::vector<std::unique_ptr<Form>> &formen, const std::string
     return std::find_if(formen.begin(), formen.end(), [&](const auto &form) { return Name == form->Name; });
 }
 
-/// Zählt, wie tief Behandlungen ineinander liegen.
-struct Tiefe {
-    explicit Tiefe(int &t) : tiefe(t) { ++tiefe; }
-    ~Tiefe() { --tiefe; }
-    int &tiefe;
+/// Hebt eine Zahl auf einen Wert, solange sie lebt.
+struct Solange {
+    Solange(int &zahl, int neu) : zahl(zahl), alt(std::exchange(zahl, neu)) {}
+    ~Solange() { zahl = alt; }
+    int &zahl;
+    const int alt;
 };
+
+/// Führt aus einem Warten, das nicht zurückkehrt, durch die Behandlung hinaus.
+struct Abbruch {};
 
 } // namespace
 
@@ -61,6 +66,7 @@ void Laufzeit::entlade(const std::string &Name) {
     form->entladen = true;
     behandle([&] {
         form->Form_Unload();
+        if (form->trägtSpiel()) gibWartendeAuf();
         std::erase_if(zeitplan, [&](const Timer *t) { return &t->form == form; });
         eingabe.vergiss(*form);
         const auto hier = std::find_if(formen.begin(), formen.end(), [&](const auto &f) { return f.get() == form; });
@@ -79,7 +85,15 @@ std::vector<Form *> Laufzeit::Formen() const {
 
 void Laufzeit::warteBis(const std::function<bool()> &bedingung) {
     while (!bedingung())
-        oberfläche.gibAb(Rast::BisEreignis);
+        gibAb(Rast::BisEreignis);
+}
+
+void Laufzeit::gibAb(Rast rast) {
+    {
+        const Solange wartend(wartende, tiefe);
+        oberfläche.gibAb(rast);
+    }
+    if (tiefe <= aufgegeben) throw Abbruch{};
 }
 
 void Laufzeit::Ende() { throw Programmende{}; }
@@ -99,7 +113,7 @@ bool Laufzeit::Fälliges() {
             if (!t->inArbeit && t->fällig <= bis &&
                 (!nächster || std::tie(t->fällig, t->nummer) < std::tie(nächster->fällig, nächster->nummer)))
                 nächster = t;
-        if (!nächster) return etwas;
+        if (!nächster || imAufgegebenen()) return etwas;
         etwas = true;
         behandle([this, nächster] {
             struct InArbeit {
@@ -125,11 +139,24 @@ std::optional<Zeit> Laufzeit::nächsteFälligkeit() const {
 }
 
 void Laufzeit::behandle(const Handler &handler) {
-    {
-        Tiefe eineMehr(tiefe);
-        if (handler) handler();
+    if (tiefe > wartende) return ruf(handler); // Teil einer Behandlung
+    if (imAufgegebenen()) return;
+    try {
+        ruf(handler);
+    } catch (const Abbruch &) {
+    } catch (...) {
+        ausnahme = std::current_exception();
+        gibWartendeAuf();
     }
-    if (tiefe == 0) entladene.clear();
+    if (tiefe > 0) return;
+    aufgegeben = 0;
+    entladene.clear();
+    if (ausnahme) std::rethrow_exception(std::exchange(ausnahme, {}));
+}
+
+void Laufzeit::ruf(const Handler &handler) {
+    const Solange eineMehr(tiefe, tiefe + 1);
+    if (handler) handler();
 }
 
 void Laufzeit::plane(Timer &t) {

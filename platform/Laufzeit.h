@@ -6,6 +6,7 @@
 #include "platform/Laufzeitfehler.h"
 #include "platform/Oberfläche.h"
 
+#include <exception>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -49,7 +50,7 @@ class Laufzeit {
     std::vector<Form *> Formen() const;
 
     /// Gibt der Schleife einen Durchgang: Fälliges läuft, sonst ruht sie höchstens 1 ms.
-    void DoEvents() { oberfläche.gibAb(Rast::Gezählt); }
+    void DoEvents() { gibAb(Rast::Gezählt); }
     /// Wartet auf den Spieler oder einen Zeitgeber, bis die Bedingung gilt.
     void warteBis(const std::function<bool()> &bedingung);
     /// Beendet das Programm sofort.
@@ -68,7 +69,9 @@ class Laufzeit {
     std::optional<Zeit> nächsteFälligkeit() const;
     /// Die laufenden Zeitgeber.
     const std::vector<Timer *> &Zeitplan() const { return zeitplan; }
-    /// Führt eine Ereignisbehandlung aus; danach verschwinden entladene Formulare, wenn keine andere mehr läuft.
+    /// Führt eine Ereignisbehandlung aus; danach verschwinden entladene Formulare, wenn keine andere mehr läuft. Was
+    /// sie wirft, beendet auch alle, in deren Warten sie begann; erst die äußerste reicht es weiter. In einem Warten,
+    /// das zu Ende ist, beginnt keine mehr.
     void behandle(const Handler &);
 
     // Für Formulare und Zeitgeber.
@@ -78,12 +81,20 @@ class Laufzeit {
     void nachVorn(Form &);
 
   private:
+    void ruf(const Handler &);
+    void gibAb(Rast);
+    void gibWartendeAuf() { aufgegeben = wartende; }
+    bool imAufgegebenen() const { return wartende > 0 && wartende <= aufgegeben; }
+
     std::span<const Formeintrag> tafel;
     std::vector<std::unique_ptr<Form>> formen;    // von hinten nach vorn
     std::vector<std::unique_ptr<Form>> entladene; // leben, bis keine Behandlung mehr läuft
     std::vector<Timer *> zeitplan;
     std::uint64_t nummern = 0;
-    int tiefe = 0;
+    int tiefe = 0;               // so viele Behandlungen liegen ineinander
+    int wartende = 0;            // so viele davon warten, während die oberen laufen
+    int aufgegeben = 0;          // so viele enden, statt aus ihrem Warten zurückzukehren
+    std::exception_ptr ausnahme; // was die äußerste danach weiterreicht
 };
 
 } // namespace velmo

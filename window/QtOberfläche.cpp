@@ -76,17 +76,12 @@ int QtOberfläche::endstand() {
 
 void QtOberfläche::bearbeite(const Handler &handler) {
     if (hält || ausnahme) return;
-    ++tiefe;
     tat = true;
     try {
-        handler();
+        umgebung->p.behandle(handler);
     } catch (...) {
-        ausnahme = std::current_exception(); // darf Qt nicht durchqueren; gibAb reicht sie weiter
-    }
-    --tiefe;
-    if (ausnahme) {
-        if (tiefe == 0) QApplication::exit();
-        return;
+        ausnahme = std::current_exception(); // darf Qt nicht durchqueren
+        return QApplication::exit();
     }
     fenster->folge();
     plane();
@@ -120,10 +115,6 @@ void QtOberfläche::schließe() {
     });
 }
 
-void QtOberfläche::prüfeAusnahme() {
-    if (ausnahme) std::rethrow_exception(ausnahme);
-}
-
 double QtOberfläche::Sekunden() const { return QTime::currentTime().msecsSinceStartOfDay() / 1000.0; }
 Zeit QtOberfläche::kürzesterTakt() const { return Bildzeit; }
 
@@ -132,12 +123,11 @@ void QtOberfläche::gibAb(Rast rast) {
     if (rast == Rast::BisEreignis) {
         plane();
         QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
-        return prüfeAusnahme();
+        return;
     }
     if (sollSchließen) plane();
     tat = false;
     QCoreApplication::processEvents();
-    prüfeAusnahme();
     if (!umgebung->p.Fälliges() && !tat) std::this_thread::sleep_for(Dauer(0.9));
 }
 

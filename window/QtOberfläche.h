@@ -51,7 +51,6 @@ class QtOberfläche : public Oberfläche {
     void plane();
     void takte();
     void schließe();
-    void prüfeAusnahme();
     bool beginneSchritt(double ms, double &beginn);
     void zeigeBild();
     int endstand();
@@ -65,7 +64,6 @@ class QtOberfläche : public Oberfläche {
     std::map<const Control *, std::unique_ptr<Film>> filme;
 
     QTimer takt;                 // der nächste fällige Zeitgeber
-    int tiefe = 0;               // Behandlungen, die ineinander laufen
     bool hält = false;           // Zeitgeber und Eingaben ruhen
     bool sollSchließen = false;  // der Spieler hat währenddessen das Fenster geschlossen
     bool tat = false;            // seit dem letzten Abgeben lief eine Behandlung

@@ -5,6 +5,7 @@
 #include "tests/Prüfung.h"
 
 #include <string>
+#include <utility>
 
 using namespace velmo;
 
@@ -47,14 +48,36 @@ class Knopfform : public Form {
     CommandButton Knopf{*this, "Knopf", {100, 100, 500, 500}};
 };
 
-constexpr Formeintrag Tafel[] = {eintrag<Uhrform>(), eintrag<Knopfform>()};
+class Spielform : public Form {
+  public:
+    static constexpr const char *Formname = "Spielform";
+    explicit Spielform(Programm &p) : Form(p, Formname, {0, 0, 1000, 1000}) {
+        erster.Tick = [this, &p] { warte(p, '1'); };
+        zweiter.Tick = [this, &p] { warte(p, '2'); };
+    }
+    bool trägtSpiel() const override { return true; }
+    Timer erster{*this, "erster", 10, false};
+    Timer zweiter{*this, "zweiter", 20, false};
+
+  private:
+    void warte(Programm &p, char wer) {
+        Spur += wer;
+        p.warteBis([] { return false; });
+        Spur += '!';
+    }
+};
+
+constexpr Formeintrag Tafel[] = {eintrag<Uhrform>(), eintrag<Knopfform>(), eintrag<Spielform>()};
 
 /// Ein Programm auf der Prüffläche, deren Wartende die Uhr selbst weiterdrehen.
 struct Stand {
     Stand() {
         Spur.clear();
         fläche.Fahrer = [this] {
-            if (!p.Fälliges()) ++fläche.Uhr;
+            if (dann && fläche.Uhr == 30)
+                p.behandle(std::exchange(dann, {}));
+            else if (!p.Fälliges())
+                ++fläche.Uhr;
         };
     }
     void warte(Zeit ms) {
@@ -62,6 +85,7 @@ struct Stand {
             ++fläche.Uhr;
     }
     Prüffläche fläche;
+    Handler dann; // läuft in einem Warten, sobald die Uhr 30 zeigt
     Programm p{fläche, Tafel, ""};
 };
 
@@ -107,6 +131,30 @@ void prüfeEntladen(Prüfung &t) {
     t.gleich("mit der Form schweigen ihre Zeitgeber", Spur, std::string("LU"));
 }
 
+/// Zwei Behandlungen warten ineinander; was in ihrem Warten das Spiel verlässt, läuft zu Ende, sie kehren nicht zurück.
+void prüfeVerlassen(Prüfung &t) {
+    for (const bool fehler : {false, true}) {
+        Stand s;
+        auto &form = s.p.form<Spielform>();
+        form.erster.Enabled = form.zweiter.Enabled = true;
+        s.dann = [&] {
+            if (fehler) throw Laufzeitfehler(Fehlerart::Index);
+            s.p.entlade(Spielform::Formname);
+            s.p.form<Uhrform>().früher.Enabled = true;
+            Spur += 'v';
+        };
+        std::string geworfen;
+        try {
+            s.warte(25);
+        } catch (const Laufzeitfehler &f) {
+            geworfen = f.what();
+        }
+        t.gleich("ein Fehler erreicht die äußerste Behandlung", !geworfen.empty(), fehler);
+        if (!fehler) s.warte(25);
+        t.gleich("nach dem Verlassen läuft nur das Neue", Spur, std::string(fehler ? "12" : "12Lvff"));
+    }
+}
+
 } // namespace
 
 int main() {
@@ -114,5 +162,6 @@ int main() {
     prüfeReihenfolge(t);
     prüfeWarten(t);
     prüfeEntladen(t);
+    prüfeVerlassen(t);
     return t.ende();
 }
