@@ -39,10 +39,11 @@ Menu2::Menu2(Programm &programm) : Form(programm, Formname, {420, 1056, 8868, 47
         rahmen->BorderColor = Farbe{0x9C7440};
     for (Schriftelement *feld : std::initializer_list<Schriftelement *>{&Text1, &Text2, &List1, &List2, &List3})
         feld->FontSize = 9;
-    MouseMove = [this](double, double) { umrande(nullptr); };
+    // Von einem Pfeil geradewegs zum anderen behalten mit Absicht beide ihren Rand.
+    MouseMove = [this](double, double) { klickl.BorderStyle = klickr.BorderStyle = 0; };
     Picture1.MouseMove = MouseMove;
-    klickl.MouseMove = [this](double, double) { umrande(&klickl); };
-    klickr.MouseMove = [this](double, double) { umrande(&klickr); };
+    for (Image *pfeil : {&klickl, &klickr})
+        pfeil->MouseMove = [pfeil](double, double) { pfeil->BorderStyle = 1; };
     klickl.Click = [this] { klickl_Click(); };
     klickr.Click = [this] { klickr_Click(); };
     Label4.Click = [this] { Label4_Click(); };
@@ -84,11 +85,6 @@ void Menu2::klickl_Click() {
 
 void Menu2::zeigeBild() {
     Picture1.Picture = Bildladen(p, Kurz(static_cast<int>(std::nearbyint(p.Zustand.Bildnummer.Zahl()))), "Charakter");
-}
-
-void Menu2::umrande(Image *pfeil) {
-    for (Image *bild : {&klickl, &klickr})
-        bild->BorderStyle = bild == pfeil;
 }
 
 /// Schreibt die innere Nummer des Bildes an, sonst nichts.

@@ -51,7 +51,6 @@ class Menu2 : public Form {
     void klickl_Click();
     void klickr_Click();
     void zeigeBild();
-    void umrande(Image *pfeil);
     void Label4_Click();
     void Command1_Click();
     void Command2_Click();
