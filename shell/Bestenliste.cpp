@@ -10,6 +10,8 @@ namespace velmo {
 
 namespace {
 
+constexpr std::size_t Plätze = 9;
+
 std::string pfad(const Programm &p) { return p.Zustand.Programmpfad + "/besten.sav"; }
 
 /// Die nächste Zeile; falsch am Ende der Datei. Ein Wagenrücklauf vor dem Zeilenende gehört nicht zur Zeile.
@@ -35,8 +37,10 @@ Bestenliste liesBestenliste(const Programm &p) {
     Bestenliste liste;
     try {
         std::istringstream datei(liesDatei(pfad(p)));
-        for (Eintrag &e : liste)
-            if (!liesZeile(datei, e.Name) || !liesZeile(datei, e.Punkte)) break;
+        for (Eintrag e; liste.size() < Plätze && liesZeile(datei, e.Name); e = {}) {
+            liesZeile(datei, e.Punkte);
+            liste.push_back(e);
+        }
     } catch (const Laufzeitfehler &) {
         // keine Datei, kein Recht: die Liste ist leer
     }
@@ -45,6 +49,7 @@ Bestenliste liesBestenliste(const Programm &p) {
 
 void trageEin(Programm &p, std::int32_t Punkte) {
     Bestenliste liste = liesBestenliste(p);
+    liste.resize(Plätze);
     const auto platz = std::ranges::find_if(liste, [&](const Eintrag &e) { return weicht(e, Punkte); });
     if (platz != liste.end()) {
         std::shift_right(platz, liste.end(), 1);

@@ -34,7 +34,6 @@ void HoF::Form_Load() {
     std::string namen, zahlen;
     bool erster = true;
     for (const Eintrag &e : liesBestenliste(p)) {
-        if (e.Name.empty() && e.Punkte.empty()) break;
         namen += e.Name + "\n";
         // Nur die erste Zahl verliert ihr Leerzeichen; die anderen stehen, wie sie gelesen wurden.
         zahlen += (erster && !e.Punkte.empty() ? Rechts(e.Punkte, Zeichenzahl(e.Punkte) - 1) : e.Punkte) + "\n";
