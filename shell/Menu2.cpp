@@ -168,7 +168,8 @@ void Menu2::begrüße() {
             0);
 }
 
-/// Die Autos der Computer; wessen Fahrer nicht mitspielt, verschwindet vom Brett.
+/// Die Autos der Computer; wessen Fahrer nicht mitspielt, verschwindet vom Brett. Der erste spielt immer mit, auch wenn
+/// keine Zahl gewählt ist.
 void Menu2::teileAutosAus() {
     const std::string farbe = List1.Text();
     const Auto &meins =
@@ -176,7 +177,7 @@ void Menu2::teileAutosAus() {
     p.Zustand.Spielerfarbe = meins.Text;
     for (int computer = 1; computer <= 3; ++computer) {
         const Autokürzel k = meins.Computer[static_cast<std::size_t>(computer - 1)];
-        const bool spielt = computer <= p.Zustand.Gegnerzahl;
+        const bool spielt = computer == 1 || computer <= p.Zustand.Gegnerzahl;
         p.Zustand.Autos[k].Autobesitzer = spielt ? Computer<Autobesitzer>(computer) : Autobesitzer();
         if (!spielt) brett(p).Autobild(k).Visible = false;
     }
