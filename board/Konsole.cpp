@@ -29,9 +29,7 @@ void zeigeBilanz(Programm &p) {
 }
 
 void fahre(Programm &p, const Fahrbefehl &befehl) {
-    const auto anzahl = p.oberfläche.InputBox("Anzahl", "Cheaten");
-    if (!anzahl) return;
-    p.Zustand.Wurf = *anzahl;
+    p.Zustand.Wurf = p.oberfläche.InputBox("Anzahl", "Cheaten").value_or("");
     if (befehl.AlsComputer) {
         p.Zustand.Wartelauf = 1;
         p.Zustand.Computerphase = 1;

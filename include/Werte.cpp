@@ -29,7 +29,7 @@ bool Lose::leer() const {
     return std::holds_alternative<Leer>(wert) || (text && text->empty());
 }
 
-double Lose::Zahl() const { return leer() ? 0 : alsZahl(wert); }
+double Lose::Zahl() const { return alsZahl(wert); }
 std::string Lose::Text() const { return alsText(wert); }
 
 bool operator==(const Lose &a, const Lose &b) {

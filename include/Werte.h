@@ -50,7 +50,7 @@ class Lose {
 
     bool leer() const;
     bool istText() const { return std::holds_alternative<std::string>(wert); }
-    /// Die Zahl; leer ist 0. Wirft Laufzeitfehler (Typ), wenn der Text keine Zahl ist.
+    /// Die Zahl; ohne Wert 0. Wirft Laufzeitfehler (Typ), wenn der Text keine Zahl ist, auch der leere.
     double Zahl() const;
     /// Der Text, wie ihn eine Meldung zeigt.
     std::string Text() const;

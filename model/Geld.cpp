@@ -116,7 +116,7 @@ void Notenzahlung(Programm &p, int v) {
     // Eine Note fliegt zur Zeit.
     if (std::ranges::any_of(b.Stapel, [](const Notenstapel &s) { return s.p.Top != 0; })) return;
     spieleWartend(b.MMControl2);
-    Lose rest = z.Restbetrag;
+    Lose rest = z.Restbetrag.empty() ? Lose(0) : Lose(z.Restbetrag);
     if (rest.Zahl() >= v && z.Notenbestand[v] >= 1 && z.Gesamtgeld >= v) {
         z.Gesamtgeld -= v;
         rest -= v;

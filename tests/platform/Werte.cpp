@@ -34,7 +34,8 @@ void prüfeLose(Prüfung &t) {
     t.gilt("leer ist nicht 0", !(Lose() == Lose(0)));
     t.gilt("leer ist der leere Text", Lose() == Lose(""));
     t.gleich("leer rechnet als 0", Lose().Zahl(), 0.0);
-    t.gilt("Text ist keine Zahl", wirft(Fehlerart::Typ, [] { static_cast<void>(Lose("s").Zahl()); }));
+    for (const char *text : {"s", "", " "})
+        t.gilt("Text ist keine Zahl", wirft(Fehlerart::Typ, [&] { static_cast<void>(Lose(text).Zahl()); }));
 }
 
 void prüfeZeichen(Prüfung &t) {
