@@ -15,6 +15,7 @@ namespace {
 
 using H = Hotelkürzel;
 
+constexpr std::array Autosuche = {Autokürzel::g, Autokürzel::b, Autokürzel::e, Autokürzel::r};
 constexpr std::array Freigabe = {H::b, H::p, H::l, H::w, H::r, H::t, H::f, H::s};
 
 // Boomerangs Freigabe reicht mit Absicht einen Platz zu weit: auch Fujijamas Platz an Feld 4 wird frei.
@@ -32,8 +33,8 @@ template <class C> C &aufVerloren(Programm &p, const char *name) {
 
 void nimmAusDemSpiel(Programm &p, const Autobesitzer &fahrer) {
     const auto wagen =
-        std::ranges::find_if(AlleAutos, [&](Autokürzel k) { return p.Zustand.Autos[k].Autobesitzer == fahrer; });
-    if (wagen == AlleAutos.end()) return;
+        std::ranges::find_if(Autosuche, [&](Autokürzel k) { return p.Zustand.Autos[k].Autobesitzer == fahrer; });
+    if (wagen == Autosuche.end()) return;
     p.Zustand.Autos[*wagen].Autobesitzer = Autobesitzer("pleite");
     brett(p).Autobild(*wagen).Visible = false;
 }
