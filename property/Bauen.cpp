@@ -79,9 +79,10 @@ const Baukosten &nächsteBaustufe(const Spielzustand &z, Hotelkürzel k) {
     return folge[i];
 }
 
-bool ausgebaut(const Spielzustand &z, Hotelkürzel k, Hotelkürzel park) {
+bool ausgebaut(const Spielzustand &z, Hotelkürzel k, Hotelkürzel park, Baustufe übergangen) {
     return steht(z, park, Baustufe::P) && std::ranges::all_of(Baufolge(k), [&](const Baukosten &stufe) {
-               return stufe.Stand == Baustufe::H || stufe.Stand == Baustufe::P || steht(z, k, stufe.Stand);
+               return stufe.Stand == Baustufe::H || stufe.Stand == Baustufe::P || stufe.Stand == übergangen ||
+                      steht(z, k, stufe.Stand);
            });
 }
 

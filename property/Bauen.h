@@ -81,8 +81,9 @@ inline constexpr const auto &Baukostentafel = baukosten::Reihe;
 std::span<const Baukosten> Baufolge(Hotelkürzel);
 /// Die Stufe, die als nächste an der Reihe ist.
 const Baukosten &nächsteBaustufe(const Spielzustand &, Hotelkürzel);
-/// Stehen alle Nebengebäude und der Freizeitpark des Hotels, das "park" nennt? Das Hauptgebäude zählt nicht.
-bool ausgebaut(const Spielzustand &, Hotelkürzel, Hotelkürzel park);
+/// Stehen alle Nebengebäude und der Freizeitpark des Hotels, das "park" nennt? Das Hauptgebäude zählt nicht, und auch
+/// nicht die übergangene Stufe.
+bool ausgebaut(const Spielzustand &, Hotelkürzel, Hotelkürzel park, Baustufe übergangen = Baustufe::H);
 /// Die Stufe steht von nun an, und ihr Gebäude steigt.
 void errichte(Programm &, const Baukosten &);
 

@@ -3,6 +3,7 @@
 #include "media/Bilder.h"
 #include "model/Brett.h"
 #include "property/Bauen.h"
+#include "property/Grundstück.h"
 
 namespace velmo {
 
@@ -24,7 +25,7 @@ void Bauphase::Form_Load() {
 }
 
 void Bauphase::baue(Hotelkürzel k) {
-    if (ausgebaut(p.Zustand, k, k))
+    if (ausgebaut(p.Zustand, k, k, grundstück(k).Übergangen))
         brett(p).Label1.Caption = "Sie haben schon alles gebaut!";
     else
         errichte(p, nächsteBaustufe(p.Zustand, k));

@@ -15,6 +15,7 @@ struct Grundstück {
     const char *Schlüssel, *Zwangsschlüssel; // in Hotelliste nach dem Kauf
     Hotelkürzel Schlusspark;                 // wessen Freizeitpark beim Anbauen als letzte Stufe gilt
     const char *Doppelkaufmeldung = nullptr; // falls es dem Menschen beim Kauf schon gehört; null: ungeprüft
+    Baustufe Übergangen = Baustufe::H;       // nach welcher Stufe die Bauphase gratis nicht fragt
 };
 
 namespace grundstückstafel {
@@ -25,7 +26,7 @@ inline constexpr const char *SafariFehler = "Fehler in geldfeld_sscommand_click 
 // Ebenso der Zwangspreis von Safari und der Park, nach dem Fujijama fragt.
 // clang-format off
 inline constexpr std::array<Grundstück, 8> Reihe = {{
-    // Hotel Preis Zwang Schlüssel    nach Zwang   Park  Meldung
+    // Hotel Preis Zwang Schlüssel    nach Zwang   Park  Meldung  Übergangen
     {H::b,  500,  250, "Boomrang",  "Boomrang",  H::b},
     {H::p, 3500, 1750, "President", "President", H::p},
     {H::w, 2500, 1250, "Waikiki",   "Waikiki",   H::w},
@@ -33,7 +34,7 @@ inline constexpr std::array<Grundstück, 8> Reihe = {{
     {H::s, 2500, 1000, "Safari",    "Safari",    H::s, SafariFehler},
     {H::f, 1000,  500, "Fujijama",  "Fujijama",  H::p, Fehler},
     {H::l, 3000, 1500, "Etoile",    "Etoile",    H::l, Fehler},
-    {H::r, 2500, 1250, "Royal",     "Royal",     H::r},
+    {H::r, 2500, 1250, "Royal",     "Royal",     H::r, nullptr, Baustufe::N3},
 }};
 // clang-format on
 } // namespace grundstückstafel
