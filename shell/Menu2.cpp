@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 namespace velmo {
 
@@ -21,6 +22,14 @@ constexpr int ErstesBild = 141, LetztesBild = 155, Anfangsbild = 152;
 constexpr int LängsterName = 13;
 
 std::string Charakterordner(const Spielzustand &z) { return z.Programmpfad + "/charakter"; }
+
+/// Eine Nummer von 31 Bit, die zu dem Text gehört; gerechnet mit 64 Bit, auf jedem Rechner dieselbe.
+std::uint64_t Griff(const std::string &text) {
+    std::uint64_t summe = 0xCBF29CE484222325;
+    for (const unsigned char zeichen : text)
+        summe = (summe ^ zeichen) * 0x100000001B3;
+    return summe >> 33;
+}
 
 /// Schiebt die Form in Schritten, solange die Bedingung gilt; der ganze Weg dauert etwa eine Sekunde.
 void schiebe(Form &form, double schritt, double bis) {
@@ -88,9 +97,7 @@ void Menu2::zeigeBild() {
 }
 
 /// Schreibt die innere Nummer des Bildes an, sonst nichts.
-void Menu2::Label4_Click() {
-    Label4.Caption = std::to_string(std::hash<std::string>{}(Picture1.Picture().Datei) >> 33);
-}
+void Menu2::Label4_Click() { Label4.Caption = std::to_string(Griff(Picture1.Picture().Name)); }
 
 void Menu2::Command4_Click() {
     p.Zustand.Charakterpfad = Charakterordner(p.Zustand) + "/" + Text1.Text() + ".cha";
