@@ -20,7 +20,7 @@ constexpr Fahrbefehl Fahrbefehle[] = {
 };
 
 void ruiniere(Programm &p) {
-    if (const auto wer = p.oberfläche.InputBox("Wer", "")) Pleitegehen(p, *wer, 0, "");
+    if (const auto wer = p.InputBox("Wer", "")) Pleitegehen(p, *wer, 0, "");
 }
 
 void zeigeBilanz(Programm &p) {
@@ -29,7 +29,7 @@ void zeigeBilanz(Programm &p) {
 }
 
 void fahre(Programm &p, const Fahrbefehl &befehl) {
-    p.Zustand.Wurf = p.oberfläche.InputBox("Anzahl", "Cheaten").value_or("");
+    p.Zustand.Wurf = p.InputBox("Anzahl", "Cheaten").value_or("");
     if (befehl.AlsComputer) {
         p.Zustand.Wartelauf = 1;
         p.Zustand.Computerphase = 1;
@@ -40,7 +40,7 @@ void fahre(Programm &p, const Fahrbefehl &befehl) {
 } // namespace
 
 void Konsole(Programm &p) {
-    const auto text = p.oberfläche.InputBox(" ", " ");
+    const auto text = p.InputBox(" ", " ");
     if (!text) return;
     if (*text == "pleite") ruiniere(p);
     if (*text == "bilanz") zeigeBilanz(p);

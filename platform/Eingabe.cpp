@@ -86,6 +86,8 @@ void Eingabe::bewege(Punkt p) {
 
 void Eingabe::drücke(Maustaste taste, Punkt p) {
     letzterOrt = p;
+    if ((gedrückt.form || quelle) && taste != haltende) return;
+    haltende = taste;
     gedrückt = trifft(p);
     if (taste == Maustaste::Links && gedrückt.control && gedrückt.control->DragMode) {
         quelle = gedrückt.control;
@@ -103,9 +105,9 @@ void Eingabe::drücke(Maustaste taste, Punkt p) {
 
 void Eingabe::löse(Maustaste taste, Punkt p) {
     letzterOrt = p;
+    if (taste != haltende) return;
     gezogeneForm = nullptr;
     if (quelle) {
-        if (taste != Maustaste::Links) return;
         VisualControl *abgelegt = std::exchange(quelle, nullptr), *wo = std::exchange(überZiel, nullptr);
         abgelegt->geändert();
         if (wo) laufzeit.behandle([&] { wo->DragDrop(*abgelegt); });
@@ -126,6 +128,11 @@ void Eingabe::löse(Maustaste taste, Punkt p) {
         auto &klick = t.control ? t.control->Click : t.form->Click;
         if (klick && (!t.control || (t.control->Visible && t.control->Enabled))) klick();
     });
+}
+
+void Eingabe::gibFrei() {
+    gedrückt = {};
+    gezogeneForm = nullptr;
 }
 
 void Eingabe::doppelklick(Punkt p) {

@@ -24,8 +24,11 @@ class Eingabe {
     explicit Eingabe(Laufzeit &laufzeit) : laufzeit(laufzeit) {}
 
     void bewege(Punkt);
+    /// Solange eine Taste etwas festhält, bewirken eine zweite und ihr Loslassen nichts.
     void drücke(Maustaste, Punkt);
     void löse(Maustaste, Punkt);
+    /// Ein Kasten hat die Maus genommen: was eine Taste festhielt, ist frei, und ihr Loslassen kommt nicht mehr.
+    void gibFrei();
     /// Der zweite Klick eines Doppelklicks, nach drücke und löse des ersten.
     void doppelklick(Punkt);
     void taste(Form &, const std::string &Taste);
@@ -57,6 +60,7 @@ class Eingabe {
 
     Laufzeit &laufzeit;
     Treffer gedrückt;
+    Maustaste haltende = Maustaste::Links; // von gedrückt, quelle und gezogeneForm
     VisualControl *quelle = nullptr;
     VisualControl *überZiel = nullptr;
     Form *gezogeneForm = nullptr;

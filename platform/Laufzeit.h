@@ -57,6 +57,11 @@ class Laufzeit {
     [[noreturn]] void Ende();
 
     Bildschirm Screen() const;
+    /// Fragt den Spieler; ohne Wert, wenn er abbricht.
+    std::optional<std::string> InputBox(const std::string &frage, const std::string &titel) {
+        eingabe.gibFrei();
+        return oberfläche.InputBox(frage, titel);
+    }
     double Rnd() { return oberfläche.Rnd(); }
     /// Der ganze Teil einer Ziehung mal n: 0 bis n - 1.
     int Zufallszahl(int n) { return static_cast<int>(oberfläche.Rnd() * n); }

@@ -210,6 +210,8 @@ std::optional<Maustaste> maustaste(const QMouseEvent &e) {
 } // namespace
 
 void Fenster::mousePressEvent(QMouseEvent *e) {
+    // Ist sonst keine Taste unten, hält auch keine: ihr Loslassen kann an einen Kasten gegangen sein.
+    if (e->buttons() == e->button()) u.p.eingabe.gibFrei();
     if (const auto taste = maustaste(*e)) u.bearbeite([&] { u.p.eingabe.drücke(*taste, ort(*e)); });
 }
 

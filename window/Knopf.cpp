@@ -128,7 +128,7 @@ void Knopf::paintEvent(QPaintEvent *) {
 
 // Die Maus gehört der Eingabe des Spiels: hier ändert sich nur das Aussehen.
 void Knopf::mousePressEvent(QMouseEvent *e) {
-    setDown(e->button() == Qt::LeftButton);
+    setDown((e->buttons() & Qt::LeftButton) && rect().contains(e->pos()));
     e->ignore();
 }
 void Knopf::mouseDoubleClickEvent(QMouseEvent *e) { mousePressEvent(e); }
@@ -136,10 +136,7 @@ void Knopf::mouseMoveEvent(QMouseEvent *e) {
     if (e->buttons() & Qt::LeftButton) setDown(rect().contains(e->pos()));
     e->ignore();
 }
-void Knopf::mouseReleaseEvent(QMouseEvent *e) {
-    setDown(false);
-    e->ignore();
-}
+void Knopf::mouseReleaseEvent(QMouseEvent *e) { mousePressEvent(e); }
 
 void Knopf::keyPressEvent(QKeyEvent *e) {
     if (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter)

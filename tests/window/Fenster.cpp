@@ -56,16 +56,18 @@ QWidget *fenster() {
     return nullptr;
 }
 
-/// Ein Klick an den Bildpunkt des Entwurfs, wo das Fenster ihn zeigt.
-void klick(double x, double y) {
+/// Eine Taste an dem Bildpunkt des Entwurfs, wo das Fenster ihn zeigt; unten sind danach diese.
+void maus(QPointF punkt, QEvent::Type art, Qt::MouseButton taste, Qt::MouseButtons unten) {
     QWidget &w = *fenster();
     const double strecke = std::min(w.width() / 800.0, w.height() / 600.0);
-    const QPointF ort((w.width() - 800 * strecke) / 2 + x * strecke, (w.height() - 600 * strecke) / 2 + y * strecke);
-    for (const auto art : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        QMouseEvent e(art, ort, w.mapToGlobal(ort), Qt::LeftButton,
-                      art == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
-        QApplication::sendEvent(&w, &e);
-    }
+    const QPointF ort = punkt * strecke + QPointF(w.width() - 800 * strecke, w.height() - 600 * strecke) / 2;
+    QMouseEvent e(art, ort, w.mapToGlobal(ort), taste, unten, Qt::NoModifier);
+    QApplication::sendEvent(&w, &e);
+}
+
+void klick(double x, double y) {
+    maus({x, y}, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+    maus({x, y}, QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
 }
 
 bool sichtbar(const Programm &p, const char *form) { return p.geladene(form) && p.geladene(form)->Visible; }
@@ -109,6 +111,30 @@ void prüfeKlickBeiJederGröße(Prüfung &t) {
     l.schritte.push_back([] { return fenster()->close() || true; });
     t.gleich("geschlossen", l.laufe([&] { l.p.zeige("Form1"); }), 0);
     t.gleich("der Knopf trifft bei jeder Größe", getroffen, 4);
+}
+
+void prüfeZweiteTaste(Prüfung &t) {
+    Lauf l;
+    l.schritte = {[&] {
+        auto &haus = dynamic_cast<VisualControl &>(*l.p.geladene("Form1")->control("royn2"));
+        const Punkt ecke = Eingabe::ort(haus);
+        const QPointF ort(ecke.x / 12 + 9, ecke.y / 12 + 9);
+        haus.Visible = true;
+        maus(ort, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+        for (const auto art : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick}) {
+            maus(ort, art, Qt::RightButton, Qt::LeftButton | Qt::RightButton);
+            maus(ort, QEvent::MouseButtonRelease, Qt::RightButton, Qt::LeftButton);
+        }
+        t.gilt("die zweite Taste lässt nicht los", !haus.Visible);
+        maus(ort, QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+        t.gilt("die erste schon", haus.Visible);
+        maus(ort, QEvent::MouseButtonPress, Qt::RightButton, Qt::RightButton); // ihr Loslassen bleibt aus
+        haus.Visible = true;
+        maus(ort, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+        t.gilt("ein verlorenes Loslassen hält nichts auf", !haus.Visible);
+        return fenster()->close() || true;
+    }};
+    t.gleich("zwei Tasten enden", l.laufe([&] { l.p.zeige("Form1"); }), 0);
 }
 
 void prüfeSchließenImWarten(Prüfung &t) {
@@ -186,6 +212,7 @@ int main(int argc, char **argv) {
     Prüfung t;
     prüfeWegDurchsMenü(t);
     prüfeKlickBeiJederGröße(t);
+    prüfeZweiteTaste(t);
     prüfeSchließenImWarten(t);
     prüfeLaufzeitfehler(t);
     prüfeRuhe(t);
