@@ -29,12 +29,26 @@ void brauche(bool gilt) {
     if (!gilt) throw Schreibfehler("erwarte: die Wörter passen nicht");
 }
 
+constexpr std::array Meldungsworte = {"schlicht", "kritisch"}; // nach Meldungsart
+
+std::optional<Meldungsart> liesMeldungsart(const Wort &w) {
+    const auto wort = std::ranges::find_if(Meldungsworte, [&](const char *m) { return w.ist(m); });
+    brauche(wort != Meldungsworte.end());
+    return static_cast<Meldungsart>(wort - Meldungsworte.begin());
+}
+
 void erwarteMeldung(Szene &s, Wörter w) {
-    brauche(w.size() == 1);
+    brauche(w.size() <= 2);
     const std::string &text = liesText(w[0]);
+    const auto art = w.size() == 2 ? liesMeldungsart(w[1]) : std::nullopt;
+    const auto beide = [&](const std::string &t, Meldungsart a) {
+        return zitiere(t) + (art ? std::string(" ") + Meldungsworte[static_cast<std::size_t>(a)] : "");
+    };
+    const std::string erwartet = beide(text, art.value_or(Meldungsart::Schlicht));
     auto &buch = s.fläche.Meldungen;
-    if (buch.empty()) return s.prüfe(false, "meldung ist leer", zitiere(text));
-    s.prüfe(passt(buch.front(), text), "meldung ist " + zitiere(buch.front()), zitiere(text));
+    if (buch.empty()) return s.prüfe(false, "meldung ist leer", erwartet);
+    const Meldung &alt = buch.front();
+    s.prüfe(passt(alt.Text, text) && (!art || alt.Art == *art), "meldung ist " + beide(alt.Text, alt.Art), erwartet);
     buch.pop_front();
 }
 
@@ -59,7 +73,7 @@ void erwarteKeine(Szene &s, Wörter w) {
     const auto &fläche = s.fläche;
     const bool meldung = w[0].ist("meldung");
     const bool keine = meldung ? fläche.Meldungen.empty() : fläche.Fragen.empty();
-    const std::string &erste = keine ? "" : meldung ? fläche.Meldungen.front() : fläche.Fragen.front().Frage;
+    const std::string &erste = keine ? "" : meldung ? fläche.Meldungen.front().Text : fläche.Fragen.front().Frage;
     s.prüfe(keine, w[0].text + " ist " + zitiere(erste), "leer");
 }
 

@@ -13,6 +13,12 @@
 
 namespace velmo {
 
+/// Eine Meldung an den Spieler.
+struct Meldung {
+    std::string Text;
+    Meldungsart Art;
+};
+
 /// Eine Frage an den Spieler.
 struct Eingabefrage {
     std::string Frage, Titel;
@@ -30,7 +36,7 @@ class Prüffläche : public Oberfläche {
     Anzeige Gefunden;                                 // die Anzeige, die das Programm vorfindet
 
     // Was das Programm getan hat.
-    std::deque<std::string> Meldungen;
+    std::deque<Meldung> Meldungen;
     std::deque<Eingabefrage> Fragen;
     std::map<std::string, std::string> Töne; // "Form.Element": die Befehle seit der letzten Nachfrage
     std::optional<Anzeige> Modus;            // der zuletzt eingestellte
@@ -47,7 +53,9 @@ class Prüffläche : public Oberfläche {
     double Rnd() override;
     Anzeige anzeige() const override { return Modus.value_or(Gefunden); }
     void setzeModus(int Breite, int Höhe) override { Modus = Anzeige{Breite, Höhe, Gefunden.DPI}; }
-    void MsgBox(const std::string &text, const std::string &) override { Meldungen.push_back(text); }
+    void MsgBox(const std::string &text, const std::string &, Meldungsart art) override {
+        Meldungen.push_back({text, art});
+    }
     std::optional<std::string> InputBox(const std::string &frage, const std::string &titel) override;
     void Beep() override {}
     void ton(MMControl &, Befehl, bool warten) override;

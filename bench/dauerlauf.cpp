@@ -135,7 +135,7 @@ class Dauerlauf {
         zugZuvor = z.AmZug;
         if (const auto fehler = buch.prüfe(z)) throw Befund(*fehler);
         while (!fläche.Meldungen.empty()) {
-            const std::string text = fläche.Meldungen.front();
+            const std::string text = fläche.Meldungen.front().Text;
             fläche.Meldungen.pop_front();
             if (text.find("ehler") != std::string::npos && text.find("geldfeld_sscommand") == std::string::npos)
                 throw Befund(text);

@@ -29,14 +29,15 @@ constexpr Wahlzeile Wahltafel[] = {
 
 struct Wächter {
     H Hotel;
+    Meldungsart Art;
     const char *Text;
 };
 
 // Meldungen für einen Stand, den es nicht geben kann: ein Nebengebäude ohne Hauptgebäude.
 constexpr Wächter Wächtertafel[] = {
-    {H::l, "fehler:Bis hier kommt er nicht wenn alles stimmt(kibaufeld,let) schicken sie das an "},
-    {H::w, "Bis hier kommt er nicht wenn alles stimmt(kibaufeld, kiki)schicken sie das an "},
-    {H::t, "Bis hier kommt er nicht wenn alles stimmt(kibaufeld, taj)schicken sie das an "},
+    {H::l, Meldungsart::Kritisch, "fehler:Bis hier kommt er nicht wenn alles stimmt(kibaufeld,let) schicken sie das an "},
+    {H::w, Meldungsart::Schlicht, "Bis hier kommt er nicht wenn alles stimmt(kibaufeld, kiki)schicken sie das an "},
+    {H::t, Meldungsart::Schlicht, "Bis hier kommt er nicht wenn alles stimmt(kibaufeld, taj)schicken sie das an "},
 };
 
 // Der Bauwürfel der Computer: 1 normal, 2 doppelt, 3 nichts, 4 gratis.
@@ -63,8 +64,7 @@ std::optional<H> wähleHotel(Programm &p, int computer) {
             if (zeile.LetztesSicher && z.Wahlzahl == 1) return zeile.Hotel;
             if (Münze(p)) return zeile.Hotel;
             if (zeile.DrängtZumHauptgebäude) {
-                // Steht das Hauptgebäude, bleibt die Wahlzahl: das letzte Hotel ist dann nicht mehr sicher. Mit Absicht
-                // so.
+                // Steht das Hauptgebäude, bleibt die Wahlzahl, und das letzte Hotel ist nicht sicher: mit Absicht so.
                 if (steht(z, zeile.Hotel, S::H)) continue;
                 if (z.Arbeitsgeld.Zahl() > DranggeldDesPresident) return zeile.Hotel;
             }
@@ -84,7 +84,7 @@ const Bauzeile *nächsteStufe(Programm &p, H k) {
             const auto wächter = std::ranges::find(Wächtertafel, k, &Wächter::Hotel);
             const bool ohneHaupt = darüber && darüber->Stand != S::P && !steht(z, k, S::H);
             if (ohneHaupt && wächter != std::end(Wächtertafel)) {
-                p.MsgBox(wächter->Text + std::string(Hilfeadresse));
+                p.MsgBox(wächter->Text + std::string(Hilfeadresse), wächter->Art);
                 return nullptr;
             }
             return darüber;

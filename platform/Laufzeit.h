@@ -65,7 +65,9 @@ class Laufzeit {
     double Rnd() { return oberfläche.Rnd(); }
     /// Der ganze Teil einer Ziehung mal n: 0 bis n - 1.
     int Zufallszahl(int n) { return static_cast<int>(oberfläche.Rnd() * n); }
-    void MsgBox(const std::string &text) { oberfläche.MsgBox(text, "Velmo"); }
+    void MsgBox(const std::string &text, Meldungsart art = Meldungsart::Schlicht) {
+        oberfläche.MsgBox(text, "Velmo", art);
+    }
 
     // Für die Oberfläche: der Zeitplan.
     /// Lässt alle fälligen Zeitgeber laufen; wahr, wenn einer fällig war.

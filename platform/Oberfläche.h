@@ -25,6 +25,9 @@ struct Anzeige {
 
 enum class Befehl { Open, Play, Close };
 
+/// Wie ernst eine Meldung erscheint.
+enum class Meldungsart { Schlicht, Kritisch };
+
 /// Wie lange ein Abgeben der Schleife ruht, wenn nichts fällig ist: gezählt höchstens 1 ms, sonst bis zum nächsten
 /// Ereignis.
 enum class Rast { Gezählt, BisEreignis };
@@ -52,7 +55,7 @@ class Oberfläche {
     virtual Anzeige anzeige() const = 0;
     virtual void setzeModus(int Breite, int Höhe) = 0;
 
-    virtual void MsgBox(const std::string &text, const std::string &titel) = 0;
+    virtual void MsgBox(const std::string &text, const std::string &titel, Meldungsart) = 0;
     /// Ohne Wert, wenn der Spieler abbricht.
     virtual std::optional<std::string> InputBox(const std::string &frage, const std::string &titel) = 0;
     virtual void Beep() = 0;

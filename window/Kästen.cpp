@@ -5,8 +5,10 @@
 
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace velmo {
@@ -17,7 +19,7 @@ namespace {
 class Kasten : public QDialog {
   public:
     Kasten(Fenster &fenster, const QString &text, const QString &titel)
-        : QDialog(&fenster, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+        : QDialog(&fenster, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint), fenster(fenster),
           knöpfe(new QDialogButtonBox(QDialogButtonBox::Ok, this)) {
         const double punkt = fenster.vergrößerung(); // Längen des Fensters je Bildpunkt des Entwurfs
         const auto länge = [punkt](int entwurf) { return static_cast<int>(entwurf * punkt); };
@@ -27,15 +29,27 @@ class Kasten : public QDialog {
         zeile->setTextFormat(Qt::PlainText);
         zeile->setWordWrap(true);
         zeile->setMinimumWidth(länge(260));
+        kopf = new QHBoxLayout;
+        kopf->setSpacing(länge(14));
+        kopf->addWidget(zeile);
         auto *spalte = new QVBoxLayout(this);
         spalte->setContentsMargins(länge(20), länge(18), länge(20), länge(14));
         spalte->setSpacing(länge(14));
         spalte->setSizeConstraint(QLayout::SetFixedSize);
-        spalte->addWidget(zeile);
+        spalte->addLayout(kopf);
         spalte->addWidget(knöpfe);
         knöpfe->setCenterButtons(true);
         connect(knöpfe, &QDialogButtonBox::accepted, this, &QDialog::accept);
         connect(knöpfe, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    }
+
+    /// Das Zeichen einer ernsten Meldung.
+    void warne() {
+        auto *zeichen = new QLabel(this);
+        const int breit = static_cast<int>(fenster.vergrößerung() * 32);
+        zeichen->setPixmap(
+            style()->standardIcon(QStyle::SP_MessageBoxCritical).pixmap({breit, breit}, devicePixelRatioF()));
+        kopf->insertWidget(0, zeichen, 0, Qt::AlignTop);
     }
 
     QLineEdit *fügeFeldEin() {
@@ -52,12 +66,18 @@ class Kasten : public QDialog {
     }
 
   private:
+    Fenster &fenster;
+    QHBoxLayout *kopf; // Zeichen und Text
     QDialogButtonBox *knöpfe;
 };
 
 } // namespace
 
-void melde(Fenster &fenster, const QString &text, const QString &titel) { Kasten(fenster, text, titel).exec(); }
+void melde(Fenster &fenster, const QString &text, const QString &titel, Meldungsart art) {
+    Kasten kasten(fenster, text, titel);
+    if (art == Meldungsart::Kritisch) kasten.warne();
+    kasten.exec();
+}
 
 std::optional<std::string> frageNach(Fenster &fenster, const QString &frage, const QString &titel) {
     Kasten kasten(fenster, frage, titel);

@@ -1,5 +1,7 @@
 #pragma once
 // Meldungen und Fragen in eigenen kleinen Fenstern, in der Gestalt des Spiels.
+#include "platform/Oberfläche.h"
+
 #include <QString>
 
 #include <optional>
@@ -9,7 +11,7 @@ namespace velmo {
 
 class Fenster;
 
-void melde(Fenster &, const QString &text, const QString &titel);
+void melde(Fenster &, const QString &text, const QString &titel, Meldungsart);
 /// Ohne Wert, wenn der Spieler abbricht.
 std::optional<std::string> frageNach(Fenster &, const QString &frage, const QString &titel);
 

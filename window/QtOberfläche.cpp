@@ -186,10 +186,10 @@ void QtOberfläche::setzeModus(int Breite, int Höhe) {
     gemerkteAnzeige.Höhe = Höhe;
 }
 
-void QtOberfläche::MsgBox(const std::string &t, const std::string &titel) {
+void QtOberfläche::MsgBox(const std::string &t, const std::string &titel, Meldungsart art) {
     const Halt halt(hält);
     if (!ausnahme) fenster->folge();
-    melde(*fenster, text(t), text(titel));
+    melde(*fenster, text(t), text(titel), art);
 }
 
 std::optional<std::string> QtOberfläche::InputBox(const std::string &frage, const std::string &titel) {

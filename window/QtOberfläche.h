@@ -35,7 +35,7 @@ class QtOberfläche : public Oberfläche {
     Anzeige anzeige() const override { return gemerkteAnzeige; }
     void setzeModus(int Breite, int Höhe) override;
 
-    void MsgBox(const std::string &text, const std::string &titel) override;
+    void MsgBox(const std::string &text, const std::string &titel, Meldungsart) override;
     std::optional<std::string> InputBox(const std::string &frage, const std::string &titel) override;
     void Beep() override;
 
