@@ -43,6 +43,12 @@ template <class C> bool gibBild(Programm &p, const Form &form, Control &c) {
     return mitBild;
 }
 
+/// Der eigene Mauszeiger liegt neben dem Bild seines Elements.
+Picture zeiger(Programm &p, const Form &form, const Control &c) {
+    const std::string name = std::string(form.Name) + "/" + c.Name + "Zeiger";
+    return bild(p, "formen/" + name, name);
+}
+
 } // namespace
 
 Picture Bildladen(Programm &p, int Id, const std::string &Typ) {
@@ -56,6 +62,8 @@ void Entwurfsbilder(Programm &p, Form &form) {
     form.Icon = bild(p, "formen/velmo", "velmo");
     for (Control *c : form.Controls())
         gibBild<Image>(p, form, *c) || gibBild<PictureBox>(p, form, *c) || gibBild<SSCommand>(p, form, *c);
+    for (Control *c : form.Controls())
+        if (auto *sichtbar = dynamic_cast<VisualControl *>(c)) sichtbar->MouseIcon = zeiger(p, form, *c);
 }
 
 } // namespace velmo

@@ -58,6 +58,7 @@ void VisualControl::zähleAuf(const Namensempfänger &e) {
     e("Enabled", zugang(Enabled));
     e("ToolTipText", zugang(ToolTipText));
     e("DragMode", zugang(DragMode));
+    e("MouseIcon", zugang(MouseIcon));
 }
 
 Schriftelement::Schriftelement(Behälter wo, const char *Name, Rechteck r, std::string text)

@@ -59,6 +59,8 @@ class VisualControl : public Control {
     Eigenschaft<std::string> ToolTipText{*this, ""};
     /// Solange wahr, beginnt ein Druck mit der linken Taste ein Ziehen.
     Eigenschaft<bool> DragMode{*this, false};
+    /// Der eigene Mauszeiger, seine Spitze in der Mitte; leer: der übliche.
+    Eigenschaft<velmo::Picture> MouseIcon{*this, {}};
 
     Handler Click, DblClick;
     Maushandler MouseDown, MouseUp;

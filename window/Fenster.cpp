@@ -21,6 +21,7 @@ namespace velmo {
 namespace {
 
 constexpr QSize Entwurf(800, 600);
+constexpr double Zeigerbild = 768; // Twips: 64 Bildpunkte des Entwurfs im Geviert
 constexpr int Ruhezeit = 150;      // ms
 constexpr double Ziehgröße = 1.75; // das Gezogene ist größer, damit man es unter dem Zeiger sieht
 
@@ -157,9 +158,19 @@ void Fenster::folgeZeiger(Punkt p) {
     const Treffer t = u.p.eingabe.trifft(p);
     Qt::CursorShape zeiger = Qt::ArrowCursor;
     if (t.control && t.control->Click) zeiger = Qt::PointingHandCursor;
+    if (t.control && !t.control->MouseIcon().leer()) return setzeZeiger(t.control->MouseIcon());
     if (t.control && t.control->DragMode) zeiger = Qt::OpenHandCursor;
     if (u.p.eingabe.gezogen()) zeiger = Qt::ClosedHandCursor;
     if (anzeige.cursor().shape() != zeiger) anzeige.setCursor(zeiger);
+}
+
+/// Ein eigener Zeiger, so groß wie das Fenster ihn zeigt; Qt hält ihn in seiner Mitte.
+void Fenster::setzeZeiger(const Picture &eigener) {
+    const int breit = maß.punkt(Zeigerbild);
+    QPixmap bild = u.bilder.bild(eigener.Datei, {breit, breit});
+    bild.setDevicePixelRatio(maß.dichte);
+    const QCursor zeiger(bild);
+    if (anzeige.cursor() != zeiger) anzeige.setCursor(zeiger);
 }
 
 Punkt Fenster::ort(const QMouseEvent &e) const {

@@ -43,6 +43,7 @@ class Fenster : public QWidget {
     void folgeVorderster(const std::vector<Form *> &);
     void folgeGezogenem();
     void folgeZeiger(Punkt);
+    void setzeZeiger(const Picture &);
     Punkt ort(const QMouseEvent &) const;
 
     Umgebung &u;
