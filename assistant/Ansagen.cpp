@@ -13,13 +13,13 @@ constexpr int Augenrollen = 10, Frage = 100;
 constexpr int LangerSatz = 111;       // Zeichen, ab denen die Blase weiterrückt
 constexpr int LesezeitJeZeichen = 42; // ms
 
-/// Wartet, bis die Figur ganz oben ist, aber nicht ewig. Wer später wartet, kommt zuerst heraus.
+/// Wartet, bis die Figur ganz oben ist. Wer später wartet, kommt zuerst heraus: mit Absicht so.
 void warteAufFigur(Programm &p, double zuwachs, double grenze) {
     double zähler = 0;
     while (p.form<Assistent>().Top > Assistent::Oben) {
         zähler += zuwachs;
         p.DoEvents();
-        if (zähler > grenze) break;
+        if (zähler > grenze) break; // mit Absicht, wo immer sie steht
     }
 }
 

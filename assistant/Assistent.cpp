@@ -67,7 +67,8 @@ void Assistent::Hochfahr_Timer() {
     p.verstecke(Sprech::Formname);
 }
 
-/// Am Ziel: längere Sätze bewegen den Mund zwei- oder dreimal. Unter 3 Zeichen bleibt er zu und die Blase verborgen.
+/// Am Ziel: längere Sätze bewegen den Mund zwei- oder dreimal. Unter 3 Zeichen bleibt er zu und die Blase
+/// verborgen, mit Absicht.
 void Assistent::Start1_Timer() {
     BlaseAnlegen(p);
     const int länge = p.Zustand.Satzlänge;

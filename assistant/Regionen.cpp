@@ -7,7 +7,7 @@ namespace velmo {
 
 namespace {
 
-// Die letzte Ecke wiederholt die vorletzte mit Absicht.
+// Die letzte Ecke wiederholt die vorletzte: mit Absicht so.
 constexpr std::array<Regionspunkt, 4> Zipfel = {{{380, 302}, {460, 330}, {403, 279}, {403, 279}}};
 
 /// Rechnet die Maße eines Umrisses in Bildpunkte der Form um; gerundet wird zur nächsten, Hälften zur geraden Zahl.

@@ -74,7 +74,8 @@ void Sprech::Timer1_Timer() {
     Timer1.Enabled = false;
 }
 
-/// Einmal je Satz rückt ein langer Text weiter; einen zu kurzen lässt der Schnitt stehen.
+/// Einmal je Satz rückt ein langer Text weiter, mit Absicht auch der nächste Satz, wenn er schon da steht; einen zu
+/// kurzen lässt der Schnitt stehen.
 void Sprech::Timer2_Timer() {
     Timer2.Enabled = false;
     const std::string satz = Label1.Caption;
@@ -87,7 +88,7 @@ void Sprech::VScroll1_Change() {
         Abgeschnitten = Links(satz, Rollschnitt);
         Label1.Caption = ohneAnfang(satz, Rollschnitt); // ein kürzerer Satz beendet das Programm, mit Absicht so
     } else {
-        Label1.Caption = Abgeschnitten + satz;
+        Label1.Caption = Abgeschnitten + satz; // mit Absicht auch vor einen anderen Satz
     }
 }
 

@@ -29,7 +29,7 @@ constexpr Blickzeile Blicktafel[] = {
     {1, 3, 0}, {4, 13, 1}, {14, 16, 2}, {17, 21, 3}, {23, 25, 2}, {26, 26, 3}, {27, 29, 0}, {30, 30, 3},
 };
 
-/// Schiebt den Wert in Schritten von 5 Twips bis ans Ziel oder knapp darüber hinaus.
+/// Schiebt den Wert in Schritten von 5 Twips bis ans Ziel oder, mit Absicht, knapp darüber hinaus.
 double herangefahren(double wert, double ziel) {
     const double schritt = wert >= ziel ? -5 : 5;
     while (schritt < 0 ? wert > ziel : wert < ziel)
@@ -94,7 +94,7 @@ class Fahrt {
         if (z.Aktivcomputer == "s") ++z.Rundenzähler;
     }
 
-    /// Auf jedem Feld steht nur ein Auto; ein ausgeschiedenes hält seins besetzt.
+    /// Auf jedem Feld steht nur ein Auto; ein ausgeschiedenes hält seins besetzt: mit Absicht so.
     bool rücktWeiter() {
         const bool besetzt = std::ranges::any_of(
             AlleAutos, [&](Autokürzel anderes) { return anderes != k && z.Autos[anderes].Autoziel == wagen.Autoziel; });

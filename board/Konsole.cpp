@@ -39,6 +39,7 @@ void fahre(Programm &p, const Fahrbefehl &befehl) {
 
 } // namespace
 
+/// Sie ist mit Absicht für jeden offen.
 void Konsole(Programm &p) {
     const auto text = p.InputBox(" ", " ");
     if (!text) return;

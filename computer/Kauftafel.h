@@ -28,7 +28,7 @@ struct Kaufzeile {
     int Gruppe, Grenze;                         // Gruppe 1 bis 3 muss unter der Grenze liegen; 0: keine
     int Schwelle;                               // darunter endet die ganze Überlegung; 0: keine
     Münze Vorab;
-    bool NurOhneGruppe1; // ein freies gilt nur als frei, solange Gruppe 1 leer ist
+    bool NurOhneGruppe1; // ein freies gilt nur als frei, solange Gruppe 1 leer ist: mit Absicht so
     int Freischwelle;    // darunter endet die Überlegung bei einem freien; 0: keine
     Münze Frei;
     int Preis;
@@ -77,17 +77,16 @@ struct Siedlung {
     const char *Zwangsmeldung; // und der eines erzwungenen
 };
 
-// Royals Zwangspreis von 12500 und die Zwangsmeldung "Taj", die niemand kennt, sind mit Absicht so.
 inline constexpr std::array<Siedlung, 8> Siedlungen = {{
     // Hotel Anlieger  Gruppe Zwang  Meldung      erzwungen
     {H::b, "Boomerang", 2,    250, "Boomerang", "Boomerang"},
     {H::p, "President", 1,   1750, "President", "President"},
     {H::w, "Waikiki",   2,   1250, "Waikiki",   "Waikiki"},
-    {H::t, "Taj",       3,    750, "Taj Mahal", "Taj"},
+    {H::t, "Taj",       3,    750, "Taj Mahal", "Taj"}, // die Zwangsmeldung kennt niemand: mit Absicht so
     {H::s, "Safari",    3,   1000, "Safari",    "Safari"},
     {H::f, "Fujijama",  2,    500, "Fujijama",  "Fujijama"},
     {H::l, "Etoile",    1,   1500, "Etoile",    "Etoile"},
-    {H::r, "Royal",     2,  12500, "Royal",     "Royal"},
+    {H::r, "Royal",     2,  12500, "Royal",     "Royal"}, // mit Absicht nicht 1250
 }};
 
 struct Stufenzeile {

@@ -8,7 +8,8 @@
 
 namespace velmo {
 
-/// Eine ganze Zahl mit 16 Bit; wer sie über -32768 bis 32767 hinaus setzt, bekommt Laufzeitfehler (Überlauf).
+/// Eine ganze Zahl mit 16 Bit; wer sie über -32768 bis 32767 hinaus setzt, bekommt Laufzeitfehler (Überlauf):
+/// mit Absicht auch mitten in einer Buchung.
 class Kurz {
   public:
     constexpr Kurz() = default;

@@ -19,7 +19,7 @@ struct Auto {
     int Grundbild; // das erste seiner vier Bilder
     /// Welche Autos c1, c2 und c3 fahren, wenn der Mensch dieses fährt.
     std::array<Autokürzel, 3> Computer;
-    /// Nur Auto g prüft das Rathaus, bevor es die Runde vollendet.
+    /// Nur Auto g prüft das Rathaus, bevor es die Runde vollendet: mit Absicht so.
     bool RathausVorRunde;
 };
 

@@ -73,7 +73,7 @@ inline constexpr std::array<Eingangsplatz, 51> Plätze = {{
     {49, "Image49", H::b,  2, 50, 100, {8150, 2976, 312, 624}},
     {50, "Image50", H::f,  2, 49, 100, {7710, 2890, 276, 444}},
     {51, "Image51", H::f,  1,  0, 100, {7700, 2400, 264, 504}},
-    {52, "Image52", H::s, 30,  0, 250, {6800, 1640, 348, 204}},
+    {52, "Image52", H::s, 30,  0, 250, {6800, 1640, 348, 204}}, // teurer als die anderen: mit Absicht so
 }};
 // clang-format on
 } // namespace eingangstafel

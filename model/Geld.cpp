@@ -74,6 +74,7 @@ class Abbuchung {
     Lose &betrag;
 };
 
+/// Ein Rest unter 50 DM verfällt: mit Absicht so.
 void bucheDazu(Spielzustand &z, Lose &betrag) {
     while (betrag.Zahl() >= 50) {
         const int note = *std::find_if(Noten.rbegin(), Noten.rend(), [&](int n) { return betrag.Zahl() >= n; });

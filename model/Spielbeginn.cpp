@@ -39,7 +39,7 @@ void SpielZurücksetzen(Spielzustand &z) {
     neu.Gesamtgeld = 12000;
     for (Kurz &geld : neu.Computergeld)
         geld = 12000;
-    setzeNoten(neu, {2, 2, 3, 5, 1}); // das Laden des Bretts gibt den vollen Bestand
+    setzeNoten(neu, {2, 2, 3, 5, 1}); // 2 Hunderter mit Absicht: erst das Laden des Bretts gibt 4
     neu.Bildnummer = 0;
     neu.Programmpfad = z.Programmpfad;
     neu.KleineSchrift = z.KleineSchrift;

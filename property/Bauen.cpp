@@ -31,7 +31,8 @@ std::string Abzugssatz(const Baukosten &stufe, int preis, bool doppelt) {
            "!";
 }
 
-/// Zieht den Preis der Stufe ab; falsch, wenn das Geld nicht reicht und der Mensch pleite ist.
+/// Zieht den Preis der Stufe ab; falsch, wenn das Geld nicht reicht und der Mensch pleite ist, mit Absicht ohne
+/// Warnung.
 bool bezahle(Programm &p, const Baukosten &stufe) {
     const bool doppelt = p.Zustand.Bauergebnis == 2;
     const int preis = doppelt ? stufe.Doppelt : stufe.Kosten;
@@ -104,7 +105,7 @@ void Hochbauen(Programm &p, const std::string &Text) {
     Brett &b = brett(p);
     spieleFrisch(b.Hauscontrol1);
     Image &bild = Baubild(p);
-    p.Zustand.Endhöhe = bild.Height;
+    p.Zustand.Endhöhe = bild.Height; // ein halb gestiegenes bleibt so stehen, mit Absicht
     bild.Wächst = true;
     bild.Height = 0;
     bild.Visible = true;

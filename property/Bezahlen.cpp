@@ -114,7 +114,7 @@ void Bezahlen::würfeln_Click() {
 void Bezahlen::SSCommand1_Click() {
     Spielzustand &z = p.Zustand;
     if (z.Gesamtgeld < z.Miete) Pleitegehen(p, "Spieler", z.Miete, "");
-    // Der Gastgeber bekommt auch von einem Ruinierten alles.
+    // Der Gastgeber bekommt auch von einem Ruinierten alles: mit Absicht so.
     if (const int gastgeber = Computernummer(z.Gastgeber)) z.Computergeld[gastgeber] += z.Miete;
     Geldbuchen(p, int(z.Miete), false);
     p.entlade(Formname);

@@ -21,6 +21,7 @@ bool gegenüberVergeben(const Spielzustand &z, int platz) {
     return gegenüber != 0 && z.Eingang[gegenüber];
 }
 
+/// Was ein vorher gewähltes Hotel anbot, bleibt stehen: mit Absicht so.
 void bietePlätzeAn(Programm &p, const Hoteleingang &h) {
     for (const int platz : h.Plätze()) {
         Image &bild = brett(p).Platzbild(platz);
@@ -82,7 +83,7 @@ void Eingangsauffrischung(Programm &p, Flagge nachKauf) {
         b.Platzbild(platz.Nummer).Visible = true;
     }
     if (nachKauf) {
-        b.Fertig.Enabled = true;
+        b.Fertig.Enabled = true; // mit Absicht auch, solange Noten geschuldet sind
         // Wer vor dem Würfeln setzt, verliert den Wurf dieses Zuges: mit Absicht so.
         b.WüButton.Enabled = false;
     }

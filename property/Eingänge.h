@@ -22,7 +22,6 @@ struct Hoteleingang {
 
 namespace hoteleingänge {
 using H = Hotelkürzel;
-// Die 200 von Waikiki stehen über den Kosten seiner Plätze, und L'Étoile fragt nach zwei fremden: mit Absicht so.
 // clang-format off
 inline constexpr std::array<Hoteleingang, 8> Reihe = {{
     // Hotel Text  Mindestgeld Plätze                       fremde
@@ -31,8 +30,8 @@ inline constexpr std::array<Hoteleingang, 8> Reihe = {{
     {H::p, "presi", 250, {33, 32, 30, 29, 28, 27, 26},     {}},
     {H::t, "taj",   100, {16, 17, 18, 19, 20},             {}},
     {H::b, "boom",  100, {49, 41, 40, 37},                 {}},
-    {H::l, "leth",  250, {47, 46, 15, 14, 13, 12, 31, 34, 35}, {21, 11}},
-    {H::w, "wai",   200, {21, 22, 23, 24, 25},             {}},
+    {H::l, "leth",  250, {47, 46, 15, 14, 13, 12, 31, 34, 35}, {21, 11}}, // voll erst mit fremden: mit Absicht so
+    {H::w, "wai",   200, {21, 22, 23, 24, 25},             {}}, // mehr, als die Plätze kosten: mit Absicht so
     {H::s, "saf",   150, {48, 45, 44, 43, 52},             {}},
 }};
 // clang-format on

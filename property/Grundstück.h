@@ -14,7 +14,7 @@ struct Grundstück {
     int Preis, Zwangspreis;                  // DM
     const char *Schlüssel, *Zwangsschlüssel; // in Hotelliste nach dem Kauf
     Hotelkürzel Schlusspark;                 // wessen Freizeitpark beim Anbauen als letzte Stufe gilt
-    const char *Doppelkaufmeldung = nullptr; // falls es dem Menschen beim Kauf schon gehört; null: ungeprüft
+    const char *Doppelkaufmeldung = nullptr; // falls es dem Menschen schon gehört; null: mit Absicht ungeprüft
     Baustufe Übergangen = Baustufe::H;       // nach welcher Stufe die Bauphase gratis nicht fragt
 };
 
@@ -22,19 +22,18 @@ namespace grundstückstafel {
 using H = Hotelkürzel;
 inline constexpr const char *Fehler = "Fehler in geldfeld_sscommand_click. Senden sie dies bitte an ";
 inline constexpr const char *SafariFehler = "Fehler in geldfeld_sscommand_click safari. Senden sie dies bitte an ";
-// "Boomrang", "Etoile" und "Taj" sind mit Absicht so: der Bau vergleicht mit der Spalte Schlüssel, "Taj" trifft er nie.
-// Ebenso der Zwangspreis von Safari und der Park, nach dem Fujijama fragt.
+// Der Bau vergleicht mit der Spalte Schlüssel.
 // clang-format off
 inline constexpr std::array<Grundstück, 8> Reihe = {{
     // Hotel Preis Zwang Schlüssel    nach Zwang   Park  Meldung  Übergangen
     {H::b,  500,  250, "Boomrang",  "Boomrang",  H::b},
     {H::p, 3500, 1750, "President", "President", H::p},
     {H::w, 2500, 1250, "Waikiki",   "Waikiki",   H::w},
-    {H::t, 1500,  750, "Taj Mahal", "Taj",       H::t},
-    {H::s, 2500, 1000, "Safari",    "Safari",    H::s, SafariFehler},
-    {H::f, 1000,  500, "Fujijama",  "Fujijama",  H::p, Fehler},
+    {H::t, 1500,  750, "Taj Mahal", "Taj",       H::t},               // zweierlei Schlüssel: mit Absicht so
+    {H::s, 2500, 1000, "Safari",    "Safari",    H::s, SafariFehler}, // nicht die Hälfte: mit Absicht so
+    {H::f, 1000,  500, "Fujijama",  "Fujijama",  H::p, Fehler},       // ein fremder Park: mit Absicht so
     {H::l, 3000, 1500, "Etoile",    "Etoile",    H::l, Fehler},
-    {H::r, 2500, 1250, "Royal",     "Royal",     H::r, nullptr, Baustufe::N3},
+    {H::r, 2500, 1250, "Royal",     "Royal",     H::r, nullptr, Baustufe::N3}, // mit Absicht ohne diese Frage
 }};
 // clang-format on
 } // namespace grundstückstafel

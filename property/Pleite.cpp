@@ -65,7 +65,7 @@ void ruiniereComputer(Programm &p, const std::string &wer, int summe) {
     Eingangsauffrischung(p, false);
     z.Verlierermerker = wer;
     z.Siegmerker = z.Gegnerzahl == 1;
-    z.Gegnerzahl -= 1;
+    z.Gegnerzahl -= 1; // mit Absicht auch, wenn niemand so heißt
     Ansagen(p, "Er konnte nicht eimal die Summe von " + std::to_string(summe) + " Bezahlen!", 10);
     aufVerloren<Label>(p, "Label1").Caption = "Der Computer " + z.Verlierermerker + " hat Verloren!";
     p.zeige(Verloren);
@@ -80,7 +80,8 @@ void ruiniereMensch(Programm &p, int summe) {
     p.zeige(Verloren);
 }
 
-/// Nimmt den Schlüssel aus der Liste; was an die leere Stelle nachrückt, wird nicht noch einmal verglichen.
+/// Nimmt den Schlüssel aus der Liste, "Taj" mit Absicht vergebens; was an die leere Stelle nachrückt, wird nicht noch
+/// einmal verglichen.
 void streicheAusListe(Spielzustand &z, const std::string &schlüssel) {
     for (int i = 1; i <= 8; ++i) {
         if (z.Hotelliste[i] != schlüssel) continue;

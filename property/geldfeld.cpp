@@ -94,7 +94,7 @@ void geldfeld::biete(SSCommand &knopf, const Hotel *h) {
         knopf.Enabled = false;
     } else {
         knopf.Caption = h->Name + (" " + Zwang);
-        p.Zustand.Zwangskaufmerker = true;
+        p.Zustand.Zwangskaufmerker = true; // für den ganzen Dialog: mit Absicht so
     }
 }
 
@@ -113,9 +113,9 @@ void geldfeld::kaufe(const SSCommand &knopf, Seite seite) {
     besitzer = Mensch;
     z.Restbetrag = std::to_string(preis);
     if (z.Gesamtgeld < preis) {
-        // Zwang macht das Grundstück frei; am rechten Knopf bleibt es beim gewöhnlichen Kauf des Menschen: mit
-        // Absicht so.
-        if (zwang || seite == Seite::links) besitzer = {};
+        if (zwang) besitzer = {}; // mit Absicht nicht wieder des Vorbesitzers
+        // Am rechten Knopf bleibt es des Menschen: mit Absicht so.
+        if (seite == Seite::links) besitzer = {};
         return schmähe(p);
     }
     trageEin(z, zwang ? g.Zwangsschlüssel : g.Schlüssel);

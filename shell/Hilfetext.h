@@ -1,5 +1,5 @@
 #pragma once
-// Der Hilfetext, Zeile für Zeile; die Schreibung steht mit Absicht so.
+// Der Hilfetext, Zeile für Zeile, in seiner eigenen Schreibung.
 
 namespace velmo {
 

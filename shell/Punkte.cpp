@@ -27,7 +27,7 @@ struct Wertzeile {
 };
 
 // clang-format off
-// Die Folge der Prüfungen entscheidet, auch wo sie seltsam ist (Waikikis drittes Nebengebäude vor dem vierten).
+// Die Folge der Prüfungen entscheidet; Waikikis drittes Nebengebäude steht mit Absicht vor dem vierten.
 constexpr Wertzeile Werttafel[] = {
     {H::p, {steht1(S::P, 10000), steht1(S::N3, 7500), steht1(S::N2, 7000), steht1(S::N1, 6000), steht1(S::H, 4000)}, 1500, 700},
     {H::b, {steht1(S::P, 7000), steht1(S::H, 4000)}, 1000, 700},
