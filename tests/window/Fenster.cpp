@@ -8,6 +8,7 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QTimer>
 
@@ -56,11 +57,18 @@ QWidget *fenster() {
     return nullptr;
 }
 
+double strecke() { return std::min(fenster()->width() / 800.0, fenster()->height() / 600.0); }
+
+/// Wo das Fenster den Bildpunkt des Entwurfs zeigt.
+QPointF ortImFenster(QPointF punkt) {
+    const double s = strecke();
+    return punkt * s + QPointF(fenster()->width() - 800 * s, fenster()->height() - 600 * s) / 2;
+}
+
 /// Eine Taste an dem Bildpunkt des Entwurfs, wo das Fenster ihn zeigt; unten sind danach diese.
 void maus(QPointF punkt, QEvent::Type art, Qt::MouseButton taste, Qt::MouseButtons unten) {
     QWidget &w = *fenster();
-    const double strecke = std::min(w.width() / 800.0, w.height() / 600.0);
-    const QPointF ort = punkt * strecke + QPointF(w.width() - 800 * strecke, w.height() - 600 * strecke) / 2;
+    const QPointF ort = ortImFenster(punkt);
     QMouseEvent e(art, ort, w.mapToGlobal(ort), taste, unten, Qt::NoModifier);
     QApplication::sendEvent(&w, &e);
 }
@@ -68,6 +76,12 @@ void maus(QPointF punkt, QEvent::Type art, Qt::MouseButton taste, Qt::MouseButto
 void klick(double x, double y) {
     maus({x, y}, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
     maus({x, y}, QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+}
+
+/// Der Mauszeiger, wenn die Maus dorthin fährt.
+QCursor zeigerBei(double x, double y) {
+    maus({x, y}, QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
+    return fenster()->childAt(ortImFenster({x, y}).toPoint())->cursor();
 }
 
 bool sichtbar(const Programm &p, const char *form) { return p.geladene(form) && p.geladene(form)->Visible; }
@@ -201,6 +215,51 @@ void prüfeSchritte(Prüfung &t) {
     t.gilt("und halten die Zeitgeber an", !getickt);
 }
 
+void prüfeMeldungsarten(Prüfung &t) {
+    Lauf l;
+    std::vector<bool> mitZeichen;
+    const auto schließeKasten = [&] {
+        QWidget *kasten = QApplication::activeModalWidget();
+        if (!kasten) return false;
+        const auto zeilen = kasten->findChildren<QLabel *>();
+        mitZeichen.push_back(std::ranges::any_of(zeilen, [](const QLabel *l) { return !l->pixmap().isNull(); }));
+        return kasten->close();
+    };
+    l.schritte = {schließeKasten, schließeKasten, [] { return fenster()->close() || true; }};
+    t.gleich("zwei Meldungen", l.laufe([&] {
+        l.p.zeige("Form1");
+        l.p.MsgBox("schlicht");
+        l.p.MsgBox("ernst", Meldungsart::Kritisch);
+    }),
+             0);
+    t.gilt("nur die ernste hat ein Zeichen", mitZeichen == std::vector{false, true});
+}
+
+void prüfeZeiger(Prüfung &t) {
+    Lauf l;
+    QCursor figur, brett;
+    int breite = 0;
+    l.schritte = {[] {
+                      fenster()->resize(1600, 1200);
+                      return true;
+                  },
+                  [&] {
+                      figur = zeigerBei(286, 122); // zwischen den Augen
+                      breite = static_cast<int>(64 * strecke());
+                      brett = zeigerBei(780, 590);
+                      return fenster()->close() || true;
+                  }};
+    t.gleich("über die Figur", l.laufe([&] {
+        l.p.zeige("Form1");
+        l.p.zeige("Assistent");
+        l.p.geladene("Assistent")->Top = 368;
+    }),
+             0);
+    t.gilt("sie hat ihren eigenen Zeiger", figur.shape() == Qt::BitmapCursor);
+    t.gleich("so groß wie das Fenster ihn zeigt", figur.pixmap().deviceIndependentSize().toSize().width(), breite);
+    t.gilt("daneben nicht", brett.shape() != Qt::BitmapCursor);
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
@@ -217,5 +276,7 @@ int main(int argc, char **argv) {
     prüfeLaufzeitfehler(t);
     prüfeRuhe(t);
     prüfeSchritte(t);
+    prüfeMeldungsarten(t);
+    prüfeZeiger(t);
     return t.ende();
 }
