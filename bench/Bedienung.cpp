@@ -44,6 +44,23 @@ Punkt ort(Szene &s, Wörter w) {
     return {ecke.x + liesZahlwort(w[1]), ecke.y + liesZahlwort(w[2])};
 }
 
+/// Wo "F.C" oder "F" auf der Anzeige liegt.
+Rechteck fläche(Szene &s, const std::string &name) {
+    if (name.find('.') == std::string::npos) {
+        const Form &f = s.namen->form(name);
+        return {f.Left, f.Top, f.Width, f.Height};
+    }
+    const auto &c = s.namen->control<VisualControl>(name);
+    const Punkt ecke = Eingabe::ort(c);
+    return {ecke.x, ecke.y, c.Width, c.Height};
+}
+
+/// "X Y BREITE HÖHE" in der Fläche.
+Rechteck teil(const Rechteck &ganz, Wörter w) {
+    if (w.size() < 4) throw Schreibfehler("ein Ausschnitt ist X Y BREITE HÖHE");
+    return {ganz.Left + liesZahlwort(w[0]), ganz.Top + liesZahlwort(w[1]), liesZahlwort(w[2]), liesZahlwort(w[3])};
+}
+
 /// Hin und drücken und los.
 Punkt drückeUndLöse(Szene &s, Wörter w, Maustaste taste) {
     const Punkt hier = ort(s, w);
@@ -83,6 +100,13 @@ void zieh(Szene &s, Wörter w) {
         s.p().eingabe.bewege(hier = ort(s, Wörter(&ziel, 1)));
     if (weg) s.p().eingabe.bewege(hier = Nirgends);
     s.p().eingabe.löse(Maustaste::Links, hier);
+}
+
+void bild(Szene &s, Wörter w) {
+    if (w[0].text.find('/') != std::string::npos) throw Schreibfehler("der Name eines Bildes hat kein /");
+    const Bildschirm schirm = s.p().Screen();
+    const Rechteck ausschnitt = w.size() > 1 ? fläche(s, w[1].text) : Rechteck{0, 0, schirm.Width, schirm.Height};
+    if (s.macheBild) s.macheBild(w[0].text, w.size() > 2 ? teil(ausschnitt, w.subspan(2)) : ausschnitt);
 }
 
 void tippe(Szene &s, Wörter w) { s.p().eingabe.tippe(s.namen->control<TextBox>(w[0].text), liesText(w[1])); }

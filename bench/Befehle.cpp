@@ -126,6 +126,7 @@ constexpr Befehlseintrag Befehlstafel[] = {
     {"setze",        3, 3,        setze},
     {"ruf",          1, Beliebig, ruf},
     {"zeige",        1, 1,        zeige,       true},
+    {"bild",         1, 6,        bild},
     {"erwarte",      2, Beliebig, erwarte,     true},
     {"datei",        1, Beliebig, datei},
     {"bytes",        2, Beliebig, bytes},

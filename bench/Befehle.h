@@ -36,6 +36,7 @@ void drück(Szene &, Wörter);
 void los(Szene &, Wörter);
 void maus(Szene &, Wörter);
 void zieh(Szene &, Wörter);
+void bild(Szene &, Wörter);
 void tippe(Szene &, Wörter);
 void taste(Szene &, Wörter);
 void wähle(Szene &, Wörter);

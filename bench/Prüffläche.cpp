@@ -43,6 +43,15 @@ void Prüffläche::ton(MMControl &c, Befehl befehl, bool warten) {
     buch += Worte[static_cast<std::size_t>(befehl)];
 }
 
-void Prüffläche::öffneFilm(Animation &, const std::string &Datei) { liesAvi(liesDatei(Datei)); }
+void Prüffläche::öffneFilm(Animation &c, const std::string &Datei) {
+    liesAvi(liesDatei(Datei));
+    Filme[&c] = {Datei};
+}
+
+void Prüffläche::spieleFilm(Animation &c) {
+    if (const auto film = Filme.find(&c); film != Filme.end()) film->second.Beginn = Uhr;
+}
+
+void Prüffläche::vergiss(const Control &c) { Filme.erase(&c); }
 
 } // namespace velmo

@@ -24,6 +24,12 @@ struct Eingabefrage {
     std::string Frage, Titel;
 };
 
+/// Ein geöffneter Film und seit wann er läuft.
+struct Filmlauf {
+    std::string Datei;
+    std::optional<Zeit> Beginn = {};
+};
+
 class Prüffläche : public Oberfläche {
   public:
     // Was das Skript oder ein anderer Fahrer bestimmt.
@@ -39,7 +45,8 @@ class Prüffläche : public Oberfläche {
     std::deque<Meldung> Meldungen;
     std::deque<Eingabefrage> Fragen;
     std::map<std::string, std::string> Töne; // "Form.Element": die Befehle seit der letzten Nachfrage
-    std::optional<Anzeige> Modus;            // der zuletzt eingestellte
+    std::map<const Control *, Filmlauf> Filme;
+    std::optional<Anzeige> Modus; // der zuletzt eingestellte
 
     /// Vor einem neuen Programm: Vorgaben und Bücher leer, die Anzeige wie vorgefunden.
     void leere();
@@ -62,8 +69,8 @@ class Prüffläche : public Oberfläche {
     long Position(const MMControl &) override { return 0; }
     long Length(const MMControl &) override { return 0; }
     void öffneFilm(Animation &, const std::string &Datei) override;
-    void spieleFilm(Animation &) override {}
-    void vergiss(const Control &) override {}
+    void spieleFilm(Animation &) override;
+    void vergiss(const Control &) override;
 };
 
 /// Der Name, unter dem ein Element im Skript steht: "Form.Element".

@@ -44,6 +44,8 @@ class Szene {
     std::unique_ptr<Namen> namen;
     Wert ergebnis; // des letzten ruf
     bool gestartet = false;
+    /// Wer Bilder macht: der Name und der Ausschnitt der Anzeige in Twips. Ohne ihn sagt "bild" nichts.
+    std::function<void(const std::string &name, const Rechteck &)> macheBild;
 
     Programm &p() { return *programm; }
     /// Startet das Programm wie ein Spieler; lief es schon, ein neues im selben Ordner.

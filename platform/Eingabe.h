@@ -48,6 +48,8 @@ class Eingabe {
     void zieheForm(Form &);
     /// Die Quelle eines laufenden Ziehens und der Ort des Zeigers darin; null ohne Ziehen.
     const VisualControl *gezogen() const { return quelle; }
+    /// Ist eine Maustaste auf einer Form gedrückt?
+    bool hält() const { return gedrückt.form; }
     Punkt zeiger() const { return letzterOrt; }
 
     /// Die Form wird entladen: nichts darf mehr auf sie zeigen.

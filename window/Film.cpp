@@ -21,13 +21,16 @@ void Film::spiele() {
 }
 
 void Film::schritt() {
-    const std::size_t letztes = aufbau.Bilder.size() - 1;
-    const auto jetzt =
-        std::min(static_cast<std::size_t>(static_cast<double>(uhr.elapsed()) / aufbau.Bildzeit), letztes);
-    if (jetzt == letztes) takt.stop();
-    if (jetzt == gezeigt) return;
-    zeige(jetzt);
-    if (neuesBild) neuesBild();
+    const std::size_t vorher = gezeigt;
+    zeigeStand(uhr.elapsed());
+    if (gezeigt == aufbau.Bilder.size() - 1) takt.stop();
+    if (gezeigt != vorher && neuesBild) neuesBild();
+}
+
+void Film::zeigeStand(Zeit ms) {
+    const auto nummer = static_cast<std::size_t>(static_cast<double>(ms) / aufbau.Bildzeit);
+    const std::size_t jetzt = std::min(nummer, aufbau.Bilder.size() - 1);
+    if (jetzt != gezeigt) zeige(jetzt);
 }
 
 /// Ein Bild, das sich nicht lesen lässt, lässt das vorige stehen.

@@ -1,6 +1,7 @@
 #pragma once
 // Ein Film, von vorn bis hinten abgespielt.
 #include "media/Avi.h"
+#include "platform/Oberfläche.h"
 
 #include <QElapsedTimer>
 #include <QImage>
@@ -17,6 +18,8 @@ class Film {
     explicit Film(const std::string &Datei);
 
     void spiele();
+    /// Zeigt das Bild nach so vielen ms, zuletzt das letzte.
+    void zeigeStand(Zeit ms);
     const QImage &bild() const { return gezeigtes; }
     /// Wird bei jedem neuen Bild gerufen.
     std::function<void()> neuesBild;
