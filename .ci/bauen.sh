@@ -2,8 +2,9 @@
 # Verzeichnisses. Ein zweiter Aufruf ohne Neues kostet eine Frage an dpkg und einen Blick von ninja.
 
 Baupakete="g++ cmake ninja-build qt6-base-dev libsdl2-dev libsdl2-mixer-dev"
-# Was das Spiel erst beim Spielen braucht: Schriften und den Klangsatz der Musik.
-Spielpakete="fonts-comic-neue fonts-lato fonts-urw-base35 fonts-dejavu-core timgm6mb-soundfont"
+# Was das Spiel erst beim Spielen braucht: Schriften, auch für die Bilder der Prüfung, und den Klangsatz der Musik.
+Schriftpakete="fonts-comic-neue fonts-lato fonts-urw-base35 fonts-dejavu-core"
+Spielpakete="$Schriftpakete timgm6mb-soundfont"
 
 # Als Verwalter, ohne Rückfrage.
 alsVerwalter() {

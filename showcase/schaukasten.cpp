@@ -42,6 +42,8 @@ int main(int zahl, char **worte) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(zahl, worte);
     gestalteProgramm();
+    if (const QStringList fehlend = fehlendeSchriften(); !fehlend.isEmpty())
+        std::cout << "Hier fehlen Schriften: " << fehlend.join(", ").toStdString() << '\n';
 
     QCommandLineParser zeile;
     zeile.addHelpOption();

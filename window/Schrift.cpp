@@ -1,7 +1,7 @@
 #include "window/Schrift.h"
 
+#include <QFontDatabase>
 #include <QFontMetricsF>
-#include <QStringList>
 
 #include <cmath>
 
@@ -44,6 +44,14 @@ QFont schrift(const std::string &Name, double Schriftgrad, bool fett, double pun
     f.setWeight(fett ? z.fett : z.normal);
     f.setPixelSize(std::max(1, static_cast<int>(std::lround(Schriftgrad * JeGrad * z.grad * punkte))));
     return f;
+}
+
+QStringList fehlendeSchriften() {
+    QStringList fehlend;
+    for (const Schriftzeile &z : Schrifttafel)
+        if (!QFontDatabase::hasFamily(z.hier)) fehlend << z.hier;
+    fehlend.removeDuplicates();
+    return fehlend;
 }
 
 QFont eingepasst(QFont f, const QSizeF &platz, int ausrichtung, const QString &text) {

@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QSizeF>
 #include <QString>
+#include <QStringList>
 
 #include <string>
 
@@ -17,6 +18,9 @@ constexpr double Satzpunkte = 8;
 /// Die Schrift des Entwurfs; punkte sind ihre Einheiten je Bildpunkt des Entwurfs. Schriftgrade gelten bei 120 DPI: ein
 /// Punkt sind 20 Twips.
 QFont schrift(const std::string &Name, double Schriftgrad, bool fett, double punkte);
+
+/// Die Schriften, für die das System nur Ersatz hat.
+QStringList fehlendeSchriften();
 
 /// Verkleinert die Schrift, bis der umbrochene Text in das Rechteck passt, höchstens auf gut die Hälfte.
 QFont eingepasst(QFont, const QSizeF &, int ausrichtung, const QString &text);
