@@ -72,7 +72,25 @@ Punkt drückeUndLöse(Szene &s, Wörter w, Maustaste taste) {
 
 } // namespace
 
-void klick(Szene &s, Wörter w) { drückeUndLöse(s, w, Maustaste::Links); }
+/// Ein Klick mit Ort oder ohne, oder auf mehrere Elemente nacheinander.
+void klick(Szene &s, Wörter w) {
+    double zahl = 0;
+    if (w.size() == 1 || liesZahl(w[1].text, zahl)) {
+        if (w.size() > 3) throw Schreibfehler("klick: da steht zu viel");
+        drückeUndLöse(s, w, Maustaste::Links);
+        return;
+    }
+    std::vector<std::string> zeilen;
+    for (const Wort &wort : w)
+        zeilen.push_back("klick " + wort.text);
+    s.schiebeEin(zeilen);
+}
+
+/// Ein Würfel beginnt mit dem Klick und steht nach einem Takt.
+void würfle(Szene &s, Wörter w) {
+    const std::string knopf = "klick " + (w.size() > 1 ? w[1].text : "Form1.WüButton");
+    s.schiebeEin({knopf, "zufall " + w[0].text, "warte 100", knopf});
+}
 
 void rechts(Szene &s, Wörter w) { drückeUndLöse(s, w, Maustaste::Rechts); }
 

@@ -27,6 +27,23 @@ void spiel(Szene &s, Wörter w) {
                   "ruhe"});
 }
 
+/// Setzt das Auto so, dass der Wurf es auf das Feld bringt, und fährt.
+void lande(Szene &s, Wörter w) {
+    const int feld = liesGanzzahl(w[1]), wurf = w.size() > 2 ? liesGanzzahl(w[2]) : 1;
+    if (feld < 1 || feld > 30 || wurf < 0 || wurf > 6) throw Schreibfehler("es heißt lande AUTO FELD [WURF]");
+    const std::string von = std::to_string(feld > wurf ? feld - wurf : feld - wurf + 30);
+    s.schiebeEin(
+        {"setze ErsteRundeVorbei = wahr Autofeld(" + w[0].text + ") = " + von + " Wurf = " + std::to_string(wurf),
+         "ruf Autofahrt " + zitiere(w[0].text), "ruhe"});
+}
+
+void tafel(Szene &s, Wörter w) { s.beginneTafel(w); }
+
+void zeile(Szene &s, Wörter w) {
+    if (!s.tafel) throw Schreibfehler("eine Zeile ohne Tafel");
+    s.schiebeEin(s.tafel->zeilen(w));
+}
+
 int positiv(const Wort &w) {
     const int n = liesGanzzahl(w);
     if (n <= 0) throw Schreibfehler(w.text + " ist nicht größer als 0");
@@ -43,10 +60,12 @@ void anzeige(Szene &s, Wörter w) {
 }
 
 void antwort(Szene &s, Wörter w) {
-    if (w[0].ist("abbrechen"))
-        s.fläche.Antworten.push_back(std::nullopt);
-    else
-        s.fläche.Antworten.push_back(liesText(w[0]));
+    for (const Wort &wort : w) {
+        if (wort.ist("abbrechen"))
+            s.fläche.Antworten.push_back(std::nullopt);
+        else
+            s.fläche.Antworten.push_back(liesText(wort));
+    }
 }
 
 Zeit liesDauer(const Wort &w) {
@@ -71,8 +90,7 @@ void bis(Szene &s, Wörter w) {
     if (v.Name == "zeit") grenze = std::clamp(static_cast<Zeit>(alsZahl(v.erwartet)), s.fläche.Uhr, grenze);
     s.beginne({.grenze = grenze,
                .erfüllt = [&s, v] { return v.gilt(s); },
-               .gescheitert =
-                   [&s, v] { s.prüfe(false, v.Name + " ist " + schreibe(s.finde(v.Name).lies()), v.Erwartung()); }});
+               .gescheitert = [&s, v] { s.prüfe(false, v.Ist(s), v.Erwartung()); }});
 }
 
 void zufall(Szene &s, Wörter w) {
@@ -87,11 +105,12 @@ void zufall(Szene &s, Wörter w) {
 void saat(Szene &s, Wörter w) { s.fläche.Erzeuger.seed(static_cast<std::uint64_t>(liesGanzzahl(w[0]))); }
 
 void setze(Szene &s, Wörter w) {
-    const Vergleich v = liesVergleich(w);
-    const Zugang ziel = s.finde(v.Name);
-    if (!v.Gleichheit) throw Schreibfehler("es heißt setze NAME = WERT");
-    if (!ziel.setze) throw Schreibfehler(v.Name + " lässt sich nicht setzen");
-    s.p().behandle([&] { ziel.setze(v.erwartet); });
+    for (const Vergleich &v : liesVergleiche(w)) {
+        const Zugang ziel = s.finde(v.Name);
+        if (!v.Gleichheit) throw Schreibfehler("es heißt setze NAME = WERT");
+        if (!ziel.setze) throw Schreibfehler(v.Name + " lässt sich nicht setzen");
+        s.p().behandle([&] { ziel.setze(v.erwartet); });
+    }
 }
 
 void zeige(Szene &s, Wörter w) {
@@ -106,9 +125,10 @@ constexpr Befehlseintrag Befehlstafel[] = {
     {"menü",         0, 0,        menü,        true},
     {"spiel",        3, 3,        spiel,       true},
     {"anzeige",      1, 3,        anzeige},
-    {"klick",        1, 3,        klick},
+    {"klick",        1, Beliebig, klick},
     {"rechts",       1, 3,        rechts},
     {"doppelklick",  1, 3,        doppelklick},
+    {"würfle",       1, 2,        würfle},
     {"drück",        1, 3,        drück},
     {"los",          1, 3,        los},
     {"maus",         1, 3,        maus},
@@ -117,17 +137,20 @@ constexpr Befehlseintrag Befehlstafel[] = {
     {"taste",        2, 2,        taste},
     {"wähle",        2, 2,        wähle},
     {"schließe",     1, 1,        schließe},
-    {"antwort",      1, 1,        antwort},
+    {"antwort",      1, Beliebig, antwort},
     {"warte",        1, 1,        warte},
     {"bis",          3, 4,        bis},
     {"ruhe",         0, 0,        ruhe},
     {"zufall",       1, Beliebig, zufall},
     {"saat",         1, 1,        saat},
-    {"setze",        3, 3,        setze},
+    {"setze",        3, Beliebig, setze},
+    {"lande",        2, 3,        lande},
     {"ruf",          1, Beliebig, ruf},
     {"zeige",        1, 1,        zeige,       true},
     {"bild",         1, 6,        bild},
     {"erwarte",      2, Beliebig, erwarte,     true},
+    {"tafel",        1, Beliebig, tafel,       true},
+    {"|",            1, Beliebig, zeile,       true},
     {"datei",        1, Beliebig, datei},
     {"bytes",        2, Beliebig, bytes},
     {"ordner",       1, 1,        ordner},
@@ -139,6 +162,7 @@ constexpr Befehlseintrag Befehlstafel[] = {
 } // namespace
 
 const Befehlseintrag &findeBefehl(Wörter zeile) {
+    if (zeile.empty()) throw Schreibfehler("neben dem Schrägstrich fehlt ein Befehl");
     const auto befehl = std::ranges::find_if(Befehlstafel, [&](const auto &b) { return zeile[0].ist(b.Name); });
     if (befehl == std::end(Befehlstafel)) throw Schreibfehler("unbekannter Befehl " + zeile[0].text);
     const std::size_t zahl = zeile.size() - 1;

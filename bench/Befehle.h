@@ -24,11 +24,16 @@ struct Vergleich {
     bool Gleichheit;
     Wert erwartet;
     bool gilt(Szene &) const;
+    std::string Ist(Szene &) const;
     std::string Erwartung() const;
+    std::string geschrieben(const Wert &) const;
 };
 Vergleich liesVergleich(Wörter);
+/// Einen Vergleich oder mehrere.
+std::vector<Vergleich> liesVergleiche(Wörter);
 
 // Maus und Tastatur.
+void würfle(Szene &, Wörter);
 void klick(Szene &, Wörter);
 void rechts(Szene &, Wörter);
 void doppelklick(Szene &, Wörter);

@@ -38,18 +38,25 @@ std::optional<Meldungsart> liesMeldungsart(const Wort &w) {
 }
 
 void erwarteMeldung(Szene &s, Wörter w) {
-    brauche(w.size() <= 2);
-    const std::string &text = liesText(w[0]);
-    const auto art = w.size() == 2 ? liesMeldungsart(w[1]) : std::nullopt;
-    const auto beide = [&](const std::string &t, Meldungsart a) {
-        return zitiere(t) + (art ? std::string(" ") + Meldungsworte[static_cast<std::size_t>(a)] : "");
-    };
-    const std::string erwartet = beide(text, art.value_or(Meldungsart::Schlicht));
+    brauche(!w.empty());
     auto &buch = s.fläche.Meldungen;
-    if (buch.empty()) return s.prüfe(false, "meldung ist leer", erwartet);
-    const Meldung &alt = buch.front();
-    s.prüfe(passt(alt.Text, text) && (!art || alt.Art == *art), "meldung ist " + beide(alt.Text, alt.Art), erwartet);
-    buch.pop_front();
+    while (!w.empty()) {
+        const std::string &text = liesText(w[0]);
+        const auto art = w.size() > 1 && !w[1].zitiert ? liesMeldungsart(w[1]) : std::nullopt;
+        w = w.subspan(art ? 2 : 1);
+        const auto beide = [&](const std::string &t, Meldungsart a) {
+            return zitiere(t) + (art ? std::string(" ") + Meldungsworte[static_cast<std::size_t>(a)] : "");
+        };
+        const std::string erwartet = beide(text, art.value_or(Meldungsart::Schlicht));
+        if (buch.empty()) {
+            s.prüfe(false, "meldung ist leer", erwartet);
+            continue;
+        }
+        const Meldung &alt = buch.front();
+        s.prüfe(passt(alt.Text, text) && (!art || alt.Art == *art), "meldung ist " + beide(alt.Text, alt.Art),
+                erwartet);
+        buch.pop_front();
+    }
 }
 
 void erwarteEingabe(Szene &s, Wörter w) {
@@ -79,21 +86,21 @@ void erwarteKeine(Szene &s, Wörter w) {
 
 /// Auch ein Element, dessen Form es nicht mehr gibt, hat seine Befehle im Buch.
 void erwarteTon(Szene &s, Wörter w) {
-    brauche(w.size() == 2);
+    brauche(!w.empty() && w.size() % 2 == 0);
     auto &buch = s.fläche.Töne;
-    const auto hier = buch.find(w[0].text);
-    if (hier == buch.end()) s.namen->control<MMControl>(w[0].text);
-    const std::string ist = hier == buch.end() ? "" : std::exchange(hier->second, "");
-    s.prüfe(ist == liesText(w[1]), "ton " + w[0].text + " ist " + zitiere(ist), zitiere(w[1].text));
+    for (; !w.empty(); w = w.subspan(2)) {
+        const auto hier = buch.find(w[0].text);
+        if (hier == buch.end()) s.namen->control<MMControl>(w[0].text);
+        const std::string ist = hier == buch.end() ? "" : std::exchange(hier->second, "");
+        s.prüfe(ist == liesText(w[1]), "ton " + w[0].text + " ist " + zitiere(ist), zitiere(w[1].text));
+    }
 }
 
-void erwarteFehler(Szene &s, Wörter w) {
+Wert liesFehlerart(const Wort &w) {
     static constexpr std::array Worte = {"überlauf", "typ", "index", "argument", "datei", "keiner", "ende"};
-    brauche(w.size() == 2 && (w[0].ist("=") || w[0].ist("<>")));
-    if (std::ranges::none_of(Worte, [&](const char *wort) { return w[1].ist(wort); }))
-        throw Schreibfehler("unbekannte Fehlerart " + w[1].text);
-    const std::string zeichen = w[0].ist("=") ? "" : "<> ";
-    s.prüfe((w[1].text == s.fehler()) == zeichen.empty(), std::string("fehler ist ") + s.fehler(), zeichen + w[1].text);
+    if (std::ranges::none_of(Worte, [&](const char *wort) { return w.ist(wort); }))
+        throw Schreibfehler("unbekannte Fehlerart " + w.text);
+    return w.text;
 }
 
 std::vector<std::string> zeilen(const std::string &text) {
@@ -136,8 +143,11 @@ struct Erwartungsart {
     void (*prüfe)(Szene &, Wörter);
 };
 
-constexpr Erwartungsart Arten[] = {{"meldung", erwarteMeldung}, {"eingabe", erwarteEingabe}, {"keine", erwarteKeine},
-                                   {"ton", erwarteTon},         {"fehler", erwarteFehler},   {"datei", erwarteDatei}};
+constexpr Erwartungsart Arten[] = {{"meldung", erwarteMeldung},
+                                   {"eingabe", erwarteEingabe},
+                                   {"keine", erwarteKeine},
+                                   {"ton", erwarteTon},
+                                   {"datei", erwarteDatei}};
 
 } // namespace
 
@@ -148,20 +158,33 @@ bool Vergleich::gilt(Szene &s) const {
     return gleich(ist, soll) == Gleichheit;
 }
 
-std::string Vergleich::Erwartung() const { return (Gleichheit ? "" : "<> ") + schreibe(erwartet); }
+std::string Vergleich::geschrieben(const Wert &w) const { return Name == "fehler" ? alsText(w) : schreibe(w); }
+
+std::string Vergleich::Ist(Szene &s) const { return Name + " ist " + geschrieben(s.finde(Name).lies()); }
+
+std::string Vergleich::Erwartung() const { return (Gleichheit ? "" : "<> ") + geschrieben(erwartet); }
 
 Vergleich liesVergleich(Wörter w) {
     if (w.size() != 3 || w[0].zitiert || !(w[1].ist("=") || w[1].ist("<>")))
         throw Schreibfehler("es heißt NAME = WERT oder NAME <> WERT");
-    return {w[0].text, w[1].ist("="), liesWert(w[2])};
+    return {w[0].text, w[1].ist("="), w[0].text == "fehler" ? liesFehlerart(w[2]) : liesWert(w[2])};
+}
+
+std::vector<Vergleich> liesVergleiche(Wörter w) {
+    std::vector<Vergleich> alle;
+    for (; w.size() > 3; w = w.subspan(3))
+        alle.push_back(liesVergleich(w.first(3)));
+    alle.push_back(liesVergleich(w));
+    return alle;
 }
 
 void erwarte(Szene &s, Wörter w) {
     for (const Erwartungsart &art : Arten)
         if (w[0].ist(art.Wort)) return art.prüfe(s, w.subspan(1));
-    const Vergleich v = liesVergleich(w);
-    const bool gilt = v.gilt(s);
-    s.prüfe(gilt, v.Name + " ist " + schreibe(s.finde(v.Name).lies()), v.Erwartung());
+    for (const Vergleich &v : liesVergleiche(w)) {
+        const bool gilt = v.gilt(s);
+        s.prüfe(gilt, v.Ist(s), v.Erwartung());
+    }
 }
 
 } // namespace velmo

@@ -1,5 +1,6 @@
 #include "bench/Namen.h"
 
+#include "bench/Sammelnamen.h"
 #include "bench/Zerlegung.h"
 
 #include <algorithm>
@@ -44,6 +45,7 @@ template <class T> Zugang aufgezählt(T &von, const std::string &gesucht, const 
 
 Namen::Namen(Programm &programm, Prüffläche &fläche) : p(programm) {
     p.Zustand.zähleAuf([this](const std::string &name, Zugang z) { feste[name] = std::move(z); });
+    sammle(feste);
     feste["zeit"] = nurLesbar([&fläche] { return double(fläche.Uhr); });
     feste["Screen.Width"] = nurLesbar([this] { return p.Screen().Width; });
     feste["Screen.Height"] = nurLesbar([this] { return p.Screen().Height; });

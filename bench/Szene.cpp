@@ -16,6 +16,7 @@ struct Skriptende {};
 /// Ein neues Programm soll beginnen, während eine Routine des alten wartet.
 struct Neuanfang {};
 
+constexpr const char *TafelOhneZeilen = "die Tafel hat keine Zeile";
 constexpr std::array Fehlerworte = {"argument", "überlauf", "index", "typ", "datei"};
 
 } // namespace
@@ -23,10 +24,18 @@ constexpr std::array Fehlerworte = {"argument", "überlauf", "index", "typ", "da
 Szene::Szene(std::string name, std::string_view skript) : datei(std::move(name)) {
     if (skript.starts_with("\xEF\xBB\xBF")) skript.remove_prefix(3);
     int nummer = 0;
+    bool setztFort = false; // die Zeile davor endet auf einen umgekehrten Schrägstrich
     std::istringstream zeilen{std::string(skript)};
     for (std::string text; std::getline(zeilen, text);) {
         if (text.ends_with('\r')) text.pop_back();
-        rest.push_back({++nummer, std::move(text)});
+        ++nummer;
+        if (setztFort) {
+            rest.back().text += ' ' + text;
+        } else {
+            rest.push_back({nummer, text});
+        }
+        setztFort = text.ends_with(" \\") && text.find('#') == std::string::npos;
+        if (setztFort) rest.back().text.pop_back();
     }
     fläche.Fahrer = [this] { imWarten(); };
     neuesProgramm();
@@ -53,11 +62,12 @@ void Szene::laufe() {
             beende("ende");
         } catch (const Neuanfang &) {
         } catch (const Skriptende &) {
-            return;
+            break;
         } catch (const std::exception &fehler) {
             return scheitere(fehler.what());
         }
     }
+    if (ohneZeilen()) scheitere(TafelOhneZeilen);
 }
 
 void Szene::nächsterBefehl() {
@@ -65,6 +75,7 @@ void Szene::nächsterBefehl() {
     try {
         führeAus();
     } catch (const Schreibfehler &fehler) {
+        tafel.reset();
         scheitere(fehler.what());
         throw Skriptende{};
     }
@@ -83,6 +94,14 @@ void Szene::führeAus() {
         rest.pop_front();
         zeile = hier.nummer;
         wörter = zerlege(hier.text);
+    }
+    if (const auto teile = zerteile(wörter); teile.size() > 1 && !istTafelzeile(wörter[0])) {
+        std::vector<std::string> zeilen;
+        for (const auto &teil : teile) {
+            findeBefehl(teil);
+            zeilen.push_back(schreibe(teil));
+        }
+        return schiebeEin(zeilen);
     }
     const Befehlseintrag &befehl = findeBefehl(wörter);
     if (ende != std::string_view("keiner") && !befehl.auchAmEnde)
@@ -114,10 +133,23 @@ void Szene::neuesProgramm() {
     namen = std::make_unique<Namen>(*programm, fläche);
 }
 
-void Szene::schiebeEin(std::initializer_list<std::string> zeilen) {
+void Szene::schiebeEin(const std::vector<std::string> &zeilen) {
     std::size_t stelle = 0;
     for (const std::string &text : zeilen)
         rest.insert(rest.begin() + static_cast<std::ptrdiff_t>(stelle++), {zeile, text});
+}
+
+void Szene::beginneTafel(Wörter kopf) {
+    if (ohneZeilen()) throw Schreibfehler(TafelOhneZeilen);
+    tafel.emplace(kopf);
+    tafelkopf = zeile;
+}
+
+/// Hat die Tafel keine Zeile, so prüft sie nichts; der Fehler steht in ihrem Kopf.
+bool Szene::ohneZeilen() {
+    if (!tafel || !tafel->ohneZeilen()) return false;
+    zeile = tafelkopf;
+    return true;
 }
 
 void Szene::beende(const char *fehler) {

@@ -4,6 +4,7 @@
 #include "bench/Namen.h"
 #include "bench/Programmordner.h"
 #include "bench/Prüffläche.h"
+#include "bench/Tafel.h"
 #include "bench/Zerlegung.h"
 
 #include <deque>
@@ -44,6 +45,7 @@ class Szene {
     std::unique_ptr<Namen> namen;
     Wert ergebnis; // des letzten ruf
     bool gestartet = false;
+    std::optional<Tafel> tafel; // deren Zeilen gerade gespielt werden
     /// Wer Bilder macht: der Name und der Ausschnitt der Anzeige in Twips. Ohne ihn sagt "bild" nichts.
     std::function<void(const std::string &name, const Rechteck &)> macheBild;
 
@@ -51,7 +53,8 @@ class Szene {
     /// Startet das Programm wie ein Spieler; lief es schon, ein neues im selben Ordner.
     void starte();
     /// Setzt Zeilen vor den Rest des Skripts.
-    void schiebeEin(std::initializer_list<std::string> zeilen);
+    void schiebeEin(const std::vector<std::string> &zeilen);
+    void beginneTafel(Wörter kopf);
     void beginne(Zeitbefehl);
     /// Ist das Programm zur Ruhe gekommen?
     bool ruhig() const;
@@ -70,6 +73,7 @@ class Szene {
     };
 
     void neuesProgramm();
+    bool ohneZeilen();
     void laufe();
     void nächsterBefehl();
     void führeAus();
@@ -86,6 +90,7 @@ class Szene {
     const std::string datei;
     std::deque<Zeile> rest;
     int zeile = 0;
+    int tafelkopf = 0; // die Zeile, in der die Tafel beginnt
     Bilanz bilanz;
     std::optional<Zeitbefehl> zeitbefehl;
     Zeit letzteRegung = 0; // als zuletzt ein Zeitgeber fällig war, der die Ruhe stört

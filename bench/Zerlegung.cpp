@@ -1,5 +1,6 @@
 #include "bench/Zerlegung.h"
 
+#include <cctype>
 #include <cmath>
 
 namespace velmo {
@@ -60,6 +61,17 @@ std::vector<Wort> zerlege(const std::string &zeile) {
     }
 }
 
+std::vector<std::vector<Wort>> zerteile(std::span<const Wort> wörter) {
+    std::vector<std::vector<Wort>> teile(1);
+    for (const Wort &w : wörter) {
+        if (w.ist("/"))
+            teile.emplace_back();
+        else
+            teile.back().push_back(w);
+    }
+    return teile;
+}
+
 Wert liesWert(const Wort &w) {
     if (w.zitiert) return w.text;
     if (w.text == "wahr" || w.text == "falsch") return w.text == "wahr";
@@ -69,9 +81,13 @@ Wert liesWert(const Wort &w) {
 
 double liesZahlwort(const Wort &w) {
     double zahl = 0;
-    if (w.zitiert || w.text.find(',') != std::string::npos || !liesZahl(w.text, zahl))
+    if (!w.zitiert && w.text.find(',') == std::string::npos && liesZahl(w.text, zahl)) return zahl;
+    const auto zeichen = w.zitiert ? std::string::npos : w.text.find_last_of("+-");
+    if (zeichen == std::string::npos || zeichen == 0 || zeichen + 1 == w.text.size() ||
+        !std::isdigit(static_cast<unsigned char>(w.text[zeichen - 1])))
         throw Schreibfehler(w.text + " ist keine Zahl");
-    return zahl;
+    const double davor = liesZahlwort({w.text.substr(0, zeichen)}), danach = liesZahlwort({w.text.substr(zeichen + 1)});
+    return w.text[zeichen] == '+' ? davor + danach : davor - danach;
 }
 
 int liesGanzzahl(const Wort &w) {
@@ -96,6 +112,15 @@ std::string zitiere(const std::string &text) {
         ergebnis += c;
     }
     return ergebnis + '"';
+}
+
+std::string schreibe(const Wort &w) { return w.zitiert ? zitiere(w.text) : w.text; }
+
+std::string schreibe(const std::vector<Wort> &zeile) {
+    std::string text;
+    for (const Wort &w : zeile)
+        text += (text.empty() ? "" : " ") + schreibe(w);
+    return text;
 }
 
 std::string schreibe(const Wert &w) {
