@@ -68,11 +68,13 @@ void Schriftelement::zähleAuf(const Namensempfänger &e) {
     VisualControl::zähleAuf(e);
     e("FontName", zugang(FontName));
     e("FontSize", zugang(FontSize));
+    e("FontBold", zugang(FontBold));
     e("ForeColor", zugang(ForeColor));
 }
 
 void Label::zähleAuf(const Namensempfänger &e) {
     Schriftelement::zähleAuf(e);
+    e("Alignment", zugang(Alignment));
     e("Caption", zugang(Caption));
 }
 
@@ -127,6 +129,7 @@ Shape::Shape(Behälter wo, const char *Name, Rechteck r, Gestalt gestalt)
 void Shape::zähleAuf(const Namensempfänger &e) {
     VisualControl::zähleAuf(e);
     e("BorderWidth", zugang(BorderWidth));
+    e("BorderColor", zugang(BorderColor));
 }
 
 Line::Line(Behälter wo, const char *Name, double x1, double y1, double x2, double y2)
@@ -139,6 +142,7 @@ void Line::zähleAuf(const Namensempfänger &e) {
     e("x2", zugang(x2));
     e("y2", zugang(y2));
     e("BorderWidth", zugang(BorderWidth));
+    e("BorderColor", zugang(BorderColor));
     e("Visible", zugang(Visible));
 }
 

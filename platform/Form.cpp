@@ -31,6 +31,7 @@ void Form::zähleAuf(const Namensempfänger &e) {
     e("Topmost", zugang(Topmost));
     e("Caption", zugang(Caption));
     e("Tag", zugang(Tag));
+    e("BackColor", zugang(BackColor));
     e("Picture", zugang(Picture));
     e("Region", {[this] { return Wert(fensterregion.has_value()); }, {}});
     eigeneWerte(e);
