@@ -2,7 +2,7 @@
 
 #include "assistant/Assistent.h"
 #include "assistant/Sprech.h"
-#include "model/Brett.h"
+#include "boardform/Brett.h"
 #include "platform/Zeichen.h"
 
 namespace velmo {

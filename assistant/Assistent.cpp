@@ -2,7 +2,6 @@
 
 #include "assistant/Regionen.h"
 #include "assistant/Sprech.h"
-#include "media/Bilder.h"
 
 namespace velmo {
 
@@ -23,8 +22,8 @@ void BlaseAnlegen(Programm &p) {
 }
 
 Assistent::Assistent(Programm &programm) : Form(programm, Formname, {2316, Oben, 2040, 1944}, "Dorvin"), p(programm) {
-    BackColor = Farbe{0xFFFFFF};
-    Shape1.BorderColor = Farbe{0x5A2800};
+    BackColor = farbe::Weiß;
+    Shape1.BorderColor = farbe::Blasenrand;
     Image1.Click = [this] { Timer1.Enabled = true; };
     Image1.MouseDown = [this](auto...) { BlaseAnlegen(p); };
     Runterfahr.Tick = [this] { Runterfahr_Timer(); };
@@ -40,7 +39,6 @@ Assistent::Assistent(Programm &programm) : Form(programm, Formname, {2316, Oben,
     Timer2.Tick = [this] { Timer2_Timer(); };
     Timer3.Tick = [this] { Timer3_Timer(); };
     Timer4.Tick = [this] { Timer4_Timer(); };
-    Entwurfsbilder(p, *this);
 }
 
 void Assistent::Form_Load() {
@@ -50,9 +48,7 @@ void Assistent::Form_Load() {
 
 void Assistent::Form_Unload() { ImmerOben(*this, false); }
 
-void Assistent::eigeneWerte(const Namensempfänger &e) {
-    e("Augenzähler", {[this] { return alsWert(Augenzähler); }, [this](const Wert &w) { ausWert(w, Augenzähler); }});
-}
+void Assistent::eigeneWerte(const Namensempfänger &e) { e("Augenzähler", feldzugang(Augenzähler)); }
 
 void Assistent::Runterfahr_Timer() {
     Top += 100;

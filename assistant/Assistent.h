@@ -7,7 +7,7 @@ namespace velmo {
 
 class Assistent : public Form {
   public:
-    static constexpr const char *Formname = "Assistent";
+    static constexpr Formularname Formname = formular::Assistent;
     /// Top, wenn die Figur ganz oben ist.
     static constexpr double Oben = -2532;
     explicit Assistent(Programm &);

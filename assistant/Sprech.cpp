@@ -2,7 +2,6 @@
 
 #include "assistant/Assistent.h"
 #include "assistant/Regionen.h"
-#include "media/Bilder.h"
 #include "model/Spielbeginn.h"
 #include "platform/Zeichen.h"
 
@@ -11,7 +10,6 @@ namespace velmo {
 namespace {
 
 constexpr int Rollschnitt = 25, Zeitschnitt = 30; // Zeichen
-constexpr Farbe Blasenrand{0x5A2800};
 
 /// Der Text ohne seine ersten n Zeichen; einer mit weniger Zeichen ist ein Laufzeitfehler (Argument).
 std::string ohneAnfang(const std::string &text, int n) { return Rechts(text, Zeichenzahl(text) - n); }
@@ -22,16 +20,15 @@ Sprech::Sprech(Programm &programm) : Form(programm, Formname, {-1200, -2076, 556
     BackColor = Farbe{0x904000};
     Label1.FontName = "Comic Sans MS";
     Label1.FontSize = 7.5; // sechs Zeilen
-    Label1.ForeColor = Farbe{0xFFFFFF};
+    Label1.ForeColor = farbe::Weiß;
     for (Line *linie : {&Line1, &Line2, &Line3, &Line4, &Line5})
-        linie->BorderColor = Blasenrand;
+        linie->BorderColor = farbe::Blasenrand;
     zeigeKnöpfe(false);
     Command1.Click = [this] { Command1_Click(); };
     Command2.Click = [this] { Command2_Click(); };
     Timer1.Tick = [this] { Timer1_Timer(); };
     Timer2.Tick = [this] { Timer2_Timer(); };
     VScroll1.Change = [this] { VScroll1_Change(); };
-    Entwurfsbilder(p, *this);
 }
 
 void Sprech::Form_Load() {
@@ -39,10 +36,7 @@ void Sprech::Form_Load() {
     setzeRegion(Sprechblasenregion(p, 1, 1, 0, 0));
 }
 
-void Sprech::eigeneWerte(const Namensempfänger &e) {
-    e("Abgeschnitten",
-      {[this] { return alsWert(Abgeschnitten); }, [this](const Wert &w) { ausWert(w, Abgeschnitten); }});
-}
+void Sprech::eigeneWerte(const Namensempfänger &e) { e("Abgeschnitten", feldzugang(Abgeschnitten)); }
 
 void Sprech::schreibe(const std::string &Text) {
     Label1.Caption = Text;
@@ -58,9 +52,9 @@ void Sprech::Command1_Click() {
     zeigeKnöpfe(false);
     Label1.Caption = "Tschüß";
     p.form<Assistent>().Hochfahr.Enabled = true;
-    p.entlade("Form1");
+    p.entlade(formular::Form1);
     SpielZurücksetzen(p.Zustand);
-    p.zeige("Menu");
+    p.zeige(formular::Menu);
 }
 
 /// Mit Absicht so: das Brett bleibt gesperrt.

@@ -6,7 +6,7 @@ namespace velmo {
 
 class Sprech : public Form {
   public:
-    static constexpr const char *Formname = "Sprech";
+    static constexpr Formularname Formname = formular::Sprech;
     explicit Sprech(Programm &);
 
     Line Line1{*this, "Line1", 2760, 3480, 3120, 3650};

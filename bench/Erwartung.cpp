@@ -12,12 +12,6 @@ namespace velmo {
 
 namespace {
 
-std::string klein(std::string text) {
-    for (char &c : text)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    return text;
-}
-
 /// Ganz gleich, oder, wo die Erwartung auf … endet, ihr Anfang.
 bool passt(const std::string &text, const std::string &erwartet) {
     static const std::string Rest = "…";

@@ -56,10 +56,10 @@ std::set<int> kaufbeträge(Hotelkürzel k, bool warFrei) {
             if (zeile.Hotel == k) beträge.insert(-zeile.Preis);
     };
     if (!warFrei) return {0};
-    aus(kauftafel::StapelA);
-    aus(kauftafel::StapelB);
-    aus(kauftafel::StapelC);
-    beträge.insert(-kauftafel::siedlung(k).Zwangspreis);
+    aus(StapelA);
+    aus(StapelB);
+    aus(StapelC);
+    beträge.insert(-siedlung(k).Zwangspreis);
     return beträge;
 }
 
@@ -67,7 +67,7 @@ std::set<int> kaufbeträge(Hotelkürzel k, bool warFrei) {
 /// genommen wurde, baut dort weiter.
 std::set<int> baubeträge(Hotelkürzel k, Baustufe s) {
     std::set<int> beträge{0};
-    for (const auto &zeile : bautafel::Zeilen)
+    for (const auto &zeile : Bautafel)
         if (zeile.Hotel == k && zeile.Stand == s) beträge.insert({-zeile.Preis, -zeile.Doppelt});
     for (const auto &zeile : Baukostentafel)
         if (zeile.Hotel == k && zeile.Stand == s) beträge.insert({-zeile.Kosten, -zeile.Doppelt});

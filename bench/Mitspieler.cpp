@@ -1,9 +1,9 @@
 #include "bench/Mitspieler.h"
 
-#include "model/Brett.h"
+#include "boardform/Brett.h"
 #include "model/Feldtabelle.h"
 #include "property/Bauen.h"
-#include "property/Eingänge.h"
+#include "property/Eingangskauf.h"
 #include "property/Exchange.h"
 #include "property/Grundstück.h"
 

@@ -2,6 +2,7 @@
 
 #include "bench/Sammelnamen.h"
 #include "bench/Zerlegung.h"
+#include "platform/Zeichen.h"
 
 #include <algorithm>
 
@@ -10,12 +11,6 @@ namespace velmo {
 namespace {
 
 Zugang nurLesbar(std::function<Wert()> lies) { return {std::move(lies), {}}; }
-
-std::string klein(std::string text) {
-    for (char &c : text)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    return text;
-}
 
 /// Ein Pfad gilt vom Programmordner aus und mit /.
 Zugang pfadzugang(Zugang voll, const std::string &ordner) {
@@ -66,9 +61,9 @@ Zugang Namen::finde(const std::string &Name) {
 }
 
 Zugang Namen::eigenschaft(const std::string &Form, const std::string &Rest) {
-    prüfeForm(Form);
-    const bool geladen = p.geladene(Form);
-    if (Rest == "Loaded") return nurLesbar([this, Form] { return p.geladene(Form) != nullptr; });
+    const Formularname benannt = formular(Form);
+    const bool geladen = p.geladene(benannt);
+    if (Rest == "Loaded") return nurLesbar([this, benannt] { return p.geladene(benannt) != nullptr; });
     if (Rest == "Visible" && !geladen) return nurLesbar([] { return false; });
     const auto punkt = Rest.substr(0, Rest.find('(')).find('.');
     if (punkt == std::string::npos) return aufgezählt(form(Form), Rest, Form + "." + Rest);
@@ -93,13 +88,14 @@ Zugang Namen::region(const std::string &Name) {
     });
 }
 
-void Namen::prüfeForm(const std::string &Name) {
-    if (!p.kennt(Name)) throw Schreibfehler("unbekannte Form " + Name);
+Formularname Namen::formular(const std::string &Name) const {
+    const auto formular = p.formular(Name);
+    if (!formular) throw Schreibfehler("unbekannte Form " + Name);
+    return *formular;
 }
 
 Form &Namen::form(const std::string &Name) {
-    prüfeForm(Name);
-    Form *form = p.geladene(Name);
+    Form *form = p.geladene(formular(Name));
     if (!form) throw Schreibfehler("die Form " + Name + " ist nicht geladen");
     return *form;
 }

@@ -25,7 +25,7 @@ class Namen {
         falscheArt(Name);
     }
     /// Wirft Schreibfehler, wenn das Programm die Form nicht hat.
-    void prüfeForm(const std::string &Name);
+    Formularname formular(const std::string &Name) const;
 
   private:
     [[noreturn]] static void falscheArt(const std::string &Name);

@@ -6,18 +6,18 @@
 #include "assistant/Regionen.h"
 #include "board/Autofahrt.h"
 #include "board/Landung.h"
-#include "computer/Bauen.h"
-#include "computer/Bauphase.h"
-#include "computer/Eingänge.h"
-#include "computer/Landkauf.h"
+#include "boardform/Kasse.h"
 #include "computer/Zufallsentscheid.h"
+#include "computer/kibaufeld.h"
+#include "computer/kibauphase.h"
+#include "computer/kieingang.h"
+#include "computer/kigeldfeld.h"
 #include "media/Bilder.h"
 #include "model/Autotafel.h"
-#include "model/Geld.h"
 #include "model/Spielbeginn.h"
 #include "platform/FormAnpassen.h"
 #include "property/Bauen.h"
-#include "property/Eingänge.h"
+#include "property/Eingangskauf.h"
 #include "property/Grundstück.h"
 #include "property/Miete.h"
 #include "property/Pleite.h"
@@ -54,10 +54,7 @@ bool flagge(const Wort &w) {
     return w.ist("wahr");
 }
 
-Form &form(Programm &p, Szene &s, const Wort &w) {
-    s.namen->prüfeForm(w.text);
-    return p.lade(w.text);
-}
+Form &form(Programm &p, Szene &s, const Wort &w) { return p.lade(s.namen->formular(w.text)); }
 
 Wert geldbuchen(Programm &p, Wörter w) {
     auto betrag = wert<Lose>(w[0]);

@@ -4,7 +4,7 @@
 #include "bench/Mitspieler.h"
 #include "bench/Programmordner.h"
 #include "bench/Prüffläche.h"
-#include "model/Brett.h"
+#include "boardform/Brett.h"
 #include "shell/Formtafel.h"
 
 #include <algorithm>

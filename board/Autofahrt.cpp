@@ -3,11 +3,11 @@
 #include "assistant/Ansagen.h"
 #include "board/Landung.h"
 #include "board/Quetschen.h"
+#include "boardform/Brett.h"
 #include "media/Bilder.h"
 #include "media/Ton.h"
-#include "model/Brett.h"
 #include "model/Feldtabelle.h"
-#include "property/Eingänge.h"
+#include "property/Eingangskauf.h"
 
 #include <algorithm>
 #include <optional>

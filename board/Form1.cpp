@@ -5,12 +5,11 @@
 #include "board/Musik.h"
 #include "board/Quetschen.h"
 #include "board/Zug.h"
+#include "boardform/Kasse.h"
 #include "media/Bilder.h"
-#include "model/Geld.h"
 #include "model/Spielbeginn.h"
-#include "platform/FormAnpassen.h"
 #include "property/Bauen.h"
-#include "property/Eingänge.h"
+#include "property/Eingangskauf.h"
 #include "property/Exchange.h"
 
 namespace velmo {
@@ -18,7 +17,8 @@ namespace velmo {
 namespace {
 
 // Die Dialoge, die mit dem Brett gehen.
-constexpr const char *Dialoge[] = {"geldfeld", "Baufeld", "Bauphase", "eingang", "Bezahlen", "Exchange", "Karten"};
+constexpr Formularname Dialoge[] = {formular::geldfeld, formular::Baufeld,  formular::Bauphase, formular::eingang,
+                                    formular::Bezahlen, formular::Exchange, formular::Karten};
 
 // Hohe Gebäude, hinter die man sehen kann.
 constexpr std::pair<Hotelkürzel, Baustufe> Durchsichtige[] = {
@@ -33,43 +33,39 @@ Form1::Form1(Programm &programm) : Brett(programm), p(programm) {
     verbindeZeitgeber();
     verbindeStapel();
     verbindeBrettbild();
-    Picture8.Picture = Bildladen(p, 201, "Wuerfel");
-    Picture7.Picture = Bildladen(p, 301, "Wuerfel");
-    for (const Auto &a : Autotafel)
-        Autobild(a.Kürzel).Picture = Bildladen(p, a.Grundbild, "Auto");
 }
 
 void Form1::verbindeKnöpfe() {
-    WüButton.Click = [this] { WüButton_Click(p); };
-    Fertig.Click = [this] { Fertig_Click(p); };
+    WüButton.Click = [this] { Würfelknopf(p); };
+    Fertig.Click = [this] { Fertigknopf(p); };
     Command1.Click = [this] {
         p.Zustand.Gratiseingang = false;
-        p.zeige("eingang");
+        p.zeige(formular::eingang);
     };
-    Command2.Click = [this] { p.zeige("Karten"); };
+    Command2.Click = [this] { p.zeige(formular::Karten); };
     SSCommand1.Click = [this] { Ansagen(p, "Wollen Sie wirklich beenden?", 100); };
     SSCommand2.Click = [this] { ExchangeÖffnen(p); };
     Picture2.Click = SSCommand2.Click;
-    SSCommand3.Click = [this] { p.zeige("frmHilfe"); };
+    SSCommand3.Click = [this] { p.zeige(formular::frmHilfe); };
     Label1.MouseDown = [this](Maustaste taste, double, double) { Label1_MouseDown(taste); };
 }
 
 void Form1::verbindeZeitgeber() {
-    Timer1.Tick = [this] { Timer1_Timer(p); };
-    Timer2.Tick = [this] { Timer2_Timer(p); };
+    Timer1.Tick = [this] { Fahrwürfeltakt(p); };
+    Timer2.Tick = [this] { Bauwürfeltakt(p); };
     Timer3.Tick = [this] { Notenflug(p); };
-    Timer4.Tick = [this] { Timer4_Timer(p); };
-    überfahR.Tick = [this] { überfahR_Timer(p); };
-    BauTimer.Tick = [this] { BauTimer_Timer(p); };
-    pfeilTimer.Tick = [this] { pfeilTimer_Timer(p); };
-    Midi.Tick = [this] { Midi_Timer(p); };
+    Timer4.Tick = [this] { WartezeitUm(p); };
+    überfahR.Tick = [this] { Quetschtakt(p); };
+    BauTimer.Tick = [this] { Steigtakt(p); };
+    pfeilTimer.Tick = [this] { Pfeiltakt(p); };
+    Midi.Tick = [this] { Musiktakt(p); };
 }
 
 void Form1::verbindeStapel() {
     for (Notenstapel &s : Stapel) {
         s.g.Click = [this, note = s.Note] { Notenzahlung(p, note); };
         s.k.Click = s.g.Click;
-        s.g.MouseMove = [&s](double, double) { s.g.BorderStyle = 1; };
+        s.g.MouseMove = [&s](double, double) { s.g.BorderStyle = Rand::Einfach; };
     }
 }
 
@@ -91,13 +87,16 @@ void Form1::verbindeBrettbild() {
     }
     for (const Eingangsplatz &platz : Eingangsplätze) {
         Image &bild = Platzbild(platz.Nummer);
-        bild.DragOver = [this, &platz](VisualControl &, Ziehzustand z) { PlatzDragOver(p, platz.Nummer, z); };
-        bild.DragDrop = [this, &platz](VisualControl &) { PlatzDragDrop(p, platz.Nummer); };
+        bild.DragOver = [this, &platz](VisualControl &, Ziehzustand z) { EingangÜberPlatz(p, platz.Nummer, z); };
+        bild.DragDrop = [this, &platz](VisualControl &) { EingangAufPlatz(p, platz.Nummer); };
     }
 }
 
 void Form1::Form_Load() {
-    if (p.Zustand.KleineSchrift) FormAnpassen(*this, 2);
+    Picture8.Picture = Bildladen(p, 201, "Wuerfel");
+    Picture7.Picture = Bildladen(p, 301, "Wuerfel");
+    for (const Auto &a : Autotafel)
+        Autobild(a.Kürzel).Picture = Bildladen(p, a.Grundbild, "Auto");
     GroßesBrett = p.Zustand.KleineSchrift;
     Spielbeginn(p.Zustand);
     Scheinanzeige(p);
@@ -105,17 +104,17 @@ void Form1::Form_Load() {
 }
 
 void Form1::Form_Unload() {
-    for (const char *dialog : Dialoge)
+    for (const Formularname dialog : Dialoge)
         p.entlade(dialog);
 }
 
 void Form1::Form_MouseMove() {
     Geldlabel.Caption = std::to_string(p.Zustand.Gesamtgeld);
     for (Notenstapel &s : Stapel)
-        s.g.BorderStyle = 0;
+        s.g.BorderStyle = Rand::Ohne;
 }
 
-void Form1::Form_Click() { p.entlade("Exchange"); }
+void Form1::Form_Click() { p.entlade(formular::Exchange); }
 
 void Form1::Label1_MouseDown(Maustaste taste) {
     if (taste == Maustaste::Rechts) Konsole(p);

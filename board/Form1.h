@@ -1,6 +1,6 @@
 #pragma once
 // Das Brett im Spiel: seine Behandlungen rufen die Regeln der Räume.
-#include "model/Brett.h"
+#include "boardform/Brett.h"
 
 namespace velmo {
 

@@ -1,14 +1,14 @@
 #include "board/Landung.h"
 
 #include "assistant/Ansagen.h"
-#include "computer/Bauen.h"
-#include "computer/Bauphase.h"
-#include "computer/Eingänge.h"
-#include "computer/Landkauf.h"
+#include "boardform/Brett.h"
+#include "boardform/Kasse.h"
+#include "computer/kibaufeld.h"
+#include "computer/kibauphase.h"
+#include "computer/kieingang.h"
+#include "computer/kigeldfeld.h"
 #include "media/Ton.h"
-#include "model/Brett.h"
 #include "model/Feldtabelle.h"
-#include "model/Geld.h"
 #include "property/Miete.h"
 
 #include <algorithm>
@@ -22,15 +22,15 @@ constexpr int Bankgeld = 2000;
 /// Was ein Feld den beiden Arten von Gästen bringt.
 struct Ereignis {
     Feldart Art;
-    const char *Dialog;                       // für den Menschen
+    Formularname Dialog;                      // für den Menschen
     void (*Computer)(Programm &, Autokürzel); // für einen Computer
 };
 
 constexpr Ereignis Ereignistafel[] = {
-    {Feldart::Kauffeld, "geldfeld", [](Programm &p, Autokürzel) { kigeldfeld(p); }},
-    {Feldart::Baugenehmigung, "Baufeld", [](Programm &p, Autokürzel) { kibaufeld(p); }},
-    {Feldart::Bauphase, "Bauphase", [](Programm &p, Autokürzel) { kibauphase(p); }},
-    {Feldart::Eingang, "eingang", [](Programm &p, Autokürzel k) { kieingang(p, true, k); }},
+    {Feldart::Kauffeld, formular::geldfeld, [](Programm &p, Autokürzel) { kigeldfeld(p); }},
+    {Feldart::Baugenehmigung, formular::Baufeld, [](Programm &p, Autokürzel) { kibaufeld(p); }},
+    {Feldart::Bauphase, formular::Bauphase, [](Programm &p, Autokürzel) { kibauphase(p); }},
+    {Feldart::Eingang, formular::eingang, [](Programm &p, Autokürzel k) { kieingang(p, true, k); }},
 };
 
 const Ereignis &ereignis(Feldart art) {

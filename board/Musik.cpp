@@ -1,7 +1,7 @@
 #include "board/Musik.h"
 
+#include "boardform/Brett.h"
 #include "media/Ton.h"
-#include "model/Brett.h"
 
 namespace velmo {
 
@@ -28,7 +28,7 @@ void beginneMusik(Programm &p) {
     spieleStück(p);
 }
 
-void Midi_Timer(Programm &p) {
+void Musiktakt(Programm &p) {
     MMControl &musik = brett(p).MMControl1;
     if (musik.Position() != musik.Length()) return;
     p.Zustand.TrauerMusik = false;

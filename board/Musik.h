@@ -7,6 +7,6 @@ namespace velmo {
 /// Gibt den Medienelementen des Bretts ihre Dateien und beginnt mit dem ersten Stück.
 void beginneMusik(Programm &);
 /// Ein Takt des Zeitgebers Midi: ist das Stück zu Ende, folgt das nächste.
-void Midi_Timer(Programm &);
+void Musiktakt(Programm &);
 
 } // namespace velmo

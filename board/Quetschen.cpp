@@ -1,6 +1,6 @@
 #include "board/Quetschen.h"
 
-#include "model/Brett.h"
+#include "boardform/Brett.h"
 
 namespace velmo {
 
@@ -44,7 +44,7 @@ void stelleQuetschbildHer(Programm &p, Autodaten &wagen) {
     wagen.Quetschmerker = false;
 }
 
-void überfahR_Timer(Programm &p) {
+void Quetschtakt(Programm &p) {
     Brett &b = brett(p);
     Image *bild = b.Gebäude(p.Zustand.Quetschbild);
     if (bild) {

@@ -10,6 +10,6 @@ void quetsche(Programm &, Autodaten &wagen);
 /// Stellt das Quetschbild wieder her, weil der Wagen weiterfährt.
 void stelleQuetschbildHer(Programm &, Autodaten &wagen);
 /// Ein Takt des Zeitgebers überfahR.
-void überfahR_Timer(Programm &);
+void Quetschtakt(Programm &);
 
 } // namespace velmo

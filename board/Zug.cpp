@@ -1,9 +1,9 @@
 #include "board/Zug.h"
 
 #include "board/Autofahrt.h"
+#include "boardform/Brett.h"
 #include "media/Bilder.h"
 #include "media/Ton.h"
-#include "model/Brett.h"
 #include "property/Bauen.h"
 
 #include <algorithm>
@@ -104,14 +104,14 @@ void Computerzug(Programm &p, int computer, Autokürzel wagen) {
 
 } // namespace
 
-void WüButton_Click(Programm &p) {
+void Würfelknopf(Programm &p) {
     if (p.Zustand.Baumodus == "s")
         rolleBauwürfel(p);
     else
         rolleFahrwürfel(p);
 }
 
-void Fertig_Click(Programm &p) {
+void Fertigknopf(Programm &p) {
     Brett &b = brett(p);
     if (b.Timer4.Enabled) return; // ein Computer ist noch am Zug; sein gratis Bau hat den Knopf schon eingeschaltet
     p.Zustand.AmZug += 1;
@@ -122,7 +122,7 @@ void Fertig_Click(Programm &p) {
     b.Fertig.Enabled = false;
 }
 
-void Timer1_Timer(Programm &p) {
+void Fahrwürfeltakt(Programm &p) {
     Spielzustand &z = p.Zustand;
     Brett &b = brett(p);
     if (z.Wartelauf == 0 && z.Computerphase == 1 && !b.Timer4.Enabled) {
@@ -136,12 +136,12 @@ void Timer1_Timer(Programm &p) {
     z.Rohwurf = 1;
 }
 
-void Timer2_Timer(Programm &p) {
+void Bauwürfeltakt(Programm &p) {
     p.Zustand.Bauwürfel = p.Zufallszahl(6) + 1;
     brett(p).Picture7.Picture = Bildladen(p, 300 + static_cast<int>(p.Zustand.Bauwürfel.Zahl()), "Wuerfel");
 }
 
-void Timer4_Timer(Programm &p) {
+void WartezeitUm(Programm &p) {
     Spielzustand &z = p.Zustand;
     z.Wartelauf = 0;
     brett(p).Timer1.Enabled = false;

@@ -4,13 +4,13 @@
 
 namespace velmo {
 
-void WüButton_Click(Programm &);
-void Fertig_Click(Programm &);
+void Würfelknopf(Programm &);
+void Fertigknopf(Programm &);
 /// Ein Takt des Fahrwürfels; beginnt auch die Wartezeit eines Computers.
-void Timer1_Timer(Programm &);
+void Fahrwürfeltakt(Programm &);
 /// Ein Takt des Bauwürfels.
-void Timer2_Timer(Programm &);
+void Bauwürfeltakt(Programm &);
 /// Die Wartezeit ist um: der Computer, der an der Reihe ist, zieht.
-void Timer4_Timer(Programm &);
+void WartezeitUm(Programm &);
 
 } // namespace velmo

@@ -5,14 +5,11 @@
 
 #include <array>
 
-namespace velmo::bautafel {
-
-using H = Hotelkürzel;
-using S = Baustufe;
+namespace velmo {
 
 struct Bauzeile {
-    H Hotel;
-    S Stand;
+    Hotelkürzel Hotel;
+    Baustufe Stand;
     const char *Name;
     int Schwelle; // was kibaufeld verlangt
     int Test;     // was kibauen beim einfachen Preis verlangt
@@ -22,7 +19,10 @@ struct Bauzeile {
 };
 
 // clang-format off
-inline constexpr std::array<Bauzeile, 36> Zeilen = {{
+inline constexpr auto Bautafel = [] {
+    using H = Hotelkürzel;
+    using S = Baustufe;
+    return std::to_array<Bauzeile>({
     // Hotel Stufe Name    Schwelle Test Preis Doppelt Ruinsumme
     {H::b, S::H,  "bo1",    2800, 1950, 1800,  3600,  3600},
     {H::b, S::P,  "bop",    1150, 1000,  250,     0,     0},
@@ -60,7 +60,9 @@ inline constexpr std::array<Bauzeile, 36> Zeilen = {{
     {H::s, S::N1, "safn1",  2777, 1200, 1200,  2400,  2400},
     {H::s, S::N2, "safn2",  2600, 1200, 1200,  2400,  2400},
     {H::s, S::P,  "safp",   3500,  500,  500,     0,     0},
-}};
+    });
+}();
+static_assert(Bautafel.size() == 36);
 // clang-format on
 
-} // namespace velmo::bautafel
+} // namespace velmo

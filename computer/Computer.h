@@ -28,8 +28,4 @@ inline void schreibeZurück(Spielzustand &z, int computer) {
     z.Computergeld[computer] = static_cast<int>(z.Arbeitsgeld.Zahl());
 }
 
-/// In dieser Reihe sehen Bauen und Eingänge die eigenen Hotels durch.
-inline constexpr std::array Durchsicht = {Hotelkürzel::b, Hotelkürzel::p, Hotelkürzel::l, Hotelkürzel::w,
-                                          Hotelkürzel::r, Hotelkürzel::f, Hotelkürzel::t, Hotelkürzel::s};
-
 } // namespace velmo

@@ -15,11 +15,21 @@ struct Eingangszeile {
 
 // clang-format off
 /// In der Folge, in der er seine Hotels durchsieht.
-inline constexpr std::array<Eingangszeile, 8> Eingangszeilen = {{
-    // Hotel          Preis Grenze der Eingangszahl
-    {Hotelkürzel::b, 100,  4}, {Hotelkürzel::p, 250, 7}, {Hotelkürzel::l, 250, 9}, {Hotelkürzel::w, 200, 5},
-    {Hotelkürzel::r, 200, 11}, {Hotelkürzel::f, 100, 6}, {Hotelkürzel::t, 100, 5}, {Hotelkürzel::s, 150, 5},
-}};
+inline constexpr auto Eingangszeilen = [] {
+    using H = Hotelkürzel;
+    return std::to_array<Eingangszeile>({
+    // Hotel Preis Grenze der Eingangszahl
+    {H::b, 100,  4},
+    {H::p, 250,  7},
+    {H::l, 250,  9},
+    {H::w, 200,  5},
+    {H::r, 200, 11},
+    {H::f, 100,  6},
+    {H::t, 100,  5},
+    {H::s, 150,  5},
+    });
+}();
+static_assert(Eingangszeilen.size() == 8);
 // clang-format on
 
 constexpr int eingangspreis(Hotelkürzel k) {

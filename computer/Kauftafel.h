@@ -6,9 +6,7 @@
 #include <array>
 #include <optional>
 
-namespace velmo::kauftafel {
-
-using H = Hotelkürzel;
+namespace velmo {
 
 /// Die Münze vor einem Kauf. Fällt eine gegen ihn, endet die ganze Überlegung; nur der Kaufwurf und eine aus acht
 /// beenden bloß ihre Zeile.
@@ -23,10 +21,10 @@ enum class Zwang {
 };
 
 struct Kaufzeile {
-    H Hotel;
-    std::array<std::optional<H>, 3> NichtEigen; // diese dürfen nicht dem Computer gehören
-    int Gruppe, Grenze;                         // Gruppe 1 bis 3 muss unter der Grenze liegen; 0: keine
-    int Schwelle;                               // darunter endet die ganze Überlegung; 0: keine
+    Hotelkürzel Hotel;
+    std::array<std::optional<Hotelkürzel>, 3> NichtEigen; // diese dürfen nicht dem Computer gehören
+    int Gruppe, Grenze;                                   // Gruppe 1 bis 3 muss unter der Grenze liegen; 0: keine
+    int Schwelle;                                         // darunter endet die ganze Überlegung; 0: keine
     Münze Vorab;
     bool NurOhneGruppe1; // ein freies gilt nur als frei, solange Gruppe 1 leer ist: mit Absicht so
     int Freischwelle;    // darunter endet die Überlegung bei einem freien; 0: keine
@@ -36,7 +34,9 @@ struct Kaufzeile {
 };
 
 // clang-format off
-inline constexpr Kaufzeile StapelA[] = { // noch kein Hotel
+inline constexpr auto StapelA = [] {
+    using H = Hotelkürzel;
+    return std::to_array<Kaufzeile>({ // noch kein Hotel
     // Hotel nicht eigen     Gruppe Schwelle vorab           nur o. G1  frei ab  Münze          Preis  besetzt
     {H::b, {H::f},                0, 0,   600, Münze::Keine,        false,     0, Münze::Keine,         500, Zwang::Sofort},
     {H::p, {H::r},                0, 0,  4500, Münze::Keine,        false,     0, Münze::Kaufwurf,     3500, Zwang::Sofort},
@@ -46,9 +46,12 @@ inline constexpr Kaufzeile StapelA[] = { // noch kein Hotel
     {H::f, {H::b},                0, 0,  1000, Münze::Keine,        false,     0, Münze::VierAusFünf,  1000, Zwang::Sofort},
     {H::s, {},                    0, 0,  2000, Münze::EineAusSechs, false,     0, Münze::Keine,        2000, Zwang::MitMünze},
     {H::t, {},                    0, 0,  1500, Münze::EineAusSechs, false,     0, Münze::Keine,        1500, Zwang::NachSafari},
-};
+    });
+}();
 
-inline constexpr Kaufzeile StapelB[] = { // ein Hotel
+inline constexpr auto StapelB = [] {
+    using H = Hotelkürzel;
+    return std::to_array<Kaufzeile>({ // ein Hotel
     {H::b, {H::f},                0, 0,  1000, Münze::Keine,        true,      0, Münze::Keine,         500, Zwang::Sofort},
     {H::p, {H::r},                0, 0,  5000, Münze::Keine,        true,      0, Münze::Kaufwurf,     3500, Zwang::Sofort},
     {H::l, {H::t},                0, 0,  3000, Münze::Keine,        true,      0, Münze::Keine,        3000, Zwang::Sofort},
@@ -57,19 +60,23 @@ inline constexpr Kaufzeile StapelB[] = { // ein Hotel
     {H::f, {H::b, H::f},          2, 2,     0, Münze::Keine,        false,  1000, Münze::Keine,        2100, Zwang::MitMünze},
     {H::s, {},                    3, 1,  4000, Münze::Keine,        false,     0, Münze::Keine,        2000, Zwang::MitMünze},
     {H::t, {H::l},                3, 1,  3000, Münze::Keine,        false,     0, Münze::Keine,        1500, Zwang::NachSafari},
-};
+    });
+}();
 
-inline constexpr Kaufzeile StapelC[] = { // zwei oder mehr, ab der fünften Runde des Menschen
+inline constexpr auto StapelC = [] {
+    using H = Hotelkürzel;
+    return std::to_array<Kaufzeile>({ // zwei oder mehr, ab der fünften Runde des Menschen
     {H::b, {H::f},                1, 3,  1100, Münze::Keine,        false,     0, Münze::Keine,         500, Zwang::Nie},
     {H::p, {H::r},                1, 3,  6000, Münze::Keine,        false,     0, Münze::Keine,        3500, Zwang::Nie},
     {H::l, {H::t},                1, 3,  5500, Münze::Keine,        false,     0, Münze::Keine,        3000, Zwang::Nie},
     {H::w, {H::r},                2, 4,  5000, Münze::Keine,        false,     0, Münze::EineAusAcht,  2500, Zwang::Nie},
     {H::r, {H::p, H::w},          2, 4,  4000, Münze::Keine,        false,     0, Münze::EineAusAcht,  2500, Zwang::Nie},
     {H::f, {H::b},                2, 4,  3000, Münze::Keine,        false,     0, Münze::EineAusAcht,  1000, Zwang::Nie},
-};
+    });
+}();
 
 struct Siedlung {
-    H Hotel;
+    Hotelkürzel Hotel;
     const char *Anlieger; // wie der Anliegername es nennt
     int Gruppe;
     int Zwangspreis;
@@ -77,7 +84,9 @@ struct Siedlung {
     const char *Zwangsmeldung; // und der eines erzwungenen
 };
 
-inline constexpr std::array<Siedlung, 8> Siedlungen = {{
+inline constexpr auto Siedlungen = [] {
+    using H = Hotelkürzel;
+    return std::to_array<Siedlung>({
     // Hotel Anlieger  Gruppe Zwang  Meldung      erzwungen
     {H::b, "Boomerang", 2,    250, "Boomerang", "Boomerang"},
     {H::p, "President", 1,   1750, "President", "President"},
@@ -87,18 +96,20 @@ inline constexpr std::array<Siedlung, 8> Siedlungen = {{
     {H::f, "Fujijama",  2,    500, "Fujijama",  "Fujijama"},
     {H::l, "Etoile",    1,   1500, "Etoile",    "Etoile"},
     {H::r, "Royal",     2,  12500, "Royal",     "Royal"}, // mit Absicht nicht 1250
-}};
+    });
+}();
+static_assert(Siedlungen.size() == 8);
 
 struct Stufenzeile {
     int GeldÜber, GeldVonC1Bis, Kaufstufe;
 };
 
 // Alle Zeilen gelten nacheinander; verglichen wird mit dem Geld von c1, wer auch handelt: mit Absicht so.
-inline constexpr Stufenzeile Kaufstufen[] = {
+inline constexpr auto Kaufstufen = std::to_array<Stufenzeile>({
     {0, 700, 1}, {700, 2150, 2}, {2150, 5000, 3}, {5000, 10000, 5}, {10000, 32767, 5},
-};
+});
 // clang-format on
 
-constexpr const Siedlung &siedlung(H k) { return Siedlungen[static_cast<std::size_t>(k)]; }
+constexpr const Siedlung &siedlung(Hotelkürzel k) { return Siedlungen[static_cast<std::size_t>(k)]; }
 
-} // namespace velmo::kauftafel
+} // namespace velmo

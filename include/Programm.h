@@ -1,11 +1,11 @@
 #pragma once
 // Das Programm: die Laufzeit mit ihren Formularen und der Zustand des Spiels. Routinen bekommen es als Referenz.
+#include "include/Formulare.h"
 #include "include/Spielzustand.h"
+#include "platform/Bilderordner.h"
 #include "platform/Laufzeit.h"
 
-#include <map>
 #include <memory>
-#include <optional>
 #include <span>
 #include <string>
 
@@ -19,17 +19,11 @@ class Programm : public Laufzeit {
 
     const std::string Ordner;
     Spielzustand Zustand;
-    /// Die Bilddateien bei ihrem Pfad unter bilder/, ohne Endung und klein geschrieben; gelesen beim ersten Bild.
-    std::optional<std::map<std::string, std::string>> Bilddateien;
+    Bilderordner Bilder{Ordner + "/bilder"};
 
     /// Die Form der Klasse, geladen; F::Formname ist ihr Name.
     template <class F> F &form() { return static_cast<F &>(lade(F::Formname)); }
+    template <class F> F &form(Formularart<F> name) { return static_cast<F &>(lade(name)); }
 };
-
-/// Der Eintrag einer Form in der Liste der Formulare.
-template <class F> constexpr Formeintrag eintrag() {
-    return {F::Formname,
-            [](Laufzeit &l) -> std::unique_ptr<Form> { return std::make_unique<F>(static_cast<Programm &>(l)); }};
-}
 
 } // namespace velmo

@@ -4,10 +4,6 @@ namespace velmo {
 
 namespace {
 
-template <class T> Zugang feldzugang(T &feld) {
-    return {[&feld] { return alsWert(feld); }, [&feld](const Wert &w) { ausWert(w, feld); }};
-}
-
 template <class T, class Nach> void reihe(const Namensempfänger &e, const std::string &name, Reihe<T, Nach> &r) {
     int i = 0;
     for (T &wert : r)

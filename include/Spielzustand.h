@@ -2,6 +2,7 @@
 // Der Zustand eines ganzen Spiels: ein flacher Satz von Werten, den alle Routinen unmittelbar lesen und schreiben. Geld
 // in DM.
 #include "include/Reihe.h"
+#include "include/Teilnehmer.h"
 #include "include/Werte.h"
 #include "platform/Eigenschaft.h"
 

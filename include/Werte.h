@@ -1,6 +1,6 @@
 #pragma once
 // Die Arten der Werte des Spiels. Die Art gehört zur Regel: ein Short läuft über, ein loser Wert vergleicht als Zahl.
-#include "platform/Wert.h"
+#include "platform/Eigenschaft.h"
 
 #include <cstdint>
 #include <string>
@@ -63,46 +63,18 @@ class Lose {
     Wert wert;
 };
 
-/// Ein Kennzeichen eines Teilnehmers. Jede Marke ist ein eigener Raum: Kennzeichen zweier Räume lassen sich nicht
-/// vergleichen.
-template <class Marke> class Kennung {
-  public:
-    Kennung() = default;
-    explicit Kennung(std::string text) : text(std::move(text)) {}
-    bool leer() const { return text.empty(); }
-    const std::string &Text() const { return text; }
-    /// Das letzte Zeichen: bei "c1" bis "c3" die Nummer des Computers.
-    std::string letztes() const { return text.empty() ? "" : text.substr(text.size() - 1); }
-    bool operator==(const Kennung &) const = default;
-
-  private:
-    std::string text;
-};
-
-/// Wem ein Hotel gehört: leer, "player1", "c1" bis "c3".
-using Hotelbesitzer = Kennung<struct MarkeHotel>;
-/// Wem ein Eingang gehört: "Spieler", "c1" bis "c3".
-using Eingangsbesitzer = Kennung<struct MarkeEingang>;
-/// Wer ein Auto fährt: "c1" bis "c3", "pleite"; leer der Mensch oder niemand.
-using Autobesitzer = Kennung<struct MarkeAuto>;
-
-/// "c1" bis "c3" im Raum der Kennung.
-template <class K> K Computer(int nummer) { return K("c" + std::to_string(nummer)); }
-/// Die Nummer zu "c1" bis "c3", sonst 0.
-template <class Marke> int Computernummer(const Kennung<Marke> &k) {
-    const std::string &t = k.Text();
-    return t.size() == 2 && t[0] == 'c' && t[1] >= '1' && t[1] <= '3' ? t[1] - '0' : 0;
-}
-
 Wert alsWert(Kurz);
 Wert alsWert(Flagge);
 Wert alsWert(int);
 Wert alsWert(const Lose &);
-template <class M> Wert alsWert(const Kennung<M> &k) { return k.Text(); }
 void ausWert(const Wert &, Kurz &);
 void ausWert(const Wert &, Flagge &);
 void ausWert(const Wert &, int &);
 void ausWert(const Wert &, Lose &);
-template <class M> void ausWert(const Wert &w, Kennung<M> &k) { k = Kennung<M>(alsText(w)); }
+
+/// Der Zugang zu einem bloßen Feld, für dessen Art es alsWert und ausWert gibt.
+template <class T> Zugang feldzugang(T &feld) {
+    return {[&feld] { return alsWert(feld); }, [&feld](const Wert &w) { ausWert(w, feld); }};
+}
 
 } // namespace velmo

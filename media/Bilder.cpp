@@ -1,39 +1,14 @@
 #include "media/Bilder.h"
 
-#include "platform/Dateien.h"
-
-#include <algorithm>
-#include <filesystem>
+#include "platform/Zeichen.h"
 
 namespace velmo {
 
 namespace {
 
-std::string gewandelt(std::string text, char von, char bis, int um) {
-    for (char &c : text)
-        if (c >= von && c <= bis) c = static_cast<char>(c + um);
-    return text;
-}
-std::string groß(const std::string &text) { return gewandelt(text, 'a', 'z', 'A' - 'a'); }
-std::string klein(const std::string &text) { return gewandelt(text, 'A', 'Z', 'a' - 'A'); }
-
-/// Die Dateien unter bilder/ bei ihrem Pfad ohne Endung, klein geschrieben: "wuerfel/204".
-std::map<std::string, std::string> verzeichnis(const std::string &ordner) {
-    std::map<std::string, std::string> dateien;
-    std::error_code fehler;
-    const std::filesystem::path wurzel = findePfad(std::filesystem::path(ordner) / "bilder");
-    for (const auto &eintrag : std::filesystem::recursive_directory_iterator(wurzel, fehler)) {
-        if (!eintrag.is_regular_file(fehler)) continue;
-        const auto pfad = eintrag.path().lexically_relative(wurzel).replace_extension();
-        dateien[klein(pfad.generic_string())] = eintrag.path().string();
-    }
-    return dateien;
-}
-
 Picture bild(Programm &p, const std::string &stelle, const std::string &name) {
-    if (!p.Bilddateien) p.Bilddateien = verzeichnis(p.Ordner);
-    const auto datei = p.Bilddateien->find(klein(stelle));
-    return datei == p.Bilddateien->end() ? Picture{} : Picture{name, datei->second};
+    const std::string datei = p.Bilder.datei(stelle);
+    return datei.empty() ? Picture{} : Picture{name, datei};
 }
 
 template <class C> bool gibBild(Programm &p, const Form &form, Control &c) {

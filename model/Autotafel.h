@@ -2,7 +2,7 @@
 // Die vier Autos: ihr Text, ihr Bild auf dem Brett, und wer welches fährt.
 #include "include/Reihe.h"
 #include "include/Spielzustand.h"
-#include "platform/Control.h"
+#include "platform/Rechteck.h"
 
 #include <array>
 #include <optional>
@@ -23,19 +23,19 @@ struct Auto {
     bool RathausVorRunde;
 };
 
-namespace autotafel {
-using A = Autokürzel;
 // clang-format off
-inline constexpr std::array<Auto, 4> Reihe = {{
+inline constexpr auto Autotafel = [] {
+    using A = Autokürzel;
+    return std::to_array<Auto>({
     // Kürzel Text     Farbe   Bild     Ort                     Bilder c1    c2    c3    Rathaus zuerst
     {A::g, "autog", "Gelb", "Autog", {8040, 1320, 480, 360}, 125, {A::b, A::e, A::r}, true},
     {A::e, "autoe", "Grün", "Autoe", {7320, 1320, 480, 360}, 133, {A::g, A::b, A::r}, false},
     {A::b, "autob", "Blau", "Autob", {7680, 1320, 480, 360}, 129, {A::g, A::e, A::r}, false},
     {A::r, "autor", "Rot",  "Autor", {6960, 1320, 480, 360}, 137, {A::g, A::b, A::e}, false},
-}};
+    });
+}();
+static_assert(Autotafel.size() == 4);
 // clang-format on
-} // namespace autotafel
-inline constexpr const auto &Autotafel = autotafel::Reihe;
 
 constexpr const Auto &auto_(Autokürzel k) { return Autotafel[static_cast<std::size_t>(k)]; }
 

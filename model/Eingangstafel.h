@@ -1,7 +1,7 @@
 #pragma once
 // Die 51 Eingangsplätze am Weg: jeder gehört zu einem Feld und einem Hotel. Sie zählen von 2 bis 52.
 #include "include/Reihe.h"
-#include "platform/Control.h"
+#include "platform/Rechteck.h"
 
 #include <algorithm>
 #include <array>
@@ -18,10 +18,10 @@ struct Eingangsplatz {
     Rechteck Ort;  // Twips im Brettbild
 };
 
-namespace eingangstafel {
-using H = Hotelkürzel;
 // clang-format off
-inline constexpr std::array<Eingangsplatz, 51> Plätze = {{
+inline constexpr auto Eingangsplätze = [] {
+    using H = Hotelkürzel;
+    return std::to_array<Eingangsplatz>({
     // Nr  Bild        Hotel Feld Gegenüber Kosten  links, oben, Breite, Höhe
     { 2, "Image2",  H::r, 15, 26, 200, {1240, 1940, 192, 396}},
     { 3, "Image3",  H::r, 16, 25, 200, {1260, 1560, 360, 396}},
@@ -74,10 +74,10 @@ inline constexpr std::array<Eingangsplatz, 51> Plätze = {{
     {50, "Image50", H::f,  2, 49, 100, {7710, 2890, 276, 444}},
     {51, "Image51", H::f,  1,  0, 100, {7700, 2400, 264, 504}},
     {52, "Image52", H::s, 30,  0, 250, {6800, 1640, 348, 204}}, // teurer als die anderen: mit Absicht so
-}};
+    });
+}();
+static_assert(Eingangsplätze.size() == 51);
 // clang-format on
-} // namespace eingangstafel
-inline constexpr const auto &Eingangsplätze = eingangstafel::Plätze;
 
 /// Der Platz mit der Nummer 2 bis 52.
 constexpr const Eingangsplatz &eingangsplatz(int nummer) {

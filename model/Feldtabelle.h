@@ -19,10 +19,10 @@ struct Feld {
     Feldort klein, groß;
 };
 
-namespace feldtabelle {
-using F = Feldart;
 // clang-format off
-inline constexpr std::array<Feld, 30> Reihe = {{
+inline constexpr auto Feldtabelle = [] {
+    using F = Feldart;
+    return std::to_array<Feld>({
     // Nr Art          Anlieger    klein         groß
     { 1, F::Baugenehmigung, "0,f", {7930, 2520}, {12420, 3810}},
     { 2, F::Kauffeld,       "b,f", {7920, 3000}, {12420, 4665}},
@@ -54,10 +54,10 @@ inline constexpr std::array<Feld, 30> Reihe = {{
     {28, F::Kauffeld,       "s,l", {6360,  960}, { 9900, 1410}},
     {29, F::Eingang,        "s,l", {6360, 1320}, {10050, 2145}},
     {30, F::Baugenehmigung, "s,0", {6720, 1800}, {10500, 2775}},
-}};
+    });
+}();
+static_assert(Feldtabelle.size() == 30);
 // clang-format on
-} // namespace feldtabelle
-inline constexpr const auto &Feldtabelle = feldtabelle::Reihe;
 
 inline constexpr int RathausFeld = 26;
 inline constexpr int BankFeld = 7;

@@ -1,19 +1,13 @@
 #pragma once
-// Das Geld des Menschen: als Summe und als Noten. Beträge in DM.
-#include "include/Programm.h"
+// Das Geld des Menschen im Zustand: die Summe und die Noten, im Gleichschritt. Beträge in DM; was sich nicht buchen
+// ließ, bleibt im Betrag, stets unter 50.
+#include "include/Spielzustand.h"
 
 namespace velmo {
 
-/// Bucht den Betrag Note für Note dazu (Sinn wahr) oder ab (falsch); jeder andere Sinn frischt nur die Anzeige auf.
-/// In Betrag bleibt, was sich nicht buchen ließ, stets unter 50.
-void Geldbuchen(Programm &, Lose &Betrag, Flagge Sinn);
-/// Bucht einen festen Betrag; der Rest unter 50 verfällt.
-void Geldbuchen(Programm &, int Betrag, Flagge Sinn);
-/// Schreibt die Summe und die Zahl der Scheine auf das Brett.
-void Scheinanzeige(Programm &);
-/// Der Klick auf den Stapel der Note v.
-void Notenzahlung(Programm &, int v);
-/// Ein Schritt der Note, die davonfliegt.
-void Notenflug(Programm &);
+/// Bucht den Betrag Note für Note dazu, die größte zuerst.
+void bucheDazu(Spielzustand &, Lose &betrag);
+/// Bucht ihn Note für Note ab und wechselt dabei größere.
+void bucheAb(Spielzustand &, Lose &betrag);
 
 } // namespace velmo

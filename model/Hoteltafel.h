@@ -2,7 +2,7 @@
 // Die acht Hotels und ihre 36 Baustufen auf dem Brett. Rechtecke in Twips im Brettbild.
 #include "include/Reihe.h"
 #include "include/Spielzustand.h"
-#include "platform/Control.h"
+#include "platform/Rechteck.h"
 
 #include <algorithm>
 #include <array>
@@ -24,11 +24,10 @@ struct Stufe {
     Rechteck Ort;
 };
 
-namespace hoteltafel {
-using H = Hotelkürzel;
-using S = Baustufe;
 // clang-format off
-inline constexpr std::array<Hotel, 8> Reihe = {{
+inline constexpr auto Hotels = [] {
+    using H = Hotelkürzel;
+    return std::to_array<Hotel>({
     // Kürzel Name      Seite           Schild      sein Ort
     {H::b, "Boomerang", Seite::links,  "Booml",    {6530, 4462, 1020, 192}},
     {H::p, "President", Seite::links,  "Presil",   {2850, 4582, 1020, 192}},
@@ -38,9 +37,14 @@ inline constexpr std::array<Hotel, 8> Reihe = {{
     {H::f, "Fujijama",  Seite::rechts, "Fujil",    {5490, 2936, 1020, 192}},
     {H::l, "L'Étoile",  Seite::rechts, "Etoill",   {4940, 3412,  800, 192}},
     {H::r, "Royal",     Seite::rechts, "Royall",   {2738, 2210, 1020, 192}},
-}};
+    });
+}();
+static_assert(Hotels.size() == 8);
 
-inline constexpr std::array<Stufe, 36> Stufen = {{
+inline constexpr auto Stufen = [] {
+    using H = Hotelkürzel;
+    using S = Baustufe;
+    return std::to_array<Stufe>({
     // Hotel Stufe  Bild      links, oben, Breite, Höhe
     {H::b, S::H,  "Boom",    {7560, 3548, 1260, 1404}},
     {H::b, S::P,  "Boomp",   {6600, 4320, 900, 336}},
@@ -78,11 +82,10 @@ inline constexpr std::array<Stufe, 36> Stufen = {{
     {H::r, S::N2, "royn2",   {2916, 1300, 600, 1116}},
     {H::r, S::N3, "royn3",   {2544, 960, 576, 1020}},
     {H::r, S::P,  "Royp",    {2160, 2160, 900, 336}},
-}};
+    });
+}();
+static_assert(Stufen.size() == 36);
 // clang-format on
-} // namespace hoteltafel
-inline constexpr const auto &Hotels = hoteltafel::Reihe;
-inline constexpr const auto &Stufen = hoteltafel::Stufen;
 
 constexpr const Hotel &hotel(Hotelkürzel k) { return Hotels[static_cast<std::size_t>(k)]; }
 
@@ -104,10 +107,5 @@ constexpr const Hotel *hotelZuBuchstabe(char c) {
 
 /// Steht die Stufe? Nur der Text "true" zählt.
 inline bool steht(const Spielzustand &z, Hotelkürzel k, Baustufe s) { return z.Hotels[k].Baustufen[s] == "true"; }
-
-/// Die Kennung des Menschen als Besitzer eines Hotels.
-inline const Hotelbesitzer Mensch{"player1"};
-/// Die Kennung des Menschen als Besitzer eines Eingangs.
-inline const Eingangsbesitzer Spieler{"Spieler"};
 
 } // namespace velmo

@@ -2,6 +2,7 @@
 
 #include "platform/Form.h"
 #include "platform/Laufzeit.h"
+#include "platform/Zeichen.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -11,12 +12,6 @@ namespace velmo {
 namespace {
 
 std::vector<VisualControl *> &geschwister(VisualControl &c) { return c.behälter ? c.behälter->Kinder : c.form.Kinder; }
-
-std::string klein(std::string text) {
-    for (char &c : text)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    return text;
-}
 
 } // namespace
 

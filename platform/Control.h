@@ -2,6 +2,7 @@
 // Die Steuerelemente. Maße sind Twips (12 je Bildpunkt des Entwurfs), bezogen auf den Behälter; Zeiten ms.
 #include "platform/Eigenschaft.h"
 #include "platform/Oberfläche.h"
+#include "platform/Rechteck.h"
 
 #include <functional>
 #include <string>
@@ -11,10 +12,6 @@ namespace velmo {
 
 class Form;
 class PictureBox;
-
-struct Rechteck {
-    double Left, Top, Width, Height;
-};
 
 /// Worin ein Steuerelement liegt: die Form selbst oder ein Bildfeld auf ihr.
 struct Behälter {
@@ -87,7 +84,7 @@ class Schriftelement : public VisualControl {
     Eigenschaft<std::string> FontName{*this, "MS Sans Serif"};
     Eigenschaft<double> FontSize{*this, 8.25};
     Eigenschaft<bool> FontBold{*this, false};
-    Eigenschaft<Farbe> ForeColor{*this, Farbe{0x000000}};
+    Eigenschaft<Farbe> ForeColor{*this, farbe::Schwarz};
 
     void zähleAuf(const Namensempfänger &) override;
 
@@ -96,17 +93,20 @@ class Schriftelement : public VisualControl {
 };
 
 enum class Ausrichtung { Links, Rechts, Mitte };
+enum class Rand { Ohne, Einfach };
+/// Wie stark der 3D-Knopf seine Schrift hervorhebt.
+enum class Betonung { Keine = 0, Stark = 2 };
 
 class Label : public Schriftelement {
   public:
     using Schriftelement::Schriftelement;
     Eigenschaft<std::string> &Caption = beschriftung;
-    Eigenschaft<double> Alignment{*this, 0}; // Ausrichtung
+    Eigenschaft<Ausrichtung> Alignment{*this, Ausrichtung::Links};
     /// Der Text steht in halber Höhe statt oben.
     Eigenschaft<bool> Mittig{*this, false};
     /// Ohne Hintergrundfarbe scheint durch, was dahinter liegt.
     Eigenschaft<bool> Deckend{*this, false};
-    Eigenschaft<Farbe> BackColor{*this, Farbe{0xFFFFFF}};
+    Eigenschaft<Farbe> BackColor{*this, farbe::Weiß};
 
     bool Fenster() const override { return false; }
     void zähleAuf(const Namensempfänger &) override;
@@ -119,12 +119,12 @@ class CommandButton : public Schriftelement {
     void zähleAuf(const Namensempfänger &) override;
 };
 
-/// Der 3D-Knopf, auch mit Bild; Betonung 0 und 2 heben seine Schrift verschieden stark hervor.
+/// Der 3D-Knopf, auch mit Bild.
 class SSCommand : public CommandButton {
   public:
     using CommandButton::CommandButton;
     Eigenschaft<velmo::Picture> Picture{*this, {}};
-    Eigenschaft<double> Font3D{*this, 0};
+    Eigenschaft<Betonung> Font3D{*this, Betonung::Keine};
     void zähleAuf(const Namensempfänger &) override;
 };
 
@@ -132,7 +132,7 @@ class Image : public VisualControl {
   public:
     Image(Behälter, const char *Name, Rechteck);
     Eigenschaft<velmo::Picture> Picture{*this, {}};
-    Eigenschaft<double> BorderStyle{*this, 0};
+    Eigenschaft<Rand> BorderStyle{*this, Rand::Ohne};
     /// Ohne Strecken hat das Bild seine natürliche Größe: die des Entwurfs. Das Ausschalten stellt sie her.
     Eigenschaft<bool> Stretch{*this, false};
     /// Ein Bild, das in die Höhe wächst, steigt aus dem Boden seiner vollen Höhe.
@@ -153,7 +153,7 @@ class PictureBox : public Schriftelement {
   public:
     PictureBox(Behälter, const char *Name, Rechteck);
     Eigenschaft<velmo::Picture> Picture{*this, {}};
-    Eigenschaft<double> BorderStyle{*this, 0};
+    Eigenschaft<Rand> BorderStyle{*this, Rand::Ohne};
     Eigenschaft<double> ScaleWidth, ScaleHeight;
     /// Die Steuerelemente darin, von hinten nach vorn.
     std::vector<VisualControl *> Kinder;
@@ -167,7 +167,7 @@ class Shape : public VisualControl {
     Shape(Behälter, const char *Name, Rechteck, Gestalt = Gestalt::Rechteck);
     const Gestalt gestalt;
     Eigenschaft<double> BorderWidth{*this, 1};
-    Eigenschaft<Farbe> BorderColor{*this, Farbe{0x000000}};
+    Eigenschaft<Farbe> BorderColor{*this, farbe::Schwarz};
     bool Fenster() const override { return false; }
     bool nimmtMaus() const override { return false; }
     void zähleAuf(const Namensempfänger &) override;
@@ -178,7 +178,7 @@ class Line : public Control {
     Line(Behälter, const char *Name, double x1, double y1, double x2, double y2);
     Eigenschaft<double> x1, y1, x2, y2;
     Eigenschaft<double> BorderWidth{*this, 1};
-    Eigenschaft<Farbe> BorderColor{*this, Farbe{0x000000}};
+    Eigenschaft<Farbe> BorderColor{*this, farbe::Schwarz};
     Eigenschaft<bool> Visible{*this, true};
     void zähleAuf(const Namensempfänger &) override;
 };

@@ -1,19 +1,14 @@
 #pragma once
 // Eigenschaften von Formularen und Steuerelementen: wie gewöhnliche Werte zu lesen und zu setzen; jede Änderung meldet
 // sich beim Besitzer, damit eine Oberfläche weiß, was neu zu zeigen ist.
+#include "platform/Farbe.h"
 #include "platform/Wert.h"
 
-#include <cstdint>
 #include <string>
+#include <type_traits>
 #include <utility>
 
 namespace velmo {
-
-/// Eine Farbe als 0xRRGGBB.
-struct Farbe {
-    std::uint32_t rgb = 0;
-    bool operator==(const Farbe &) const = default;
-};
 
 /// Ein Bild: sein Name ("WUERFEL 204" oder "form1/picture1") und die Datei; ohne Datei ist es leer.
 struct Picture {
@@ -58,11 +53,17 @@ Wert alsWert(bool);
 Wert alsWert(const std::string &);
 Wert alsWert(Farbe);
 Wert alsWert(const Picture &);
+/// Eine Aufzählung erscheint als ihre Zahl.
+template <class E>
+requires std::is_enum_v<E> Wert alsWert(E e) { return alsWert(static_cast<double>(e)); }
 void ausWert(const Wert &, double &);
 void ausWert(const Wert &, bool &);
 void ausWert(const Wert &, std::string &);
 void ausWert(const Wert &, Farbe &);
 void ausWert(const Wert &, Picture &);
+template <class E>
+requires std::is_enum_v<E>
+void ausWert(const Wert &w, E &e) { e = static_cast<E>(static_cast<int>(alsZahl(w))); }
 
 template <class T> Zugang zugang(Eigenschaft<T> &e) {
     return {[&e] { return alsWert(e()); },

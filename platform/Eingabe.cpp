@@ -172,7 +172,7 @@ bool Eingabe::rolle(VScrollBar &leiste, double wert) {
 }
 
 void Eingabe::schließe(Form &form) {
-    if (form.Visible && form.Enabled) laufzeit.behandle([&, name = std::string(form.Name)] { laufzeit.entlade(name); });
+    if (form.Visible && form.Enabled) laufzeit.behandle([&] { laufzeit.entlade(Formularname(form.Name)); });
 }
 
 void Eingabe::zieheForm(Form &form) {

@@ -7,8 +7,8 @@
 
 namespace velmo {
 
-Form::Form(Laufzeit &laufzeit, const char *Name, Rechteck r, std::string titel)
-    : laufzeit(laufzeit), Name(Name), Nummer(laufzeit.nächsteNummer()), Left(*this, r.Left), Top(*this, r.Top),
+Form::Form(Laufzeit &laufzeit, Formularname name, Rechteck r, std::string titel)
+    : laufzeit(laufzeit), Name(name.Text), Nummer(laufzeit.nächsteNummer()), Left(*this, r.Left), Top(*this, r.Top),
       Width(*this, r.Width), Height(*this, r.Height), Caption(*this, std::move(titel)) {}
 
 void Form::setzeRegion(Region region) {

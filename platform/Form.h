@@ -5,15 +5,23 @@
 
 #include <memory>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace velmo {
 
 class Laufzeit;
 
+/// Der Name einer Form in der Liste der Formulare. Ein loser Text ist keiner: ein verschriebener Name übersetzt nicht.
+struct Formularname {
+    explicit constexpr Formularname(const char *text) : Text(text) {}
+    bool operator==(const Formularname &n) const { return std::string_view(Text) == n.Text; }
+    const char *Text;
+};
+
 class Form : public Besitzer {
   public:
-    Form(Laufzeit &, const char *Name, Rechteck, std::string Caption = "");
+    Form(Laufzeit &, Formularname, Rechteck, std::string Caption = "");
     Form(const Form &) = delete;
 
     Laufzeit &laufzeit;
@@ -26,7 +34,7 @@ class Form : public Besitzer {
     Eigenschaft<bool> Topmost{*this, false};
     Eigenschaft<std::string> Caption;
     Eigenschaft<std::string> Tag{*this, ""};
-    Eigenschaft<Farbe> BackColor{*this, Farbe{0xF4EBDC}};
+    Eigenschaft<Farbe> BackColor{*this, farbe::Papier};
     Eigenschaft<velmo::Picture> Picture{*this, {}};
     /// Das Zeichen des Programms, das die Form trägt.
     Eigenschaft<velmo::Picture> Icon{*this, {}};

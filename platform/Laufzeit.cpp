@@ -9,8 +9,9 @@ namespace velmo {
 
 namespace {
 
-auto findeIn(const std::vector<std::unique_ptr<Form>> &formen, const std::string &Name) {
-    return std::find_if(formen.begin(), formen.end(), [&](const auto &form) { return Name == form->Name; });
+auto findeIn(const std::vector<std::unique_ptr<Form>> &formen, Formularname Name) {
+    return std::find_if(formen.begin(), formen.end(),
+                        [&](const auto &form) { return Name == Formularname(form->Name); });
 }
 
 /// Hebt eine Zahl auf einen Wert, solange sie lebt.
@@ -29,27 +30,34 @@ struct Abbruch {};
 Laufzeit::Laufzeit(Oberfläche &o, std::span<const Formeintrag> tafel) : oberfläche(o), tafel(tafel) {}
 Laufzeit::~Laufzeit() = default;
 
-bool Laufzeit::kennt(const std::string &Name) const {
-    return std::any_of(tafel.begin(), tafel.end(), [&](const Formeintrag &e) { return Name == e.Name; });
+std::optional<Formularname> Laufzeit::formular(const std::string &Name) const {
+    for (const Formeintrag &e : tafel)
+        if (Name == e.Name.Text) return e.Name;
+    return std::nullopt;
 }
 
-Form *Laufzeit::geladene(const std::string &Name) const {
+const Formeintrag &Laufzeit::eintrag(Formularname Name) const {
+    const auto hier = std::find_if(tafel.begin(), tafel.end(), [&](const Formeintrag &e) { return Name == e.Name; });
+    if (hier == tafel.end()) throw std::logic_error(std::string("unbekannte Form ") + Name.Text);
+    return *hier;
+}
+
+Form *Laufzeit::geladene(Formularname Name) const {
+    eintrag(Name);
     const auto hier = findeIn(formen, Name);
     return hier == formen.end() ? nullptr : hier->get();
 }
 
-Form &Laufzeit::lade(const std::string &Name) {
+Form &Laufzeit::lade(Formularname Name) {
     if (Form *form = geladene(Name)) return *form;
-    const auto eintrag = std::find_if(tafel.begin(), tafel.end(), [&](const Formeintrag &e) { return Name == e.Name; });
-    if (eintrag == tafel.end()) throw std::logic_error("unbekannte Form " + Name);
-    formen.insert(formen.begin(), eintrag->erzeuge(*this));
+    formen.insert(formen.begin(), eintrag(Name).erzeuge(*this));
     Form &form = *formen.front();
     form.geladen = true;
     behandle([&] { form.Form_Load(); });
     return form;
 }
 
-void Laufzeit::zeige(const std::string &Name) {
+void Laufzeit::zeige(Formularname Name) {
     Form &form = lade(Name);
     // Eine Form, die sich beim Laden selbst entladen hat, erscheint nicht.
     if (!form.geladen) return;
@@ -57,9 +65,9 @@ void Laufzeit::zeige(const std::string &Name) {
     nachVorn(form);
 }
 
-void Laufzeit::verstecke(const std::string &Name) { lade(Name).Visible = false; }
+void Laufzeit::verstecke(Formularname Name) { lade(Name).Visible = false; }
 
-void Laufzeit::entlade(const std::string &Name) {
+void Laufzeit::entlade(Formularname Name) {
     Form *form = geladene(Name);
     if (!form || !form->geladen) return;
     form->geladen = false; // ein Entladen aus Form_Unload heraus beginnt nicht von vorn

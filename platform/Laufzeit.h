@@ -18,7 +18,7 @@ namespace velmo {
 
 /// Wie eine Form des Programms entsteht.
 struct Formeintrag {
-    const char *Name;
+    Formularname Name;
     std::unique_ptr<Form> (*erzeuge)(Laufzeit &);
 };
 
@@ -37,15 +37,15 @@ class Laufzeit {
     Oberfläche &oberfläche;
     Eingabe eingabe{*this};
 
-    // Die Formulare. Jede Berührung lädt; Laden baut die Form und ruft Form_Load. Ein unbekannter Name ist ein
-    // logic_error.
-    bool kennt(const std::string &Name) const;
-    Form *geladene(const std::string &Name) const;
-    Form &lade(const std::string &Name);
-    void zeige(const std::string &Name);
-    void verstecke(const std::string &Name);
+    // Die Formulare. Jede Berührung lädt; Laden baut die Form und ruft Form_Load. Ein Name, der nicht in der Tafel
+    // steht, ist ein logic_error.
+    std::optional<Formularname> formular(const std::string &Name) const;
+    Form *geladene(Formularname) const;
+    Form &lade(Formularname);
+    void zeige(Formularname);
+    void verstecke(Formularname);
     /// Entlädt die Form; eine nicht geladene bleibt es.
-    void entlade(const std::string &Name);
+    void entlade(Formularname);
     /// Die geladenen Formulare von hinten nach vorn, die obersten (Topmost) zuletzt.
     std::vector<Form *> Formen() const;
 
@@ -88,6 +88,7 @@ class Laufzeit {
     void nachVorn(Form &);
 
   private:
+    const Formeintrag &eintrag(Formularname) const;
     void ruf(const Handler &);
     void gibAb(Rast);
     void gibWartendeAuf() { aufgegeben = wartende; }

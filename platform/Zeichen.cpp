@@ -43,6 +43,18 @@ void hängeAn(std::string &text, char32_t z) {
 
 } // namespace
 
+std::string klein(std::string text) {
+    for (char &c : text)
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    return text;
+}
+
+std::string groß(std::string text) {
+    for (char &c : text)
+        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+    return text;
+}
+
 int Zeichenzahl(std::string_view text) {
     return static_cast<int>(std::count_if(text.begin(), text.end(), beginntZeichen));
 }

@@ -1,8 +1,8 @@
 #include "property/Bauen.h"
 
+#include "boardform/Brett.h"
+#include "boardform/Kasse.h"
 #include "media/Ton.h"
-#include "model/Brett.h"
-#include "model/Geld.h"
 #include "property/Grundstück.h"
 #include "property/Pleite.h"
 
@@ -95,7 +95,7 @@ void errichte(Programm &p, const Baukosten &stufe) {
 }
 
 void Baudurchführung(Programm &p) {
-    p.entlade("Baufeld");
+    p.entlade(formular::Baufeld);
     if (p.Zustand.Gratisbau) p.Zustand.Bauergebnis = 10;
     if (const auto k = HotelZuSchlüssel(p.Zustand.Bauhotel)) baueAn(p, *k);
     brett(p).Fertig.Enabled = true;
@@ -113,7 +113,7 @@ void Hochbauen(Programm &p, const std::string &Text) {
     if (Text != "comp") b.Fertig.Enabled = true;
 }
 
-void BauTimer_Timer(Programm &p) {
+void Steigtakt(Programm &p) {
     Image &bild = Baubild(p);
     bild.Height += Steigschritt;
     // Was über die Endhöhe hinausgeht, bleibt: mit Absicht so.

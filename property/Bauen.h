@@ -20,11 +20,12 @@ struct Baukosten {
     std::optional<Baustufe> DoppeltGenannt = {}; // beim doppelten Preis
 };
 
-namespace baukosten {
-using H = Hotelkürzel;
-using S = Baustufe;
+/// In derselben Folge wie Stufen.
 // clang-format off
-inline constexpr std::array<Baukosten, 36> Reihe = {{
+inline constexpr auto Baukostentafel = [] {
+    using H = Hotelkürzel;
+    using S = Baustufe;
+    return std::to_array<Baukosten>({
     // Hotel Stufe  Kosten Doppelt Bild
     {H::b, S::H,   1800,  3600, "bo1"},
     {H::b, S::P,    250,   500, "bop"},
@@ -62,20 +63,18 @@ inline constexpr std::array<Baukosten, 36> Reihe = {{
     {H::r, S::N2,  1800,  3600, "royn2"},
     {H::r, S::N3,  1800,  3600, "royn3"},
     {H::r, S::P,   3000,  6000, "royp"},
-}};
+    });
+}();
+static_assert(Baukostentafel.size() == Stufen.size());
 // clang-format on
 
-constexpr bool passtZuStufen() {
-    for (std::size_t i = 0; i < Reihe.size(); ++i)
-        if (Reihe[i].Hotel != Stufen[i].Hotel || Reihe[i].Stand != Stufen[i].Stand ||
-            Reihe[i].Doppelt != 2 * Reihe[i].Kosten)
-            return false;
+static_assert([] {
+    for (std::size_t i = 0; i < Baukostentafel.size(); ++i) {
+        const Baukosten &b = Baukostentafel[i];
+        if (b.Hotel != Stufen[i].Hotel || b.Stand != Stufen[i].Stand || b.Doppelt != 2 * b.Kosten) return false;
+    }
     return true;
-}
-static_assert(passtZuStufen());
-} // namespace baukosten
-/// In derselben Folge wie Stufen.
-inline constexpr const auto &Baukostentafel = baukosten::Reihe;
+}());
 
 /// Die Stufen des Hotels vom Hauptgebäude bis zum Freizeitpark.
 std::span<const Baukosten> Baufolge(Hotelkürzel);
@@ -92,6 +91,6 @@ void Baudurchführung(Programm &);
 /// Lässt das Gebäude Baubild steigen; der Text "comp" heißt, ein Computer baut.
 void Hochbauen(Programm &, const std::string &Text);
 /// Ein Takt des Steigens.
-void BauTimer_Timer(Programm &);
+void Steigtakt(Programm &);
 
 } // namespace velmo

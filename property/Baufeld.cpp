@@ -1,8 +1,7 @@
 #include "property/Baufeld.h"
 
 #include "assistant/Ansagen.h"
-#include "media/Bilder.h"
-#include "model/Brett.h"
+#include "boardform/Brett.h"
 #include "property/Bauen.h"
 #include "property/Grundstück.h"
 
@@ -37,10 +36,9 @@ Baufeld::Baufeld(Programm &programm) : Brettdialog(programm, Formname, 5952, 276
     Label1.FontSize = 12;
     Command2.Click = [this] { p.entlade(Formname); };
     Command3.Click = [this] { Command3_Click(); };
-    Command4.Click = [this] { p.zeige("Karten"); };
+    Command4.Click = [this] { p.zeige(formular::Karten); };
     Command9.Click = [this] { Command9_Click(); };
     Image1.MouseUp = [this](Maustaste, double X, double Y) { Image1_MouseUp(X, Y); };
-    Entwurfsbilder(p, *this);
 }
 
 void Baufeld::Form_Load() {

@@ -6,7 +6,7 @@ namespace velmo {
 
 class Baufeld : public Brettdialog {
   public:
-    static constexpr const char *Formname = "Baufeld";
+    static constexpr Formularname Formname = formular::Baufeld;
     explicit Baufeld(Programm &);
 
     Image Image1{*this, "Image1", {240, 240, 5532, 1692}};

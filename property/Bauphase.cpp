@@ -1,7 +1,6 @@
 #include "property/Bauphase.h"
 
-#include "media/Bilder.h"
-#include "model/Brett.h"
+#include "boardform/Brett.h"
 #include "property/Bauen.h"
 #include "property/Grundstück.h"
 
@@ -13,7 +12,6 @@ Bauphase::Bauphase(Programm &programm) : Brettdialog(programm, Formname, 5856, 3
     Label1.Mittig = true;
     Knöpfe.beiKlick([this](Hotelkürzel k) { baue(k); });
     Command1.Click = [this] { p.entlade(Formname); };
-    Entwurfsbilder(p, *this);
 }
 
 void Bauphase::Form_Load() {

@@ -7,7 +7,7 @@ namespace velmo {
 
 class Bauphase : public Brettdialog {
   public:
-    static constexpr const char *Formname = "Bauphase";
+    static constexpr Formularname Formname = formular::Bauphase;
     explicit Bauphase(Programm &);
 
     Label Label1{*this, "Label1", {480, 0, 5652, 1212}, "Sie haben eine Bauphase kostenloß gewonnen!"};

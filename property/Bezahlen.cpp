@@ -1,10 +1,9 @@
 #include "property/Bezahlen.h"
 
+#include "boardform/Brett.h"
+#include "boardform/Kasse.h"
 #include "media/Bilder.h"
 #include "media/Ton.h"
-#include "model/Brett.h"
-#include "model/Geld.h"
-#include "platform/FormAnpassen.h"
 #include "property/Miete.h"
 #include "property/Pleite.h"
 
@@ -43,12 +42,10 @@ Bezahlen::Bezahlen(Programm &programm) : Form(programm, Formname, {0, 240, 7476,
     SSCommand2.Click = [this] { SSCommand2_Click(); };
     Timer1.Tick = [this] { Timer1_Timer(); };
     Timer2.Tick = [this] { Timer2_Timer(); };
-    Entwurfsbilder(p, *this);
 }
 
 void Bezahlen::Form_Load() {
     beginneTrauermusik();
-    if (p.Zustand.KleineSchrift) FormAnpassen(*this, 0);
     Left = static_cast<int>((p.Screen().Width - Width) / 2);
     brett(p).Enabled = false;
     Preiszustand = true;
@@ -63,9 +60,7 @@ void Bezahlen::Form_Unload() {
     brett(p).Enabled = true;
 }
 
-void Bezahlen::eigeneWerte(const Namensempfänger &e) {
-    e("Preiszustand", {[this] { return alsWert(Preiszustand); }, [this](const Wert &w) { ausWert(w, Preiszustand); }});
-}
+void Bezahlen::eigeneWerte(const Namensempfänger &e) { e("Preiszustand", feldzugang(Preiszustand)); }
 
 /// Trauermusik nur, wenn gerade kein Stück läuft.
 void Bezahlen::beginneTrauermusik() {

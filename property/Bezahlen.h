@@ -6,7 +6,7 @@ namespace velmo {
 
 class Bezahlen : public Form {
   public:
-    static constexpr const char *Formname = "Bezahlen";
+    static constexpr Formularname Formname = formular::Bezahlen;
     explicit Bezahlen(Programm &);
 
     Image Image3{*this, "Image3", {0, 0, 7452, 6972}};

@@ -1,14 +1,13 @@
 #include "property/Brettdialog.h"
 
-#include "model/Brett.h"
-#include "platform/FormAnpassen.h"
+#include "boardform/Brett.h"
 
 #include <cmath>
 
 namespace velmo {
 
-Brettdialog::Brettdialog(Programm &programm, const char *Name, double Breite, double Höhe)
-    : Form(programm, Name, {0, 0, Breite, Höhe}), p(programm) {
+Brettdialog::Brettdialog(Programm &programm, Formularname name, double Breite, double Höhe)
+    : Form(programm, name, {0, 0, Breite, Höhe}), p(programm) {
     MouseDown = zieht();
 }
 
@@ -17,7 +16,6 @@ Maushandler Brettdialog::zieht() {
 }
 
 void Brettdialog::Form_Load() {
-    if (p.Zustand.KleineSchrift) FormAnpassen(*this, 0);
     const Bildschirm schirm = p.Screen();
     Left = std::trunc((schirm.Width - Width) / 2);
     Top = std::trunc((schirm.Height - Height) / 2);

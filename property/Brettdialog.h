@@ -5,16 +5,13 @@
 
 namespace velmo {
 
-/// Die Farbe von Rahmen und Linien auf dem Papier der Dialoge.
-inline constexpr Farbe Holz{0x8A663E};
-
 class Brettdialog : public Form {
   public:
     void Form_Load() override;
     void Form_Unload() override;
 
   protected:
-    Brettdialog(Programm &, const char *Name, double Breite, double Höhe);
+    Brettdialog(Programm &, Formularname, double Breite, double Höhe);
     /// Für MouseDown: der Dialog folgt der Maus.
     Maushandler zieht();
     Programm &p;

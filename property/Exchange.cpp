@@ -1,9 +1,7 @@
 #include "property/Exchange.h"
 
 #include "assistant/Ansagen.h"
-#include "media/Bilder.h"
-#include "model/Geld.h"
-#include "platform/FormAnpassen.h"
+#include "boardform/Kasse.h"
 #include "property/Brettdialog.h"
 
 #include <algorithm>
@@ -31,16 +29,12 @@ Exchange::Exchange(Programm &programm) : Form(programm, Formname, {VonRechts, Vo
     for (VisualControl *fläche : {static_cast<VisualControl *>(&Label1), static_cast<VisualControl *>(&Label2),
                                   static_cast<VisualControl *>(&Label3), static_cast<VisualControl *>(&Image1)})
         fläche->MouseDown = MouseDown;
-    Line1.BorderColor = Holz;
+    Line1.BorderColor = farbe::Holz;
     Command1.Click = [this] { Command1_Click(); };
     Command2.Click = [this] { p.entlade(Formname); };
-    Entwurfsbilder(p, *this);
 }
 
-void Exchange::Form_Load() {
-    if (p.Zustand.KleineSchrift) FormAnpassen(*this, 0);
-    Topmost = true;
-}
+void Exchange::Form_Load() { Topmost = true; }
 
 void Exchange::Command1_Click() {
     if (Combo1.ListIndex < 0 || Combo2.ListIndex < 0) return p.entlade(Formname);

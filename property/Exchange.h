@@ -6,7 +6,7 @@ namespace velmo {
 
 class Exchange : public Form {
   public:
-    static constexpr const char *Formname = "Exchange";
+    static constexpr Formularname Formname = formular::Exchange;
     explicit Exchange(Programm &);
 
     Image Image1{*this, "Image1", {2280, 1440, 540, 420}};

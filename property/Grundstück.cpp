@@ -1,6 +1,6 @@
 #include "property/Grundstück.h"
 
-#include "model/Brett.h"
+#include "boardform/Brett.h"
 
 namespace velmo {
 

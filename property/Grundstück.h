@@ -18,13 +18,13 @@ struct Grundstück {
     Baustufe Übergangen = Baustufe::H;       // nach welcher Stufe die Bauphase gratis nicht fragt
 };
 
-namespace grundstückstafel {
-using H = Hotelkürzel;
-inline constexpr const char *Fehler = "Fehler in geldfeld_sscommand_click. Senden sie dies bitte an ";
-inline constexpr const char *SafariFehler = "Fehler in geldfeld_sscommand_click safari. Senden sie dies bitte an ";
 // Der Bau vergleicht mit der Spalte Schlüssel.
 // clang-format off
-inline constexpr std::array<Grundstück, 8> Reihe = {{
+inline constexpr auto Grundstücke = [] {
+    using H = Hotelkürzel;
+    const char *const Fehler = "Fehler in geldfeld_sscommand_click. Senden sie dies bitte an ";
+    const char *const SafariFehler = "Fehler in geldfeld_sscommand_click safari. Senden sie dies bitte an ";
+    return std::to_array<Grundstück>({
     // Hotel Preis Zwang Schlüssel    nach Zwang   Park  Meldung  Übergangen
     {H::b,  500,  250, "Boomrang",  "Boomrang",  H::b},
     {H::p, 3500, 1750, "President", "President", H::p},
@@ -34,10 +34,10 @@ inline constexpr std::array<Grundstück, 8> Reihe = {{
     {H::f, 1000,  500, "Fujijama",  "Fujijama",  H::p, Fehler},       // ein fremder Park: mit Absicht so
     {H::l, 3000, 1500, "Etoile",    "Etoile",    H::l, Fehler},
     {H::r, 2500, 1250, "Royal",     "Royal",     H::r, nullptr, Baustufe::N3}, // mit Absicht ohne diese Frage
-}};
+    });
+}();
+static_assert(Grundstücke.size() == 8);
 // clang-format on
-} // namespace grundstückstafel
-inline constexpr const auto &Grundstücke = grundstückstafel::Reihe;
 
 constexpr const Grundstück &grundstück(Hotelkürzel k) { return Grundstücke[static_cast<std::size_t>(k)]; }
 

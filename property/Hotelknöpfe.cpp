@@ -25,7 +25,7 @@ constexpr Knopfzeile Knopftafel[] = {
 
 Hotelknopf::Hotelknopf(Form &form, Hotelkürzel k, const char *rahmen, const char *knopf, Rechteck r)
     : Hotel(k), Rahmen(form, rahmen, r), Knopf(form, knopf, r, hotel(k).Name) {
-    Rahmen.BorderColor = Holz;
+    Rahmen.BorderColor = farbe::Holz;
     Knopf.Visible = false;
 }
 

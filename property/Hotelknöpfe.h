@@ -1,6 +1,7 @@
 #pragma once
 // Die acht Hotelknöpfe mit ihren Rahmen, in zwei Reihen zu vier.
 #include "model/Hoteltafel.h"
+#include "platform/Form.h"
 
 #include <deque>
 #include <functional>

@@ -3,7 +3,6 @@
 #include "include/Werte.h"
 #include "media/Bilder.h"
 #include "media/Ton.h"
-#include "platform/FormAnpassen.h"
 
 namespace velmo {
 
@@ -24,12 +23,11 @@ Karten::Karten(Programm &programm) : Form(programm, Formname, {204, 384, 9216, 6
         };
     Image3.Click = [this] { Image3_Click(); };
     for (Image *pfeil : {&Image1, &Image2, &Image3})
-        pfeil->MouseMove = [pfeil](double, double) { pfeil->BorderStyle = 1; };
+        pfeil->MouseMove = [pfeil](double, double) { pfeil->BorderStyle = Rand::Einfach; };
     MouseMove = picture1.MouseMove = [this](double, double) {
         for (Image *pfeil : {&Image1, &Image2, &Image3})
-            pfeil->BorderStyle = 0;
+            pfeil->BorderStyle = Rand::Ohne;
     };
-    Entwurfsbilder(p, *this);
 }
 
 void Karten::verbindeFahrten() {
@@ -56,15 +54,12 @@ void Karten::verbindeFahrten() {
 void Karten::Form_Load() {
     MMControl1.FileName = p.Zustand.Programmpfad + "/sound/kback.wav";
     MMControl2.FileName = p.Zustand.Programmpfad + "/sound/kbf.wav";
-    if (p.Zustand.KleineSchrift) FormAnpassen(*this, 0);
     Kartennummer = ErsteKarte;
     blättere(1);
     MMControl1.Command(Befehl::Open);
 }
 
-void Karten::eigeneWerte(const Namensempfänger &e) {
-    e("Kartennummer", {[this] { return alsWert(Kartennummer); }, [this](const Wert &w) { ausWert(w, Kartennummer); }});
-}
+void Karten::eigeneWerte(const Namensempfänger &e) { e("Kartennummer", feldzugang(Kartennummer)); }
 
 void Karten::blättere(int um) {
     Kartennummer += um;

@@ -6,7 +6,7 @@ namespace velmo {
 
 class Karten : public Form {
   public:
-    static constexpr const char *Formname = "Karten";
+    static constexpr Formularname Formname = formular::Karten;
     explicit Karten(Programm &);
 
     Image picture1{*this, "picture1", {960, -4080, 7668, 5220}};

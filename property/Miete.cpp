@@ -1,9 +1,9 @@
 #include "property/Miete.h"
 
 #include "assistant/Ansagen.h"
+#include "boardform/Brett.h"
+#include "boardform/Kasse.h"
 #include "media/Bilder.h"
-#include "model/Brett.h"
-#include "model/Geld.h"
 #include "property/Pleite.h"
 
 #include <algorithm>
@@ -74,7 +74,7 @@ std::optional<int> Tagessatz(const Spielzustand &z, const Mietzeile &zeile) {
 
 void Mietdialog(Programm &p, Autokürzel k) {
     if (findeGastgeber(p.Zustand, k, [](const Eingangsbesitzer &g) { return g != Spieler; }))
-        p.zeige("Bezahlen");
+        p.zeige(formular::Bezahlen);
     else
         p.Zustand.Mietefertig = true;
 }
@@ -88,7 +88,7 @@ void Mietzahlen(Programm &p, Autokürzel k) {
     zeigeWürfeln(p, nächte);
     if (const Mietzeile *zeile = miethotel(z))
         if (const auto satz = Tagessatz(z, *zeile)) z.Miete = *satz * nächte;
-    const int gast = Computernummer(Autobesitzer("c" + ich));
+    const int gast = Computernummer(Computer<Autobesitzer>(ich));
     const int gastgeber = Computernummer(z.Gastgeber);
     if (!gast || (!gastgeber && z.Gastgeber != Spieler)) return;
     if (z.Computergeld[gast] < z.Miete)

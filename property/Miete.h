@@ -16,17 +16,21 @@ struct Mietzeile {
 };
 
 // clang-format off
-inline constexpr std::array<Mietzeile, 8> Miettafel = {{
-    //             Name        Karte   H    N1   N2   N3   N4    P
-    {Hotelkürzel::b, "Boomerang", 124, {400,   0,   0,   0,   0,  600}},
-    {Hotelkürzel::p, "President", 120, {200, 400, 600, 800,   0, 1100}},
-    {Hotelkürzel::w, "Waikiki",   123, {200, 350, 500, 500, 650, 1000}},
-    {Hotelkürzel::t, "Taj Mahal", 117, {100, 100, 200,   0,   0,  300}},
-    {Hotelkürzel::s, "Safari",    122, {100, 100, 250,   0,   0,  500}},
-    {Hotelkürzel::f, "Fujijama",  118, {100, 200, 200,   0,   0,  400}},
-    {Hotelkürzel::l, "Étoile",    119, {150, 300, 300, 300, 450,  750}},
-    {Hotelkürzel::r, "Royal",     121, {150, 300, 300, 450,   0,  600}},
-}};
+inline constexpr auto Miettafel = [] {
+    using H = Hotelkürzel;
+    return std::to_array<Mietzeile>({
+    // Hotel Name        Karte   H    N1   N2   N3   N4    P
+    {H::b, "Boomerang", 124, {400,   0,   0,   0,   0,  600}},
+    {H::p, "President", 120, {200, 400, 600, 800,   0, 1100}},
+    {H::w, "Waikiki",   123, {200, 350, 500, 500, 650, 1000}},
+    {H::t, "Taj Mahal", 117, {100, 100, 200,   0,   0,  300}},
+    {H::s, "Safari",    122, {100, 100, 250,   0,   0,  500}},
+    {H::f, "Fujijama",  118, {100, 200, 200,   0,   0,  400}},
+    {H::l, "Étoile",    119, {150, 300, 300, 300, 450,  750}},
+    {H::r, "Royal",     121, {150, 300, 300, 450,   0,  600}},
+    });
+}();
+static_assert(Miettafel.size() == 8);
 // clang-format on
 
 constexpr const Mietzeile &mietzeile(Hotelkürzel k) { return Miettafel[static_cast<std::size_t>(k)]; }

@@ -1,10 +1,11 @@
 #include "property/Pleite.h"
 
 #include "assistant/Ansagen.h"
-#include "model/Brett.h"
-#include "model/Geld.h"
-#include "property/Eingänge.h"
+#include "boardform/Brett.h"
+#include "boardform/Kasse.h"
+#include "property/Eingangskauf.h"
 #include "property/Grundstück.h"
+#include "property/Ruinmeldung.h"
 
 #include <algorithm>
 #include <array>
@@ -24,12 +25,8 @@ constexpr struct {
     int Platz;
 } Mitgerissen = {H::b, 39};
 
-constexpr const char *Verloren = "Verloren";
-
-/// Ein Steuerelement der Form, die den Ruin meldet; der Spieler kann sie während des Satzes geschlossen haben.
-template <class C> C &aufVerloren(Programm &p, const char *name) {
-    return dynamic_cast<C &>(*p.lade(Verloren).control(name));
-}
+/// Die Form, die den Ruin meldet; der Spieler kann sie während des Satzes geschlossen haben.
+Ruinmeldung &ruinmeldung(Programm &p) { return p.form(formular::Verloren); }
 
 void nimmAusDemSpiel(Programm &p, const Autobesitzer &fahrer) {
     const auto wagen =
@@ -58,26 +55,26 @@ void gibFrei(Programm &p, H k) {
 
 void ruiniereComputer(Programm &p, const std::string &wer, int summe) {
     Spielzustand &z = p.Zustand;
-    p.lade(Verloren);
-    nimmAusDemSpiel(p, Autobesitzer("c" + wer));
+    p.lade(formular::Verloren);
+    nimmAusDemSpiel(p, Computer<Autobesitzer>(wer));
     for (const H k : Freigabe)
-        if (z.Hotels[k].Besitzer == Hotelbesitzer("c" + wer)) gibFrei(p, k);
+        if (z.Hotels[k].Besitzer == Computer<Hotelbesitzer>(wer)) gibFrei(p, k);
     Eingangsauffrischung(p, false);
     z.Verlierermerker = wer;
     z.Siegmerker = z.Gegnerzahl == 1;
     z.Gegnerzahl -= 1; // mit Absicht auch, wenn niemand so heißt
     Ansagen(p, "Er konnte nicht eimal die Summe von " + std::to_string(summe) + " Bezahlen!", 10);
-    aufVerloren<Label>(p, "Label1").Caption = "Der Computer " + z.Verlierermerker + " hat Verloren!";
-    p.zeige(Verloren);
+    ruinmeldung(p).melde("Der Computer " + z.Verlierermerker + " hat Verloren!");
+    p.zeige(formular::Verloren);
 }
 
 void ruiniereMensch(Programm &p, int summe) {
-    p.lade(Verloren);
+    p.lade(formular::Verloren);
     p.Zustand.Verlierermerker = "Spieler";
     Ansagen(p, "Sie konnten nicht einmal die Summe von " + std::to_string(summe) + " Bezahlen!", 0);
-    aufVerloren<Label>(p, "Label1").Caption = "Sie haben Verloren!";
-    aufVerloren<SSCommand>(p, "SSCommand1").Visible = false; // niemand lacht ihn aus
-    p.zeige(Verloren);
+    ruinmeldung(p).melde("Sie haben Verloren!");
+    ruinmeldung(p).verbirgAuslachen();
+    p.zeige(formular::Verloren);
 }
 
 /// Nimmt den Schlüssel aus der Liste, "Taj" mit Absicht vergebens; was an die leere Stelle nachrückt, wird nicht noch

@@ -1,9 +1,8 @@
 #include "property/eingang.h"
 
 #include "assistant/Ansagen.h"
-#include "media/Bilder.h"
-#include "model/Brett.h"
-#include "property/Eingänge.h"
+#include "boardform/Brett.h"
+#include "property/Eingangskauf.h"
 
 #include <algorithm>
 
@@ -25,13 +24,12 @@ eingang::eingang(Programm &programm) : Brettdialog(programm, Formname, 6360, 390
     for (Label *label : {&Label1, &Label3}) {
         label->MouseDown = zieht();
         label->FontSize = 14;
-        label->Alignment = static_cast<double>(Ausrichtung::Mitte);
+        label->Alignment = Ausrichtung::Mitte;
     }
     for (Line *linie : {&Line1, &Line2, &Line3, &Line4})
-        linie->BorderColor = Holz;
+        linie->BorderColor = farbe::Holz;
     Knöpfe.beiKlick([this](Hotelkürzel k) { wähle(k); });
     SSCommand9.Click = [this] { p.entlade(Formname); };
-    Entwurfsbilder(p, *this);
 }
 
 void eingang::Form_Load() {

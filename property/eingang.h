@@ -7,7 +7,7 @@ namespace velmo {
 
 class eingang : public Brettdialog {
   public:
-    static constexpr const char *Formname = "eingang";
+    static constexpr Formularname Formname = formular::eingang;
     explicit eingang(Programm &);
 
     Label Label1{*this, "Label1", {240, 360, 5892, 492}, "Wählen sie aus für welches Hotel sie einen "};

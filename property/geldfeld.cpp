@@ -1,11 +1,10 @@
 #include "property/geldfeld.h"
 
 #include "assistant/Ansagen.h"
-#include "media/Bilder.h"
+#include "boardform/Brett.h"
+#include "boardform/Kasse.h"
 #include "media/Ton.h"
-#include "model/Brett.h"
 #include "model/Feldtabelle.h"
-#include "model/Geld.h"
 #include "platform/Zeichen.h"
 #include "property/Grundstück.h"
 #include "property/Hilfeadresse.h"
@@ -67,7 +66,6 @@ geldfeld::geldfeld(Programm &programm) : Brettdialog(programm, Formname, 4332, 1
     SSCommand1.Click = [this] { kaufe(SSCommand1, Seite::links); };
     SSCommand2.Click = [this] { kaufe(SSCommand2, Seite::rechts); };
     SSCommand3.Click = [this] { SSCommand3_Click(); };
-    Entwurfsbilder(p, *this);
 }
 
 void geldfeld::Form_Load() {

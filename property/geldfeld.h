@@ -7,7 +7,7 @@ namespace velmo {
 
 class geldfeld : public Brettdialog {
   public:
-    static constexpr const char *Formname = "geldfeld";
+    static constexpr Formularname Formname = formular::geldfeld;
     explicit geldfeld(Programm &);
 
     Image Image1{*this, "Image1", {3120, 360, 540, 420}};

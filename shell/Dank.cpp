@@ -1,7 +1,5 @@
 #include "shell/Dank.h"
 
-#include "media/Bilder.h"
-
 namespace velmo {
 
 namespace {
@@ -24,15 +22,14 @@ constexpr const char *Danktext = "\n\nVELMO\n\n"
 } // namespace
 
 Dank::Dank(Programm &programm) : Form(programm, Formname, {-132, -192, 9948, 7452}), p(programm) {
-    BackColor = Farbe{0x000000};
-    Label1.Alignment = static_cast<double>(Ausrichtung::Mitte);
-    Label1.ForeColor = Farbe{0xFFFFFF};
+    BackColor = farbe::Schwarz;
+    Label1.Alignment = Ausrichtung::Mitte;
+    Label1.ForeColor = farbe::Weiß;
     Label1.FontName = "Tahoma";
     Label1.FontSize = 13;
     Text1.Text = Danktext;
     Text1.Visible = false;
     Click = Label1.Click = [this] { p.entlade(Formname); };
-    Entwurfsbilder(p, *this);
 }
 
 } // namespace velmo

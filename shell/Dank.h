@@ -6,7 +6,7 @@ namespace velmo {
 
 class Dank : public Form {
   public:
-    static constexpr const char *Formname = "Dank";
+    static constexpr Formularname Formname = formular::Dank;
     explicit Dank(Programm &);
 
     Label Label1{*this, "Label1", {120, 240, 9612, 7212}};

@@ -84,9 +84,7 @@ void Feuerwerk::male(const Teilchen &t, double größe) {
 }
 
 void Feuerwerk::eigeneWerte(const Namensempfänger &e) {
-    const auto feld = [&](const std::string &name, auto &wert) {
-        e(name, {[&wert] { return alsWert(wert); }, [&wert](const Wert &w) { ausWert(w, wert); }});
-    };
+    const auto feld = [&](const std::string &name, auto &wert) { e(name, feldzugang(wert)); };
     for (std::size_t i = 0; i < teilchen.size(); ++i) {
         const std::string n = std::to_string(i);
         feld("Aktiv(" + n + ")", teilchen[i].Aktiv);

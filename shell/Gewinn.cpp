@@ -1,36 +1,26 @@
 #include "shell/Gewinn.h"
 
-#include "media/Bilder.h"
-#include "model/Brett.h"
+#include "boardform/Brett.h"
 #include "model/Spielbeginn.h"
-#include "platform/FormAnpassen.h"
 #include "shell/Bestenliste.h"
 #include "shell/Punkte.h"
 
 namespace velmo {
 
-namespace {
-
-constexpr Farbe Weiß{0xFFFFFF};
-
-} // namespace
-
 Gewinn::Gewinn(Programm &programm) : Form(programm, Formname, {0, 0, 12288, 9216}), p(programm) {
-    BackColor = Farbe{0x000000};
+    BackColor = farbe::Schwarz;
     Label1.FontName = "Comic Sans MS";
     Label1.FontSize = 24;
-    Label1.ForeColor = Weiß;
+    Label1.ForeColor = farbe::Weiß;
     Label3.FontSize = 12;
-    Label3.Alignment = static_cast<double>(Ausrichtung::Mitte);
+    Label3.Alignment = Ausrichtung::Mitte;
     SSCommand1.Click = [this] { SSCommand1_Click(); };
     SSCommand2.Click = [this] { SSCommand2_Click(); };
     Timer1.Tick = [this] { Timer1_Timer(); };
     Timer2.Tick = [this] { feuerwerk.starte(p); };
-    Entwurfsbilder(p, *this);
 }
 
 void Gewinn::Form_Load() {
-    if (p.Zustand.KleineSchrift) FormAnpassen(*this, 2);
     Punkte = Siegpunkte(p);
     fülleAnzeige();
     trageEin(p, Punkte);
@@ -52,7 +42,7 @@ void Gewinn::Form_Unload() {
 }
 
 void Gewinn::eigeneWerte(const Namensempfänger &e) {
-    e("Punkte", {[this] { return alsWert(Punkte); }, [this](const Wert &w) { ausWert(w, Punkte); }});
+    e("Punkte", feldzugang(Punkte));
     feuerwerk.eigeneWerte(e);
 }
 
@@ -72,7 +62,7 @@ void Gewinn::beginneMusik() {
 
 void Gewinn::SSCommand1_Click() {
     p.entlade(Brett::Formname);
-    p.zeige("Menu");
+    p.zeige(formular::Menu);
     SpielZurücksetzen(p.Zustand);
     p.entlade(Formname);
 }

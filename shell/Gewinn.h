@@ -9,7 +9,7 @@ namespace velmo {
 
 class Gewinn : public Form {
   public:
-    static constexpr const char *Formname = "Gewinn";
+    static constexpr Formularname Formname = formular::Gewinn;
     explicit Gewinn(Programm &);
 
     Label Label1{*this, "Label1", {0, 0, 5772, 732}, "SIE HABEN GEWONNEN!"};

@@ -6,7 +6,7 @@ namespace velmo {
 
 class HoF : public Form {
   public:
-    static constexpr const char *Formname = "HoF";
+    static constexpr Formularname Formname = formular::HoF;
     explicit HoF(Programm &);
 
     Shape Shape1{*this, "Shape1", {2520, 0, 4212, 972}, Gestalt::GerundetesRechteck};

@@ -1,6 +1,5 @@
 #include "shell/Intro.h"
 
-#include "media/Bilder.h"
 #include "platform/FormAnpassen.h"
 
 #include <cmath>
@@ -12,9 +11,8 @@ Intro::Intro(Programm &programm) : Form(programm, Formname, {2748, 2400, 3600, 2
     KeyPress = [this](const std::string &) { beende(); };
     Timer1.Tick = [this] {
         Timer1.Enabled = false;
-        p.zeige("Menu"); // dessen Laden entlädt den Film
+        p.zeige(formular::Menu); // dessen Laden entlädt den Film
     };
-    Entwurfsbilder(p, *this);
 }
 
 void Intro::Form_Load() {
@@ -33,7 +31,7 @@ void Intro::Form_Load() {
 
 void Intro::beende() {
     Timer1.Enabled = false;
-    p.zeige("Menu");
+    p.zeige(formular::Menu);
     p.entlade(Formname);
 }
 

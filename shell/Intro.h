@@ -6,7 +6,7 @@ namespace velmo {
 
 class Intro : public Form {
   public:
-    static constexpr const char *Formname = "Intro";
+    static constexpr Formularname Formname = formular::Intro;
     explicit Intro(Programm &);
 
     Animation Animation1{*this, "Animation1", {-20, 0, 3612, 2292}};

@@ -1,7 +1,6 @@
 #include "shell/Menu.h"
 
 #include "board/Form1.h"
-#include "media/Bilder.h"
 #include "media/Ton.h"
 #include "model/Spielbeginn.h"
 #include "platform/FormAnpassen.h"
@@ -22,7 +21,7 @@ void AuflösungSetzen(Laufzeit &l, float Breite, float Höhe) {
     l.oberfläche.setzeModus(static_cast<int>(std::nearbyint(Breite)), static_cast<int>(std::nearbyint(Höhe)));
 }
 
-void GewinnZeigen(Laufzeit &l) { l.zeige("Gewinn"); }
+void GewinnZeigen(Laufzeit &l) { l.zeige(formular::Gewinn); }
 
 Menu::Menu(Programm &programm) : Form(programm, Formname, {192, 0, 9504, 7200}, "Velmo"), p(programm) {
     MouseMove = [this](double, double) { Form_MouseMove(); };
@@ -42,7 +41,6 @@ Menu::Menu(Programm &programm) : Form(programm, Formname, {192, 0, 9504, 7200}, 
         rahmen->BorderColor = Glanzfarbe;
     }
     zeigeGlanz(nullptr);
-    Entwurfsbilder(p, *this);
 }
 
 void Menu::Form_Load() {
@@ -55,7 +53,7 @@ void Menu::Form_Load() {
     p.zeige(Menu2::Formname);
     p.zeige(Form1::Formname);
     AuflösungSetzen(p, 800, 600);
-    p.entlade("Intro");
+    p.entlade(formular::Intro);
 }
 
 void Menu::messeAnzeige() {
@@ -92,7 +90,7 @@ void Menu::Spieln_Click() {
     p.zeige(Menu2::Formname);
 }
 
-void Menu::zeigeNachTon(const char *form) {
+void Menu::zeigeNachTon(Formularname form) {
     spieleWartend(MMControl2);
     p.zeige(form);
 }
@@ -103,7 +101,7 @@ void Menu::Form_Unload() {
     spieleWartend(MMControl2);
     SpielZurücksetzen(p.Zustand);
     p.entlade(Form1::Formname);
-    p.entlade("Bezahlen");
+    p.entlade(formular::Bezahlen);
     p.Ende();
 }
 

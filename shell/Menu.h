@@ -13,7 +13,7 @@ void GewinnZeigen(Laufzeit &);
 
 class Menu : public Form {
   public:
-    static constexpr const char *Formname = "Menu";
+    static constexpr Formularname Formname = formular::Menu;
     explicit Menu(Programm &);
 
     // Die heißen Felder haben kein Bild; ihr Glanz erscheint unter der Maus. Die Blume ist selbst anzuklicken.
@@ -48,11 +48,11 @@ class Menu : public Form {
     void zeigeGlanz(const VisualControl *);
     void Form_MouseMove();
     void Spieln_Click();
-    void Spiel_Click() { zeigeNachTon("HoF"); }
-    void Hilfe_Click() { zeigeNachTon("frmHilfe"); }
-    void Über_Click() { zeigeNachTon("Überf"); }
+    void Spiel_Click() { zeigeNachTon(formular::HoF); }
+    void Hilfe_Click() { zeigeNachTon(formular::frmHilfe); }
+    void Über_Click() { zeigeNachTon(formular::Überf); }
     void Ende_Click() { p.entlade(Formname); }
-    void zeigeNachTon(const char *form);
+    void zeigeNachTon(Formularname form);
 
     Programm &p;
     const std::array<Feld, 5> Felder{{

@@ -6,7 +6,6 @@
 #include "media/Bilder.h"
 #include "model/Autotafel.h"
 #include "platform/Dateien.h"
-#include "platform/FormAnpassen.h"
 #include "platform/Zeichen.h"
 #include "shell/Charakterdatei.h"
 
@@ -43,16 +42,16 @@ void schiebe(Form &form, double schritt, double bis) {
 } // namespace
 
 Menu2::Menu2(Programm &programm) : Form(programm, Formname, {420, 1056, 8868, 4716}), p(programm) {
-    BackColor = Farbe{0xFFFFFF};
+    BackColor = farbe::Weiß;
     for (Shape *rahmen : {&Shape1, &Shape2})
         rahmen->BorderColor = Farbe{0x9C7440};
     for (Schriftelement *feld : std::initializer_list<Schriftelement *>{&Text1, &Text2, &List1, &List2, &List3})
         feld->FontSize = 9;
     // Von einem Pfeil geradewegs zum anderen behalten mit Absicht beide ihren Rand.
-    MouseMove = [this](double, double) { klickl.BorderStyle = klickr.BorderStyle = 0; };
+    MouseMove = [this](double, double) { klickl.BorderStyle = klickr.BorderStyle = Rand::Ohne; };
     Picture1.MouseMove = MouseMove;
     for (Image *pfeil : {&klickl, &klickr})
-        pfeil->MouseMove = [pfeil](double, double) { pfeil->BorderStyle = 1; };
+        pfeil->MouseMove = [pfeil](double, double) { pfeil->BorderStyle = Rand::Einfach; };
     klickl.Click = [this] { klickl_Click(); };
     klickr.Click = [this] { klickr_Click(); };
     Label4.Click = [this] { Label4_Click(); };
@@ -61,12 +60,10 @@ Menu2::Menu2(Programm &programm) : Form(programm, Formname, {420, 1056, 8868, 47
     Command3.Click = File1.DblClick = [this] { Command3_Click(); };
     Command4.Click = [this] { Command4_Click(); };
     Command5.Click = [this] { Command5_Click(); };
-    Entwurfsbilder(p, *this);
 }
 
 void Menu2::Form_Load() {
     MMControl1.FileName = p.Zustand.Programmpfad + "/sound/menuback.wav";
-    if (p.Zustand.KleineSchrift) FormAnpassen(*this, 0);
     const Bildschirm schirm = p.Screen();
     Left = std::floor((schirm.Width - Width) / 2);
     Top = std::floor((schirm.Height - Height) / 2);
@@ -147,7 +144,7 @@ void Menu2::Command2_Click() {
     p.Zustand.Spielerbild = Picture1.Picture;
     MMControl1.Command(Befehl::Play);
     schiebe(*this, 20, 9400);
-    p.verstecke("Menu");
+    p.verstecke(formular::Menu);
     p.entlade(Formname);
     p.zeige(Form1::Formname);
     p.zeige(Assistent::Formname);

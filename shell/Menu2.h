@@ -14,7 +14,7 @@ inline constexpr Schwierigkeitsgrad Schwierigkeitsgrade[] = {
 
 class Menu2 : public Form {
   public:
-    static constexpr const char *Formname = "Menu2";
+    static constexpr Formularname Formname = formular::Menu2;
     explicit Menu2(Programm &);
 
     Shape Shape1{*this, "Shape1", {120, 3960, 4572, 612}, Gestalt::GerundetesRechteck};

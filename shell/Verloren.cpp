@@ -1,26 +1,22 @@
 #include "shell/Verloren.h"
 
-#include "media/Bilder.h"
+#include "boardform/Brett.h"
 #include "media/Ton.h"
-#include "model/Brett.h"
 #include "model/Spielbeginn.h"
-#include "platform/FormAnpassen.h"
 
 namespace velmo {
 
-Verloren::Verloren(Programm &programm) : Form(programm, Formname, {2532, 1176, 4752, 4788}), p(programm) {
+Verloren::Verloren(Programm &programm) : Ruinmeldung(programm, Formname, {2532, 1176, 4752, 4788}), p(programm) {
     Label1.FontName = "Arial Black";
     Label1.FontSize = 12;
-    Label1.Alignment = static_cast<double>(Ausrichtung::Mitte);
+    Label1.Alignment = Ausrichtung::Mitte;
     SSCommand1.Click = [this] { spieleFrisch(MMControl1); };
     SSCommand3.Click = [this] { SSCommand3_Click(); };
     Timer1.Tick = [this] { Timer1.Enabled = false; };
-    Entwurfsbilder(p, *this);
 }
 
 void Verloren::Form_Load() {
     Topmost = true;
-    if (p.Zustand.KleineSchrift) FormAnpassen(*this, 0);
     MMControl1.FileName = p.Zustand.Programmpfad + "/sound/laugh.wav";
     MMControl2.FileName = p.Zustand.Programmpfad + "/sound/glass.wav";
     brett(p).Enabled = false;
@@ -34,11 +30,11 @@ void Verloren::SSCommand3_Click() {
     if (z.Verlierermerker == Spieler.Text()) {
         p.entlade(Formname);
         p.entlade(Brett::Formname);
-        p.zeige("Menu");
+        p.zeige(formular::Menu);
         SpielZurücksetzen(p.Zustand);
     } else if (z.Siegmerker) {
-        p.zeige("Gewinn");
-        p.lade("Gewinn").Topmost = true;
+        p.zeige(formular::Gewinn);
+        p.lade(formular::Gewinn).Topmost = true;
         p.entlade(Formname);
     } else {
         p.entlade(Formname);

@@ -1,12 +1,12 @@
 #pragma once
 // Wer verloren hat; von hier geht das Spiel weiter, zum Gewinn oder zurück ins Menü.
-#include "include/Programm.h"
+#include "property/Ruinmeldung.h"
 
 namespace velmo {
 
-class Verloren : public Form {
+class Verloren : public Ruinmeldung {
   public:
-    static constexpr const char *Formname = "Verloren";
+    static constexpr auto Formname = formular::Verloren;
     explicit Verloren(Programm &);
 
     Label Label1{*this, "Label1", {120, 0, 4572, 372}};
@@ -18,6 +18,8 @@ class Verloren : public Form {
 
     void Form_Load() override;
     void Form_Unload() override;
+    void melde(const std::string &satz) override { Label1.Caption = satz; }
+    void verbirgAuslachen() override { SSCommand1.Visible = false; }
 
   private:
     void SSCommand3_Click();

@@ -1,7 +1,5 @@
 #include "shell/frmHilfe.h"
 
-#include "media/Bilder.h"
-#include "platform/FormAnpassen.h"
 #include "shell/Hilfetext.h"
 
 namespace velmo {
@@ -15,11 +13,6 @@ frmHilfe::frmHilfe(Programm &programm) : Form(programm, Formname, {0, 0, 9612, 7
         text += (text.empty() ? "" : "\n") + std::string(zeile);
     Text6.Text = text;
     Command1.Click = [this] { p.entlade(Formname); };
-    Entwurfsbilder(p, *this);
-}
-
-void frmHilfe::Form_Load() {
-    if (p.Zustand.KleineSchrift) FormAnpassen(*this, 2);
 }
 
 } // namespace velmo

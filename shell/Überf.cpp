@@ -1,7 +1,5 @@
 #include "shell/Überf.h"
 
-#include "media/Bilder.h"
-
 #include <cmath>
 #include <cstdio>
 
@@ -22,7 +20,7 @@ std::string Versionszeile() {
 } // namespace
 
 Überf::Überf(Programm &programm) : Form(programm, Formname, {984, 576, 4896, 4572}, "Über Velmo"), p(programm) {
-    BackColor = Farbe{0xFFFFFF};
+    BackColor = farbe::Weiß;
     for (Schriftelement *s :
          std::initializer_list<Schriftelement *>{&Titelzeile, &Wir, &Versionn, &Label1, &Command1, &OK})
         s->FontName = "Tahoma";
@@ -31,18 +29,17 @@ std::string Versionszeile() {
     Titelzeile.FontBold = true;
     Macherzeile.FontName = "Arial";
     Macherzeile.FontSize = 12;
-    Command1.Click = Wir.Click = [this] { p.zeige("Dank"); };
+    Command1.Click = Wir.Click = [this] { p.zeige(formular::Dank); };
     OK.Click = [this] { p.entlade(Formname); };
     Timer1.Tick = [this] { Timer1_Timer(); };
-    Entwurfsbilder(p, *this);
 }
 
 void Überf::Form_Load() {
     const Bildschirm schirm = p.Screen();
     Left = (schirm.Width - Width) / 2;
     Top = std::floor(schirm.Height - Height) / 2;
-    imgIcon.Picture = p.lade("Form1").Icon;
-    Icon = p.lade("Menu").Icon;
+    imgIcon.Picture = p.lade(formular::Form1).Icon;
+    Icon = p.lade(formular::Menu).Icon;
     Versionn.Caption = Versionszeile();
     shpRect3.Visible = false;
     shpRect3.BorderWidth = 1;

@@ -6,7 +6,7 @@ namespace velmo {
 
 class Überf : public Form {
   public:
-    static constexpr const char *Formname = "Überf";
+    static constexpr Formularname Formname = formular::Überf;
     explicit Überf(Programm &);
 
     Shape shpRect3{*this, "shpRect3", {120, 240, 852, 852}};

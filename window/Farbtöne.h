@@ -6,15 +6,14 @@
 
 namespace velmo::farbton {
 
+inline QColor aus(Farbe f) { return QColor::fromRgb(f.rgb | 0xFF000000u); }
+
+inline const QColor Papier = aus(farbe::Papier), Holz = aus(farbe::Holz);
 inline const QColor Tisch{0x3B, 0x2A, 0x1C};       // rings um die Anzeige
-inline const QColor Papier{0xF4, 0xEB, 0xDC};      // Formen ohne Bild
 inline const QColor Papierlicht{0xFF, 0xFB, 0xF2}; // Felder zum Schreiben
-inline const QColor Holz{0x8A, 0x66, 0x3E};        // Rahmen
 inline const QColor Holzschatten{0x5C, 0x40, 0x24};
 inline const QColor Messing{0xE2, 0xB0, 0x3A}; // Betonung, Tastaturfokus
 inline const QColor Tinte{0x2E, 0x21, 0x14};
 inline const QColor Blass{0x8E, 0x82, 0x70}; // Schrift auf Gesperrtem
-
-inline QColor aus(Farbe f) { return QColor::fromRgb(f.rgb | 0xFF000000u); }
 
 } // namespace velmo::farbton

@@ -1,10 +1,10 @@
 #pragma once
 // Eine Form auf der Anzeige: zeichnet die Abschrift ihres Zustands und nur, was sich daran geändert hat. Mausereignisse
 // lässt sie zum Fenster durch.
+#include "platform/Zeichenliste.h"
 #include "window/Bedienelemente.h"
 #include "window/Bildspeicher.h"
 #include "window/Maß.h"
-#include "window/Zeichenliste.h"
 
 #include <QMargins>
 #include <QPainterPath>

@@ -1,9 +1,9 @@
 #pragma once
 // Die Knöpfe des Spiels: ein Schalter des Systems (Tastatur, Vorlesen) in eigener Gestalt. Mit der Maus drückt ihn
 // die Eingabe des Spiels; mit der Tastatur meldet er sich über clicked.
+#include "platform/Zeichenliste.h"
 #include "window/Bildspeicher.h"
 #include "window/Maß.h"
-#include "window/Zeichenliste.h"
 
 #include <QAbstractButton>
 

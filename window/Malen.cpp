@@ -27,7 +27,7 @@ void malePapier(QPainter &p, const Maß &m, const Stück &s, const QRect &ort) {
 
 void maleBeschriftung(QPainter &p, const Maß &m, const Stück &s, const QRect &ort) {
     if (s.deckend && !s.text.empty()) malePapier(p, m, s, ort);
-    const int ausrichtung = Ausrichtungen[std::clamp(s.ausrichtung, 0, 2)] |
+    const int ausrichtung = Ausrichtungen[std::clamp(static_cast<int>(s.ausrichtung), 0, 2)] |
                             (s.mittig ? Qt::AlignVCenter : Qt::AlignTop) | Qt::TextWordWrap;
     maleText(p, m, ort, ausrichtung, text(s.text), schrift(s.schriftart, s.schriftgrad, s.fett, Satzpunkte),
              s.gesperrt ? farbton::Blass : farbton::aus(s.farbe));

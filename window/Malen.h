@@ -1,8 +1,8 @@
 #pragma once
 // Wie die gezeichneten Elemente aussehen. Orte sind Bildpunkte des Bildschirms, bezogen auf die Form.
+#include "platform/Zeichenliste.h"
 #include "window/Bildspeicher.h"
 #include "window/Maß.h"
-#include "window/Zeichenliste.h"
 
 #include <QPainter>
 

@@ -108,8 +108,8 @@ void QtOberfläche::schließe() {
     sollSchließen = hält;
     bearbeite([this] {
         Programm &p = umgebung->p;
-        if (p.geladene("Menu"))
-            p.entlade("Menu");
+        if (p.geladene(formular::Menu))
+            p.entlade(formular::Menu);
         else
             p.Ende();
     });

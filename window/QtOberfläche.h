@@ -3,7 +3,7 @@
 #include "platform/Oberfläche.h"
 #include "window/Film.h"
 #include "window/Formfläche.h"
-#include "window/Ton.h"
+#include "window/Klang.h"
 
 #include <QElapsedTimer>
 #include <QTimer>
@@ -60,7 +60,7 @@ class QtOberfläche : public Oberfläche {
     Anzeige gemerkteAnzeige;
     std::unique_ptr<Umgebung> umgebung;
     std::unique_ptr<Fenster> fenster;
-    Ton töne;
+    Klang töne;
     std::map<const Control *, std::unique_ptr<Film>> filme;
 
     QTimer takt;                 // der nächste fällige Zeitgeber

@@ -24,10 +24,6 @@ constexpr long Gerätezeit = 2 * 1000 * Puffer / Abtastrate; // ms, bis Gemischt
 constexpr const char *Klangsätze[] = {"/usr/share/sounds/sf2/TimGM6mb.sf2", "/usr/share/sounds/sf2/default-GM.sf2",
                                       "/usr/share/soundfonts/default.sf2"};
 
-long seit(Tonuhr::time_point beginn) {
-    return static_cast<long>(std::chrono::duration_cast<std::chrono::milliseconds>(Tonuhr::now() - beginn).count());
-}
-
 bool istStück(const std::filesystem::path &datei) {
     const std::string endung = datei.extension().string();
     return SDL_strcasecmp(endung.c_str(), ".mid") == 0;

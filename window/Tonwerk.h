@@ -18,6 +18,10 @@ struct _Mix_Music;
 namespace velmo {
 
 using Tonuhr = std::chrono::steady_clock;
+/// ms seit dem Beginn.
+inline long seit(Tonuhr::time_point beginn) {
+    return static_cast<long>(std::chrono::duration_cast<std::chrono::milliseconds>(Tonuhr::now() - beginn).count());
+}
 
 /// Ein geöffneter Ton: eine Welle oder ein MIDI-Stück. Er klingt nach dem Öffnen einmal.
 struct Stimme {

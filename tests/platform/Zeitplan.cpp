@@ -16,7 +16,7 @@ std::string Spur;
 
 class Uhrform : public Form {
   public:
-    static constexpr const char *Formname = "Uhrform";
+    static constexpr Formularname Formname{"Uhrform"};
     explicit Uhrform(Programm &p) : Form(p, Formname, {0, 0, 1000, 1000}) {
         später.Tick = [] { Spur += 's'; };
         früher.Tick = [] { Spur += 'f'; };
@@ -37,7 +37,7 @@ class Uhrform : public Form {
 
 class Knopfform : public Form {
   public:
-    static constexpr const char *Formname = "Knopfform";
+    static constexpr Formularname Formname{"Knopfform"};
     explicit Knopfform(Programm &p) : Form(p, Formname, {0, 0, 1000, 1000}) {
         Knopf.Click = [this, &p] {
             p.entlade(Formname);
@@ -50,7 +50,7 @@ class Knopfform : public Form {
 
 class Spielform : public Form {
   public:
-    static constexpr const char *Formname = "Spielform";
+    static constexpr Formularname Formname{"Spielform"};
     explicit Spielform(Programm &p) : Form(p, Formname, {0, 0, 1000, 1000}) {
         erster.Tick = [this, &p] { warte(p, '1'); };
         zweiter.Tick = [this, &p] { warte(p, '2'); };
@@ -66,6 +66,11 @@ class Spielform : public Form {
         Spur += '!';
     }
 };
+
+template <class F> constexpr Formeintrag eintrag() {
+    return {F::Formname,
+            [](Laufzeit &l) -> std::unique_ptr<Form> { return std::make_unique<F>(static_cast<Programm &>(l)); }};
+}
 
 constexpr Formeintrag Tafel[] = {eintrag<Uhrform>(), eintrag<Knopfform>(), eintrag<Spielform>()};
 
@@ -118,15 +123,15 @@ void prüfeWarten(Prüfung &t) {
 
 void prüfeEntladen(Prüfung &t) {
     Stand s;
-    s.p.zeige("Knopfform");
+    s.p.zeige(Knopfform::Formname);
     s.p.eingabe.drücke(Maustaste::Links, {300, 300});
     s.p.eingabe.löse(Maustaste::Links, {300, 300});
     t.gleich("ein Knopf schließt seine eigene Form", Spur, std::string("noch da"));
-    t.gilt("danach ist sie nicht geladen", !s.p.geladene("Knopfform"));
+    t.gilt("danach ist sie nicht geladen", !s.p.geladene(Knopfform::Formname));
 
     Spur.clear();
     s.p.form<Uhrform>().früher.Enabled = true;
-    s.p.entlade("Uhrform");
+    s.p.entlade(Uhrform::Formname);
     s.warte(50);
     t.gleich("mit der Form schweigen ihre Zeitgeber", Spur, std::string("LU"));
 }

@@ -84,21 +84,21 @@ QCursor zeigerBei(double x, double y) {
     return fenster()->childAt(ortImFenster({x, y}).toPoint())->cursor();
 }
 
-bool sichtbar(const Programm &p, const char *form) { return p.geladene(form) && p.geladene(form)->Visible; }
+bool sichtbar(const Programm &p, Formularname form) { return p.geladene(form) && p.geladene(form)->Visible; }
 
 void prüfeWegDurchsMenü(Prüfung &t) {
     Lauf l;
     l.schritte = {
         [&] {
             if (QWidget *kasten = QApplication::activeModalWidget()) kasten->close(); // ohne Film
-            return sichtbar(l.p, "Intro");
+            return sichtbar(l.p, formular::Intro);
         },
         [] {
             QKeyEvent taste(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a");
             QApplication::sendEvent(fenster(), &taste);
             return true;
         },
-        [&] { return sichtbar(l.p, "Menu") && !l.p.geladene("Intro"); },
+        [&] { return sichtbar(l.p, formular::Menu) && !l.p.geladene(formular::Intro); },
         [&] {
             klick(16 + 650, 137); // Ende
             return true;
@@ -116,21 +116,21 @@ void prüfeKlickBeiJederGröße(Prüfung &t) {
             return true;
         });
         l.schritte.push_back([&] {
-            auto &würfeln = dynamic_cast<VisualControl &>(*l.p.geladene("Form1")->control("WüButton"));
+            auto &würfeln = dynamic_cast<VisualControl &>(*l.p.geladene(formular::Form1)->control("WüButton"));
             würfeln.Click = [&] { ++getroffen; };
             klick((würfeln.Left + 10) / 12, (würfeln.Top + 10) / 12);
             return true;
         });
     }
     l.schritte.push_back([] { return fenster()->close() || true; });
-    t.gleich("geschlossen", l.laufe([&] { l.p.zeige("Form1"); }), 0);
+    t.gleich("geschlossen", l.laufe([&] { l.p.zeige(formular::Form1); }), 0);
     t.gleich("der Knopf trifft bei jeder Größe", getroffen, 4);
 }
 
 void prüfeZweiteTaste(Prüfung &t) {
     Lauf l;
     l.schritte = {[&] {
-        auto &haus = dynamic_cast<VisualControl &>(*l.p.geladene("Form1")->control("royn2"));
+        auto &haus = dynamic_cast<VisualControl &>(*l.p.geladene(formular::Form1)->control("royn2"));
         const Punkt ecke = Eingabe::ort(haus);
         const QPointF ort(ecke.x / 12 + 9, ecke.y / 12 + 9);
         haus.Visible = true;
@@ -148,14 +148,14 @@ void prüfeZweiteTaste(Prüfung &t) {
         t.gilt("ein verlorenes Loslassen hält nichts auf", !haus.Visible);
         return fenster()->close() || true;
     }};
-    t.gleich("zwei Tasten enden", l.laufe([&] { l.p.zeige("Form1"); }), 0);
+    t.gleich("zwei Tasten enden", l.laufe([&] { l.p.zeige(formular::Form1); }), 0);
 }
 
 void prüfeSchließenImWarten(Prüfung &t) {
     Lauf l;
-    l.schritte = {[&] { return sichtbar(l.p, "Form1"); }, [] { return fenster()->close() || true; }};
+    l.schritte = {[&] { return sichtbar(l.p, formular::Form1); }, [] { return fenster()->close() || true; }};
     t.gleich("Schließen mitten in einem Warten endet", l.laufe([&] {
-        l.p.zeige("Form1");
+        l.p.zeige(formular::Form1);
         l.p.warteBis([] { return false; });
     }),
              0);
@@ -168,7 +168,7 @@ void prüfeLaufzeitfehler(Prüfung &t) {
         return kasten && kasten->close();
     }};
     t.gleich("ein Laufzeitfehler endet mit 1", l.laufe([&] {
-        l.p.zeige("Form1");
+        l.p.zeige(formular::Form1);
         throw Laufzeitfehler(Fehlerart::Überlauf);
     }),
              1);
@@ -185,7 +185,7 @@ void prüfeRuhe(Prüfung &t) {
             fenster()->close();
         });
     });
-    t.gleich("Ruhe endet", l.oberfläche.laufe(l.p, [&] { l.p.zeige("HoF"); }), 0);
+    t.gleich("Ruhe endet", l.oberfläche.laufe(l.p, [&] { l.p.zeige(formular::HoF); }), 0);
     t.gilt("ohne Zeitgeber schläft die Schleife", erwacht <= 5);
 }
 
@@ -195,10 +195,10 @@ void prüfeSchritte(Prüfung &t) {
     bool getickt = false;
     l.schritte = {[&] { return dauer > 0 && (fenster()->close() || true); }};
     t.gleich("Schritte enden", l.laufe([&] {
-        l.p.zeige("Form1");
-        l.p.zeige("Menu2");
-        Form &form = *l.p.geladene("Menu2");
-        auto &uhr = dynamic_cast<Timer &>(*l.p.geladene("Form1")->control("Timer1"));
+        l.p.zeige(formular::Form1);
+        l.p.zeige(formular::Menu2);
+        Form &form = *l.p.geladene(formular::Menu2);
+        auto &uhr = dynamic_cast<Timer &>(*l.p.geladene(formular::Form1)->control("Timer1"));
         uhr.Tick = [&] { getickt = true; };
         l.p.DoEvents(); // zeigt sie zum ersten Mal
         uhr.Enabled = true;
@@ -227,7 +227,7 @@ void prüfeMeldungsarten(Prüfung &t) {
     };
     l.schritte = {schließeKasten, schließeKasten, [] { return fenster()->close() || true; }};
     t.gleich("zwei Meldungen", l.laufe([&] {
-        l.p.zeige("Form1");
+        l.p.zeige(formular::Form1);
         l.p.MsgBox("schlicht");
         l.p.MsgBox("ernst", Meldungsart::Kritisch);
     }),
@@ -250,9 +250,9 @@ void prüfeZeiger(Prüfung &t) {
                       return fenster()->close() || true;
                   }};
     t.gleich("über die Figur", l.laufe([&] {
-        l.p.zeige("Form1");
-        l.p.zeige("Assistent");
-        l.p.geladene("Assistent")->Top = 368;
+        l.p.zeige(formular::Form1);
+        l.p.zeige(formular::Assistent);
+        l.p.geladene(formular::Assistent)->Top = 368;
     }),
              0);
     t.gilt("sie hat ihren eigenen Zeiger", figur.shape() == Qt::BitmapCursor);

@@ -1,4 +1,4 @@
-#include "window/Zeichenliste.h"
+#include "platform/Zeichenliste.h"
 
 namespace velmo {
 
@@ -16,7 +16,7 @@ Stück stück(const Label &l) {
     s.sorte = Sorte::Beschriftung;
     nimmSchrift(s, l);
     s.text = l.Caption;
-    s.ausrichtung = static_cast<int>(l.Alignment);
+    s.ausrichtung = l.Alignment;
     s.deckend = l.Deckend;
     s.mittig = l.Mittig;
     s.grund = l.BackColor;
@@ -27,7 +27,7 @@ Stück stück(const Image &i) {
     Stück s;
     s.sorte = Sorte::Bild;
     s.bild = i.Picture().Datei;
-    s.rand = i.BorderStyle;
+    s.rand = i.BorderStyle() == Rand::Einfach;
     s.wächst = i.Wächst;
     if (!i.Stretch || i.Wächst) {
         s.natürlicheBreite = i.natürlicheBreite();
@@ -41,7 +41,7 @@ Stück stück(const PictureBox &b) {
     s.sorte = Sorte::Bildfeld;
     nimmSchrift(s, b);
     s.bild = b.Picture().Datei;
-    s.rand = b.BorderStyle;
+    s.rand = b.BorderStyle() == Rand::Einfach;
     return s;
 }
 
@@ -61,7 +61,7 @@ Stück stück(const CommandButton &k) {
     s.text = k.Caption;
     if (const auto *mitBild = dynamic_cast<const SSCommand *>(&k)) {
         s.bild = mitBild->Picture().Datei;
-        s.erhaben = mitBild->Font3D > 0;
+        s.erhaben = mitBild->Font3D() != Betonung::Keine;
     }
     return s;
 }

@@ -1,9 +1,9 @@
-#include "computer/Landkauf.h"
+#include "computer/kigeldfeld.h"
 
+#include "boardform/Brett.h"
 #include "computer/Computer.h"
 #include "computer/Kauftafel.h"
 #include "computer/Zufallsentscheid.h"
-#include "model/Brett.h"
 #include "property/Grundstück.h"
 #include "property/Pleite.h"
 
@@ -13,7 +13,7 @@ namespace velmo {
 
 namespace {
 
-using namespace kauftafel;
+using H = Hotelkürzel;
 
 class Landkauf {
   public:

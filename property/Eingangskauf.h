@@ -20,10 +20,10 @@ struct Hoteleingang {
     constexpr std::span<const int> Plätze() const { return {Folge.begin(), std::ranges::find(Folge, 0)}; }
 };
 
-namespace hoteleingänge {
-using H = Hotelkürzel;
 // clang-format off
-inline constexpr std::array<Hoteleingang, 8> Reihe = {{
+inline constexpr auto Hoteleingänge = [] {
+    using H = Hotelkürzel;
+    return std::to_array<Hoteleingang>({
     // Hotel Text  Mindestgeld Plätze                       fremde
     {H::r, "roy",   200, {11, 10, 9, 8, 3, 2, 4, 5, 6, 7}, {}},
     {H::f, "fuji",  100, {36, 38, 39, 42, 50, 51},         {}},
@@ -33,20 +33,20 @@ inline constexpr std::array<Hoteleingang, 8> Reihe = {{
     {H::l, "leth",  250, {47, 46, 15, 14, 13, 12, 31, 34, 35}, {21, 11}}, // voll erst mit fremden: mit Absicht so
     {H::w, "wai",   200, {21, 22, 23, 24, 25},             {}}, // mehr, als die Plätze kosten: mit Absicht so
     {H::s, "saf",   150, {48, 45, 44, 43, 52},             {}},
-}};
+    });
+}();
+static_assert(Hoteleingänge.size() == 8);
 // clang-format on
 
 static_assert([] {
     std::size_t zahl = 0;
-    for (const Hoteleingang &h : Reihe)
+    for (const Hoteleingang &h : Hoteleingänge)
         for (const int platz : h.Plätze()) {
             if (eingangsplatz(platz).Hotel != h.Hotel) return false;
             ++zahl;
         }
     return zahl == Eingangsplätze.size();
 }());
-} // namespace hoteleingänge
-inline constexpr const auto &Hoteleingänge = hoteleingänge::Reihe;
 
 /// Bietet die Plätze des Hotels an, das der Text nennt ("roy", "fuji", "presi", "taj", "boom", "leth", "wai", "saf").
 void Eingangsanzeige(Programm &, const std::string &Text);
@@ -58,9 +58,9 @@ void Eingangsknopf(Programm &, Flagge);
 bool vergeben(const Spielzustand &, int platz);
 
 /// Der Pfeil am gelben Eingang blinkt.
-void pfeilTimer_Timer(Programm &);
+void Pfeiltakt(Programm &);
 /// Der gelbe Eingang über einem Platz und auf ihm abgelegt.
-void PlatzDragOver(Programm &, int Platz, Ziehzustand);
-void PlatzDragDrop(Programm &, int Platz);
+void EingangÜberPlatz(Programm &, int Platz, Ziehzustand);
+void EingangAufPlatz(Programm &, int Platz);
 
 } // namespace velmo

@@ -23,7 +23,7 @@ struct Stück {
     double schriftgrad = 8.25;
     bool fett = false, deckend = false, erhaben = false, mittig = false;
     Farbe farbe, grund;
-    int ausrichtung = 0;
+    Ausrichtung ausrichtung = Ausrichtung::Links;
 
     std::string bild;
     double natürlicheBreite = 0, natürlicheHöhe = 0; // 0: das Bild füllt das Rechteck

@@ -1,4 +1,4 @@
-#include "computer/Bauen.h"
+#include "computer/kibaufeld.h"
 
 #include "assistant/Ansagen.h"
 #include "computer/Bautafel.h"
@@ -12,7 +12,8 @@ namespace velmo {
 
 namespace {
 
-using namespace bautafel;
+using H = Hotelkürzel;
+using S = Baustufe;
 
 // clang-format off
 /// Ein Hotel in der Auswahl: ob das letzte übrige sicher gewählt wird, ob ein fehlendes Hauptgebäude eigens drängt.
@@ -47,8 +48,8 @@ constexpr int Bauwürfe[] = {1, 1, 3, 1, 2, 4};
 constexpr int DranggeldDesPresident = 6000;
 
 const Bauzeile *bauzeile(const std::string &name) {
-    const auto zeile = std::ranges::find(Zeilen, name, &Bauzeile::Name);
-    return zeile == Zeilen.end() ? nullptr : &*zeile;
+    const auto zeile = std::ranges::find(Bautafel, name, &Bauzeile::Name);
+    return zeile == Bautafel.end() ? nullptr : &*zeile;
 }
 
 bool Münze(Programm &p) { return Zufallsentscheid(p, "kibaufeld") == 1; }
@@ -78,7 +79,7 @@ std::optional<H> wähleHotel(Programm &p, int computer) {
 const Bauzeile *nächsteStufe(Programm &p, H k) {
     const Spielzustand &z = p.Zustand;
     const Bauzeile *darüber = nullptr;
-    for (auto zeile = Zeilen.rbegin(); zeile != Zeilen.rend(); ++zeile) {
+    for (auto zeile = Bautafel.rbegin(); zeile != Bautafel.rend(); ++zeile) {
         if (zeile->Hotel != k) continue;
         if (steht(z, k, zeile->Stand)) {
             const auto wächter = std::ranges::find(Wächtertafel, k, &Wächter::Hotel);

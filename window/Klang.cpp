@@ -1,4 +1,4 @@
-#include "window/Ton.h"
+#include "window/Klang.h"
 
 #include "window/Tonwerk.h"
 
@@ -12,23 +12,19 @@ using Stand = Stimme::Stand;
 
 constexpr long Geduld = 500; // ms, die auf ein säumiges Gerät gewartet wird
 
-long seit(Tonuhr::time_point beginn) {
-    return static_cast<long>(std::chrono::duration_cast<std::chrono::milliseconds>(Tonuhr::now() - beginn).count());
-}
-
 } // namespace
 
-Ton::Ton() : werk(std::make_unique<Tonwerk>()) {}
-Ton::~Ton() = default;
+Klang::Klang() : werk(std::make_unique<Tonwerk>()) {}
+Klang::~Klang() = default;
 
-void Ton::beginne() { werk->beginne(); }
+void Klang::beginne() { werk->beginne(); }
 
-const Stimme *Ton::stimme(const Control &c) const {
+const Stimme *Klang::stimme(const Control &c) const {
     const auto hier = stimmen.find(&c);
     return hier == stimmen.end() ? nullptr : hier->second.get();
 }
 
-void Ton::befehl(const MMControl &c, Befehl befehl) {
+void Klang::befehl(const MMControl &c, Befehl befehl) {
     const auto hier = stimmen.find(&c);
     const bool offen = hier != stimmen.end();
     switch (befehl) {
@@ -47,14 +43,14 @@ void Ton::befehl(const MMControl &c, Befehl befehl) {
     }
 }
 
-void Ton::vergiss(const Control &c) {
+void Klang::vergiss(const Control &c) {
     const auto hier = stimmen.find(&c);
     if (hier == stimmen.end()) return;
     if (hier->second->stand != Stand::Offen) werk->schließe(hier->second);
     stimmen.erase(hier);
 }
 
-bool Ton::klingt(const MMControl &c) const {
+bool Klang::klingt(const MMControl &c) const {
     const Stimme *s = stimme(c);
     if (!s) return false;
     switch (s->stand) {
@@ -67,14 +63,14 @@ bool Ton::klingt(const MMControl &c) const {
     }
 }
 
-long Ton::Position(const MMControl &c) const {
+long Klang::Position(const MMControl &c) const {
     const Stimme *s = stimme(c);
     if (!s) return 0;
     return klingt(c) && s->stand == Stand::Klingt ? seit(s->Beginn) : s->Länge.load();
 }
 
 /// Solange ein Stück klingt oder gleich klingen wird, liegt sein Ende vor ihm.
-long Ton::Length(const MMControl &c) const {
+long Klang::Length(const MMControl &c) const {
     const Stimme *s = stimme(c);
     if (!s) return 0;
     return klingt(c) && s->Länge == 0 ? Position(c) + 1 : s->Länge.load();

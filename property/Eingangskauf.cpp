@@ -1,17 +1,15 @@
-#include "property/Eingänge.h"
+#include "property/Eingangskauf.h"
 
 #include "assistant/Ansagen.h"
+#include "boardform/Brett.h"
+#include "boardform/Kasse.h"
 #include "media/Bilder.h"
-#include "model/Brett.h"
-#include "model/Geld.h"
 
 #include <algorithm>
 
 namespace velmo {
 
 namespace {
-
-constexpr Farbe Weiß{0xFFFFFF}, Schwarz{0x000000};
 
 void zeigeGekauft(Programm &p, int platz) { brett(p).Platzbild(platz).Picture = Bildladen(p, 700 + platz, "Eingangn"); }
 void zeigeMöglich(Programm &p, int platz) { brett(p).Platzbild(platz).Picture = Bildladen(p, 800 + platz, "Eingangs"); }
@@ -65,7 +63,7 @@ void Eingangsanzeige(Programm &p, const std::string &Text) {
         return;
     }
     bietePlätzeAn(p, *h);
-    p.entlade("eingang");
+    p.entlade(formular::eingang);
 }
 
 void Eingangsauffrischung(Programm &p, Flagge nachKauf) {
@@ -96,22 +94,22 @@ void Eingangsauffrischung(Programm &p, Flagge nachKauf) {
 void Eingangsknopf(Programm &p, Flagge hervor) {
     if (hervor && p.Zustand.Hotelliste[1].leer()) return;
     SSCommand &knopf = brett(p).Command1;
-    knopf.Font3D = hervor ? 2 : 0;
-    knopf.ForeColor = hervor ? Schwarz : Weiß;
+    knopf.Font3D = hervor ? Betonung::Stark : Betonung::Keine;
+    knopf.ForeColor = hervor ? farbe::Schwarz : farbe::Weiß;
 }
 
-void pfeilTimer_Timer(Programm &p) {
+void Pfeiltakt(Programm &p) {
     Image &pfeil = brett(p).Pfeil;
     pfeil.Visible = !pfeil.Visible;
 }
 
-void PlatzDragOver(Programm &p, int Platz, Ziehzustand zustand) {
+void EingangÜberPlatz(Programm &p, int Platz, Ziehzustand zustand) {
     if (p.Zustand.Eingang[Platz]) return;
     if (zustand == Ziehzustand::Betreten) zeigeGekauft(p, Platz);
     if (zustand == Ziehzustand::Verlassen) zeigeMöglich(p, Platz);
 }
 
-void PlatzDragDrop(Programm &p, int Platz) {
+void EingangAufPlatz(Programm &p, int Platz) {
     Spielzustand &z = p.Zustand;
     // Nach einer Abweisung bleibt das Bild, das der gezogene Eingang gemacht hat: mit Absicht so.
     if (z.Eingang[Platz]) return weiseAb(p, "Sie haben den Eingang schon gekauft!");

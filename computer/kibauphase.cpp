@@ -1,4 +1,4 @@
-#include "computer/Bauphase.h"
+#include "computer/kibauphase.h"
 
 #include "assistant/Ansagen.h"
 #include "computer/Computer.h"

@@ -22,7 +22,7 @@ struct Notenstapel {
 
 class Brett : public Form {
   public:
-    static constexpr const char *Formname = "Form1";
+    static constexpr Formularname Formname = formular::Form1;
     explicit Brett(Programm &);
 
     PictureBox Picture1{*this, "Picture1", {120, 840, 8892, 5124}};

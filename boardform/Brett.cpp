@@ -1,6 +1,4 @@
-#include "model/Brett.h"
-
-#include "media/Bilder.h"
+#include "boardform/Brett.h"
 
 #include <algorithm>
 
@@ -27,7 +25,7 @@ void gestalte(Label &schild) {
     schild.Visible = false;
     schild.FontSize = 7;
     schild.FontBold = true;
-    schild.Alignment = static_cast<double>(Ausrichtung::Mitte);
+    schild.Alignment = Ausrichtung::Mitte;
     schild.Deckend = true;
     schild.BackColor = Farbe{0xFFF6DC};
 }
@@ -63,7 +61,6 @@ Brett::Brett(Programm &p) : Form(p, Formname, {0, 0, 9600, 7200}, "Velmo") {
         Stapel.emplace_back(*this, z.Note, z.g, z.k, z.p, Rechteck{z.Left, z.Top, Feldmaß.Width, Feldmaß.Height});
     Fertig.Enabled = false;
     Pfeil.Visible = false;
-    Entwurfsbilder(p, *this);
 }
 
 Image &Brett::Platzbild(int eingang) { return plätze.at(static_cast<std::size_t>(eingang - 2)); }

@@ -11,10 +11,10 @@ namespace velmo {
 struct Stimme;
 class Tonwerk;
 
-class Ton {
+class Klang {
   public:
-    Ton();
-    ~Ton();
+    Klang();
+    ~Klang();
     /// Von nun an klingt, was gespielt wird; was bis dahin befohlen war, wird nachgeholt.
     void beginne();
     void befehl(const MMControl &, Befehl);

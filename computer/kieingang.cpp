@@ -1,9 +1,9 @@
-#include "computer/Eingänge.h"
+#include "computer/kieingang.h"
 
 #include "computer/Computer.h"
 #include "computer/Eingangspreise.h"
 #include "model/Eingangstafel.h"
-#include "property/Eingänge.h"
+#include "property/Eingangskauf.h"
 
 #include <algorithm>
 #include <array>
