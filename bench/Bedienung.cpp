@@ -137,7 +137,8 @@ void taste(Szene &s, Wörter w) {
         while (i < text.size() && (text[i] & 0xC0) == 0x80)
             ++i;
         // Eine Taste kann die Form schließen.
-        if (Form *form = s.p().geladene(w[0].text)) s.p().eingabe.taste(*form, text.substr(anfang, i - anfang));
+        if (Form *form = s.p().geladene(s.namen->formular(w[0].text)))
+            s.p().eingabe.taste(*form, text.substr(anfang, i - anfang));
     }
 }
 

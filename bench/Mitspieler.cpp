@@ -30,13 +30,13 @@ bool endetMit(const std::string &text, const std::string &ende) {
 
 } // namespace
 
-template <class C> C &Mitspieler::element(const char *form, const std::string &name) const {
+template <class C> C &Mitspieler::element(Formularname form, const std::string &name) const {
     auto *c = dynamic_cast<C *>(p.geladene(form)->control(name));
-    if (!c) throw std::logic_error("kein Element " + std::string(form) + "." + name);
+    if (!c) throw std::logic_error("kein Element " + std::string(form.Text) + "." + name);
     return *c;
 }
 
-Form *Mitspieler::offen(const char *form) const {
+Form *Mitspieler::offen(Formularname form) const {
     Form *f = p.geladene(form);
     return f && f->Visible ? f : nullptr;
 }
@@ -51,7 +51,7 @@ bool Mitspieler::klicke(VisualControl &c) {
     return true;
 }
 
-bool Mitspieler::klicke(const char *form, const char *name) { return klicke(element<VisualControl>(form, name)); }
+bool Mitspieler::klicke(Formularname form, const char *name) { return klicke(element<VisualControl>(form, name)); }
 
 bool Mitspieler::ruhig() const {
     return std::ranges::none_of(p.Zeitplan(), [](const Timer *t) {
@@ -61,11 +61,11 @@ bool Mitspieler::ruhig() const {
 }
 
 void Mitspieler::beginneSpiel() {
-    klicke("Menu", "Spieln");
-    p.eingabe.wähle(element<ListBox>("Menu2", "List1"), static_cast<int>(laune() % 4));
-    p.eingabe.wähle(element<ListBox>("Menu2", "List2"), static_cast<int>(laune() % 3));
-    p.eingabe.wähle(element<ListBox>("Menu2", "List3"), static_cast<int>(laune() % 3));
-    klicke("Menu2", "Command2");
+    klicke(formular::Menu, "Spieln");
+    p.eingabe.wähle(element<ListBox>(formular::Menu2, "List1"), static_cast<int>(laune() % 4));
+    p.eingabe.wähle(element<ListBox>(formular::Menu2, "List2"), static_cast<int>(laune() % 3));
+    p.eingabe.wähle(element<ListBox>(formular::Menu2, "List3"), static_cast<int>(laune() % 3));
+    klicke(formular::Menu2, "Command2");
 }
 
 bool Mitspieler::handle() {
@@ -74,26 +74,26 @@ bool Mitspieler::handle() {
     return imDialog() || amBrett();
 }
 
-bool Mitspieler::handleImWarten() { return p.geladene("Bezahlen") && handle(); }
+bool Mitspieler::handleImWarten() { return p.geladene(formular::Bezahlen) && handle(); }
 
 /// Ein Würfel, den der Spieler selbst gestartet hat, rollt eine kleine Weile.
 bool Mitspieler::stoppeWürfel() {
     Brett &b = brett(p);
     const bool fährt = b.Timer1.Enabled && p.Zustand.Computerphase != 1;
-    const bool nächte = offen("Bezahlen") && element<Timer>("Bezahlen", "Timer1").Enabled;
+    const bool nächte = offen(formular::Bezahlen) && element<Timer>(formular::Bezahlen, "Timer1").Enabled;
     if (!fährt && !b.Timer2.Enabled && !nächte) return false;
     if (p.oberfläche.jetzt() < würfeltSeit + Würfelzeit) return false;
-    return nächte ? klicke("Bezahlen", "würfeln") : klicke(b.WüButton);
+    return nächte ? klicke(formular::Bezahlen, "würfeln") : klicke(b.WüButton);
 }
 
 bool Mitspieler::imDialog() {
-    if (offen("Verloren")) return klicke("Verloren", "SSCommand3");
-    if (offen("Gewinn")) return klicke("Gewinn", "SSCommand1");
-    if (offen("Bezahlen")) return bezahle();
-    if (offen("geldfeld")) return kaufe();
-    if (offen("Baufeld")) return baue();
-    if (offen("Bauphase")) return baueGratis();
-    if (offen("eingang")) return wähleEingang();
+    if (offen(formular::Verloren)) return klicke(formular::Verloren, "SSCommand3");
+    if (offen(formular::Gewinn)) return klicke(formular::Gewinn, "SSCommand1");
+    if (offen(formular::Bezahlen)) return bezahle();
+    if (offen(formular::geldfeld)) return kaufe();
+    if (offen(formular::Baufeld)) return baue();
+    if (offen(formular::Bauphase)) return baueGratis();
+    if (offen(formular::eingang)) return wähleEingang();
     return false;
 }
 
@@ -113,8 +113,8 @@ bool Mitspieler::amBrett() {
 
 bool Mitspieler::bezahle() {
     würfeltSeit = p.oberfläche.jetzt();
-    const bool gewürfelt = element<SSCommand>("Bezahlen", "SSCommand1").Enabled;
-    return klicke("Bezahlen", gewürfelt ? "SSCommand1" : "würfeln");
+    const bool gewürfelt = element<SSCommand>(formular::Bezahlen, "SSCommand1").Enabled;
+    return klicke(formular::Bezahlen, gewürfelt ? "SSCommand1" : "würfeln");
 }
 
 bool Mitspieler::kaufe() {
@@ -122,7 +122,7 @@ bool Mitspieler::kaufe() {
     const std::string anlieger = feld(z.Autos[*AutoDesMenschen(z)].Autoziel.Zahl()).Anlieger;
     const std::pair<const char *, char> knöpfe[] = {{"SSCommand1", anlieger.front()}, {"SSCommand2", anlieger.back()}};
     for (const auto &[name, buchstabe] : knöpfe) {
-        auto &knopf = element<SSCommand>("geldfeld", name);
+        auto &knopf = element<SSCommand>(formular::geldfeld, name);
         const Hotel *h = hotelZuBuchstabe(buchstabe);
         if (!h || !knopf.Visible || !knopf.Enabled) continue;
         const Grundstück &g = grundstück(h->Kürzel);
@@ -130,32 +130,32 @@ bool Mitspieler::kaufe() {
         const bool hatSchon = z.Hotels[h->Kürzel].Besitzer == Mensch;
         if (!hatSchon && (z.Gesamtgeld >= preis + Reserve || chance(Unvernunft))) return klicke(knopf);
     }
-    return klicke("geldfeld", "SSCommand3");
+    return klicke(formular::geldfeld, "SSCommand3");
 }
 
 /// Blättert durch seine Hotels, bis er eins bauen will; nach einer Runde lässt er es.
 bool Mitspieler::baue() {
     const Spielzustand &z = p.Zustand;
-    const auto hotel = HotelZuSchlüssel(element<Label>("Baufeld", "Label1").Caption);
+    const auto hotel = HotelZuSchlüssel(element<Label>(formular::Baufeld, "Label1").Caption);
     if (hotel && !ausgebaut(z, *hotel, grundstück(*hotel).Schlusspark) && !steht(z, *hotel, Baustufe::P)) {
         const bool bezahlbar = z.Gesamtgeld >= nächsteBaustufe(z, *hotel).Doppelt || chance(Unvernunft);
-        if (bezahlbar && element<SSCommand>("Baufeld", "Command9").Enabled) {
+        if (bezahlbar && element<SSCommand>(formular::Baufeld, "Command9").Enabled) {
             hotelsGesehen = 0;
-            return klicke("Baufeld", "Command9");
+            return klicke(formular::Baufeld, "Command9");
         }
     }
-    if (++hotelsGesehen <= 9 && element<CommandButton>("Baufeld", "Command3").Enabled)
-        return klicke("Baufeld", "Command3");
+    if (++hotelsGesehen <= 9 && element<CommandButton>(formular::Baufeld, "Command3").Enabled)
+        return klicke(formular::Baufeld, "Command3");
     hotelsGesehen = 0;
-    return klicke("Baufeld", "Command2");
+    return klicke(formular::Baufeld, "Command2");
 }
 
 bool Mitspieler::baueGratis() {
     for (int i = 1; i <= 8; ++i) {
-        auto &knopf = element<SSCommand>("Bauphase", "SSCommand" + std::to_string(i));
+        auto &knopf = element<SSCommand>(formular::Bauphase, "SSCommand" + std::to_string(i));
         if (knopf.Visible && knopf.Enabled) return klicke(knopf);
     }
-    return klicke("Bauphase", "Command1");
+    return klicke(formular::Bauphase, "Command1");
 }
 
 bool Mitspieler::eingangMöglich(Hotelkürzel k) const {
@@ -172,11 +172,11 @@ bool Mitspieler::willEingang() const {
 
 bool Mitspieler::wähleEingang() {
     for (std::size_t i = 0; i < Hoteleingänge.size(); ++i) {
-        auto &knopf = element<SSCommand>("eingang", "SSCommand" + std::to_string(i + 1));
+        auto &knopf = element<SSCommand>(formular::eingang, "SSCommand" + std::to_string(i + 1));
         const bool bezahlbar = p.Zustand.Gratiseingang || p.Zustand.Gesamtgeld >= Hoteleingänge[i].Mindestgeld + 250;
         if (bezahlbar && knopf.Visible && knopf.Enabled && eingangMöglich(Hoteleingänge[i].Hotel)) return klicke(knopf);
     }
-    return klicke("eingang", "SSCommand9");
+    return klicke(formular::eingang, "SSCommand9");
 }
 
 /// Zieht den gelben Eingang auf einen freien Platz.
@@ -212,15 +212,15 @@ bool Mitspieler::wechsle(int rest) {
             const bool erlaubt = gegeben / note >= 2 && gegeben / note <= 10;
             if (erlaubt && (gewünscht == 0 || note <= rest)) gewünscht = note;
         }
-        if (!offen("Exchange")) klicke(brett(p).SSCommand2);
-        auto &von = element<ComboBox>("Exchange", "Combo1");
-        auto &in = element<ComboBox>("Exchange", "Combo2");
+        if (!offen(formular::Exchange)) klicke(brett(p).SSCommand2);
+        auto &von = element<ComboBox>(formular::Exchange, "Combo1");
+        auto &in = element<ComboBox>(formular::Exchange, "Combo2");
         const auto zeile = [](const ComboBox &liste, int note) {
             return static_cast<int>(std::ranges::find(liste.Zeilen(), std::to_string(note)) - liste.Zeilen().begin());
         };
         p.eingabe.wähle(von, zeile(von, gegeben));
         p.eingabe.wähle(in, zeile(in, gewünscht));
-        return klicke("Exchange", "Command1");
+        return klicke(formular::Exchange, "Command1");
     }
     return false;
 }

@@ -35,10 +35,10 @@ class Mitspieler {
     bool willEingang() const;
     bool eingangMöglich(Hotelkürzel) const;
 
-    Form *offen(const char *form) const;
-    template <class C> C &element(const char *form, const std::string &name) const;
+    Form *offen(Formularname form) const;
+    template <class C> C &element(Formularname form, const std::string &name) const;
     bool klicke(VisualControl &);
-    bool klicke(const char *form, const char *name);
+    bool klicke(Formularname form, const char *name);
     bool chance(int prozent) { return static_cast<int>(laune() % 100) < prozent; }
 
     Programm &p;

@@ -44,7 +44,7 @@ class Dauerlauf {
             beginne();
             return laufe();
         } catch (const Laufzeitfehler &fehler) {
-            const bool safari = programm->Zustand.Miethotel == "Safari" && programm->geladene("Bezahlen");
+            const bool safari = programm->Zustand.Miethotel == "Safari" && programm->geladene(formular::Bezahlen);
             programm.reset(); // das nächste Spiel beginnt mit einem neuen Programm
             // Ein Überlauf des Geldes und die Umwandlung bei Safari sind Regeln des Spiels.
             if (fehler.Art() == Fehlerart::Überlauf) return Ausgang::Überlauf;
@@ -94,14 +94,14 @@ class Dauerlauf {
 
     Ausgang laufe() {
         for (;;) {
-            const bool warSieg = programm->geladene("Gewinn") != nullptr;
+            const bool warSieg = programm->geladene(formular::Gewinn) != nullptr;
             if (!spieler->handle()) {
                 tickeWeiter();
             } else {
                 regung = fläche.Uhr;
             }
-            if (warSieg && !programm->geladene("Gewinn")) return Ausgang::Sieg;
-            if (programm->geladene("Menu")->Visible) return Ausgang::Niederlage;
+            if (warSieg && !programm->geladene(formular::Gewinn)) return Ausgang::Sieg;
+            if (programm->geladene(formular::Menu)->Visible) return Ausgang::Niederlage;
             prüfe();
             if (runden >= Rundengrenze) {
                 programm.reset();

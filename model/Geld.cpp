@@ -1,6 +1,5 @@
 #include "model/Geld.h"
 
-
 #include <algorithm>
 
 namespace velmo {

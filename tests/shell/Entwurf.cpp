@@ -14,7 +14,7 @@ using namespace velmo;
 namespace {
 
 const std::map<std::string, std::uint32_t> Entwürfe = {
-    {"Form1", 1227751362},    {"Baufeld", 3541179059}, {"Bauphase", 4107431448}, {"Exchange", 2651753337},
+    {"Form1", 2303980006},    {"Baufeld", 3541179059}, {"Bauphase", 4107431448}, {"Exchange", 2651753337},
     {"Karten", 3586425710},   {"eingang", 3464345809}, {"geldfeld", 1562193207}, {"Bezahlen", 2733933050},
     {"Verloren", 3351919215}, {"Gewinn", 272155792},   {"HoF", 3389840027},      {"Assistent", 1854234060},
     {"Sprech", 1350948121},   {"Intro", 3790150884},   {"Menu", 312556406},      {"Menu2", 2157152298},
@@ -56,9 +56,9 @@ int main(int zahl, char **worte) {
     Prüfung prüfung;
     for (const Formeintrag &eintrag : Formtafel()) {
         const std::string text = entwurf(*eintrag.erzeuge(programm));
-        if (zahl > 1 && std::string(worte[1]) == eintrag.Name) std::cout << text;
-        const auto zeile = Entwürfe.find(eintrag.Name);
-        prüfung.gleich(eintrag.Name, summe(text), zeile == Entwürfe.end() ? 0 : zeile->second);
+        if (zahl > 1 && std::string(worte[1]) == eintrag.Name.Text) std::cout << text;
+        const auto zeile = Entwürfe.find(eintrag.Name.Text);
+        prüfung.gleich(eintrag.Name.Text, summe(text), zeile == Entwürfe.end() ? 0 : zeile->second);
     }
     return prüfung.ende();
 }
