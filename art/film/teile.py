@@ -4,16 +4,13 @@ blender -b --python art/film/teile.py -- --ziel /tmp/film [--vorschau] [--nur bu
 
 Alle Teile stehen in Bildern gleichen Maßes; der Schatten liegt im Bild gleichen Namens mit "_s".
 """
-import os
 import random
-import sys
 
-sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "modell"))
-from kasten import *       # noqa: E402,F403
+from kasten import *
 from auto import wagen     # noqa: E402
 
 FONT = "/usr/share/fonts/opentype/urw-base35/URWGothic-Demi.otf"
-NAME = (("V", "rot"), ("E", "gelb"), ("L", "gruen"), ("M", "blau"), ("O", "orange"))
+NAME = (("V", "rot"), ("E", "gelb"), ("L", "grün"), ("M", "blau"), ("O", "orange"))
 NEIGUNG = 22                           # Grad
 KEHRE = range(90, 41, -6)              # Grad; 90 zeigt nach rechts, 0 zum Betrachter
 
@@ -21,7 +18,7 @@ KEHRE = range(90, 41, -6)              # Grad; 90 zeigt nach rechts, 0 zum Betra
 def buchstabe(zeichen, farbe):
     """Ein Spielzeugbuchstabe mit hellem Rücken, auf dem Boden stehend, leicht zurückgelehnt."""
     fuß = Matrix.Translation(welt(45, 78)) @ Matrix.Rotation(math.radians(90 - NEIGUNG), 4, "X")
-    for versatz, vorn, dick, s in ((2.6, 4.5, 6.5, stoff("weiss", rau=.4, fleck=0)),
+    for versatz, vorn, dick, s in ((2.6, 4.5, 6.5, stoff("weiß", rau=.4, fleck=0)),
                                    (0.0, 0.0, 6.0, stoff(farbe, rau=.3, glanz=.5, fleck=0))):
         kurve = bpy.data.curves.new(zeichen, "FONT")
         kurve.font = bpy.data.fonts.load(FONT, check_existing=True)

@@ -3,32 +3,14 @@
 Eine Stufe ist eine Routine ohne Argumente. Sie baut um den Fußpunkt ihres Rechtecks: x = 0 ist seine Mitte,
 y = 0 seine Unterkante. Was in Tiefe y in Höhe z endet, liegt im Bild (y + z) / 1,414 Punkte über der Unterkante.
 """
-import math
-import os
-import re
-import sys
-
-HIER = os.path.dirname(os.path.abspath(__file__))
-sys.path.insert(0, os.path.join(HIER, "..", "modell"))
-from kasten import *       # noqa: E402,F403
-from bauteile import *     # noqa: E402,F403
-from pflanzen import *     # noqa: E402,F403
-import numpy as np
-from kasten import WURZEL, _ORT, _netz_aus, _objekt   # noqa: E402,F401
-
-
-def rechtecke():
-    """Name der Stufe in Kleinbuchstaben -> Rechteck in Twips, aus der Hoteltafel des Spiels."""
-    with open(os.path.join(WURZEL, "model", "Hoteltafel.h"), encoding="utf-8") as f:
-        zeilen = re.findall(r'S::\w+,\s*"(\w+)",\s*\{(-?\d+), (\d+), (\d+), (\d+)\}', f.read())
-    return {name.lower(): tuple(map(int, ort)) for name, *ort in zeilen}
+from kasten import *
 
 
 # ---------------------------------------------------------------- Flächen, Kippen
 
 def kippe(o, grad=90, achse="X"):
     """Richtet ein eben gebautes Teil um eine Achse des geltenden Rahmens auf; 90 Grad: oben wird vorn."""
-    o.matrix_world = _ORT[-1] @ Matrix.Rotation(math.radians(grad), 4, achse) @ _ORT[-1].inverted() @ o.matrix_world
+    o.matrix_world = geltend() @ Matrix.Rotation(math.radians(grad), 4, achse) @ geltend().inverted() @ o.matrix_world
     return o
 
 
@@ -116,10 +98,10 @@ def rechteckprofil(x, y, z, b, t, profil, stoff_, rund=.25, drehung=0.0):
         f += [(4 * k + i, 4 * k + (i + 1) % 4, 4 * k + 4 + (i + 1) % 4, 4 * k + 4 + i) for i in range(4)]
     n = 4 * (len(profil) - 1)
     f += [(3, 2, 1, 0), (n, n + 1, n + 2, n + 3)]
-    return _objekt("Rechteckprofil", _netz_aus(p, f), stoff_, lage(x, y, z, drehung), rund)
+    return objekt("Rechteckprofil", netz_aus(p, f), stoff_, lage(x, y, z, drehung), rund)
 
 
-def mansarde(x, y, z, b, t, h, stoff_, gauben=0, einzug=None, sims="weiss", first="gold", gaubenmass=1.0):
+def mansarde(x, y, z, b, t, h, stoff_, gauben=0, einzug=None, sims="weiß", first="gold", gaubenmass=1.0):
     """Mansarddach: Traufsims, steile geschweifte Seiten, flacher Deckel, Gauben vorn."""
     e = einzug or h * .34
     quader(x, y, z - .8, b + 2.4, t + 2.4, 1.6, sims, .4)

@@ -1,5 +1,5 @@
 """Boomerang: Lodge im roten Land, Wellblech und Veranda, Windrad, Felsen, der Bumerang auf dem Dach."""
-from anlage import *       # noqa: F403
+from hotels.anlage import *
 
 ERDE, FELS, BLECH, WAND = "#b4603a", "#b5492a", "#4fa093", "#f6e3b4"
 
@@ -13,7 +13,7 @@ def bumerang(x, y, z, weit, dick=2.2):
         p = außen + innen
         kippe(prisma(p, -dick / 2, dick, "#f6b52a", .5), 62)
         for s in (-1, 1):
-            for k, (lage_, farbe) in enumerate(((.80, "rot"), (.58, "weiss"), (.36, "#7a3a1c"))):
+            for k, (lage_, farbe) in enumerate(((.80, "rot"), (.58, "weiß"), (.36, "#7a3a1c"))):
                 a = s * lage_ * w
                 m = -.16 * weit * (lage_ - .34) / .46 - .035 * weit if lage_ > .5 else .09 * weit
                 kippe(zylinder(a, m, dick / 2 - .2, weit * .043, .5, farbe, rund=.1), 62)
@@ -31,7 +31,7 @@ def windrad(x, y, z, hoch, r):
     with bei(x, y - 2, z + hoch):
         for i in range(10):
             a = 2 * math.pi * i / 10
-            o = quader(0, 0, 0, r * .36, .5, r * .74, "weiss" if i % 2 else "rot", .15)
+            o = quader(0, 0, 0, r * .36, .5, r * .74, "weiß" if i % 2 else "rot", .15)
             o.matrix_world = o.matrix_world @ Matrix.Rotation(a, 4, "Y") @ Matrix.Translation((0, 0, r * .22)) @ Matrix.Rotation(math.radians(22), 4, "Z")
         rohr([(.96 * r * math.cos(2 * math.pi * i / 24), 0, .96 * r * math.sin(2 * math.pi * i / 24)) for i in range(24)], .4, "#d8d2c4", zu=True)
         kugel(0, -.6, 0, 1.5, "gelb")
@@ -42,7 +42,6 @@ def fels(x, y, b, t, h, farbe=FELS):
     """Breiter runder Fels mit Rippen."""
     bm = bmesh.new()
     bmesh.ops.create_icosphere(bm, subdivisions=5, radius=1)
-    from mathutils import noise
     for v in bm.verts:
         d = v.co.copy()
         rippe = .05 * math.sin(d.x * 13 + 2 * noise.noise(d * 2)) * (1 - max(0, d.z)) + .10 * noise.noise(d * 1.6 + Vector((3, 1, 0)))
@@ -79,11 +78,11 @@ def boom():
     dach = wellblech(BLECH, 2.6)
     walmdach(0, 42, 18, 86, 52, 12, dach, über=3, first=44, dick=1.4)
     for i in range(8):
-        quader(-42 + 12 * i, 15.5, 4, 1.7, 1.7, 13.5, "weiss", .3)
+        quader(-42 + 12 * i, 15.5, 4, 1.7, 1.7, 13.5, "weiß", .3)
     for a, e in ((-42, -12), (12, 42)):
-        zaun([(a, 15.5), (e, 15.5)], "weiss", 4.6, 3.0, 4, latten=2)
+        zaun([(a, 15.5), (e, 15.5)], "weiß", 4.6, 3.0, 4, latten=2)
     # Obergeschoss mit Giebel
-    haus(0, 48, 22, 46, 26, 19, putz("#e8b968"), ((10.5, 9.5, 5.2, 6.2, dict(rahmen="weiss")),))
+    haus(0, 48, 22, 46, 26, 19, putz("#e8b968"), ((10.5, 9.5, 5.2, 6.2, dict(rahmen="weiß")),))
     walmdach(0, 48, 41, 46, 26, 13, wellblech("#5fb3a4", 2.6), über=4, first=22, dick=1.4)
     for s in (-1, 1):                          # Gauben der Veranda
         with bei(s * 27, 28, 21):
@@ -92,7 +91,7 @@ def boom():
                 fenster(0, 2.4, 5, 4.2)
             satteldach(0, 0, 7, 12, 13, 4, wellblech("#5fb3a4", 2.0), drehung=90, giebel=putz(WAND))
     bumerang(0, 33, 47, 46, 3)
-    wimpel(-30, 50, 30, 20, ("#20408a", "weiss", "rot"), 8, 5)
+    wimpel(-30, 50, 30, 20, ("#20408a", "weiß", "rot"), 8, 5)
     # Vorplatz
     for x, y, m in ((-46, 10, 1.0), (47, 8, 1.1), (-30, 6, .8)):
         grasbüschel(x, y, mass=1.4 * m, farbe="#b9a347")
@@ -113,7 +112,7 @@ def boomp():
     schirm(-29, 9, .6, 5.2, 7, ("#f6b52a", "#c8392f"))
     liege(-33, 5, .6)
     liege(-26, 5, .6)
-    schirm(8, 27, .6, 4.6, 6.5, ("weiss", "#3f8f86"))
+    schirm(8, 27, .6, 4.6, 6.5, ("weiß", "#3f8f86"))
     liege(2, 27, .6)
     liege(14, 27, .6)
     bumerang(-10, 28, 5, 15, 1.6)

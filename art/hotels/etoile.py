@@ -1,5 +1,5 @@
 """L'Étoile: französische Palais der Belle Époque, Mansarddächer, Stern auf der Kuppel, Park mit Fontänen."""
-from anlage import *       # noqa: F403
+from hotels.anlage import *
 
 WAND, SIMS, DACH, MARKISE = "#dfb981", "#efe3cb", "#41699f", ("#c23a5a", "#fbf3e2")
 BOGEN = dict(rahmen=SIMS, bogen=True, sprossen=(1, 0), rand=.6)
@@ -93,10 +93,10 @@ def leth():
     sternspitze(0, 22, oben, 6.2, 3.6)
     portal(10, 1.6, 9, 9.5)
     for s in (-1, 1):
-        wimpel(s * 12.2, 18, oben - 16, 12, ("#2a4fa0", "weiss", "#c8352b"), 6, 4.4)
+        wimpel(s * 12.2, 18, oben - 16, 12, ("#2a4fa0", "weiß", "#c8352b"), 6, 4.4)
         for x in (12, 20, 28):
             kugelbaum(s * x, 5.5, .6, .42, "#4b9438")
-        blumenbeet(s * 20, 2.6, 22, 2.6, ("rosa", "weiss", "rot"), z=.6)
+        blumenbeet(s * 20, 2.6, 22, 2.6, ("rosa", "weiß", "rot"), z=.6)
 
 
 def letn1():
@@ -138,7 +138,7 @@ def letn2():
     drehkörper(x, y, 34.6, [(r * 1.08, 0), (r * 1.08, 1), (r, 1.4), (r * .98, 4), (r * .82, 8), (r * .5, 11.6), (r * .22, 13.6)], _dach(), 40)
     drehkörper(x, y, 48, [(2.2, 0), (2.2, 1), (1.6, 1), (1.6, 3), (2.1, 3.4), (.2, 6)], metall("gold"), 20)
     sternspitze(x, y, 53, 2.6, .4)
-    wimpel(8, 22, 38, 9, ("#2a4fa0", "weiss", "#c8352b"), 6, 4)
+    wimpel(8, 22, 38, 9, ("#2a4fa0", "weiß", "#c8352b"), 6, 4)
     for x, m in ((-20, .36), (21, .42), (12, .36)):
         kugelbaum(x, 4, .6, m, "#4b9438")
 
@@ -205,7 +205,7 @@ def letp():
         for sy in (-1, 1):
             x, y = -6 + sx * 20, 17 + sy * 10
             hecke([(x - 7.5, y - 4), (x + 7.5, y - 4), (x + 7.5, y + 4), (x - 7.5, y + 4), (x - 7.5, y - 4)], 1.7, 1.5, "#3f8a34", .6)
-            blumenbeet(x, y, 11, 4.4, ("rosa", "weiss", "lila") if sx == sy else ("rot", "gelb", "weiss"), z=.6)
+            blumenbeet(x, y, 11, 4.4, ("rosa", "weiß", "lila") if sx == sy else ("rot", "gelb", "weiß"), z=.6)
             zypresse(-6 + sx * 9.4, 17 + sy * 13.4, .6, .36)
     # Karussell
     cx, cy = 28, 18
@@ -215,7 +215,7 @@ def letp():
         a = math.pi * (i + .5) / 4
         px, py = cx + 5.6 * math.cos(a), cy + 5.6 * math.sin(a)
         zylinder(px, py, 1.6, .25, 7.4, metall("gold"), seiten=8)
-        kugel(px, py, 4 + i % 2, .9, ("weiss", "#c23a5a", "#2f6fc0", "gelb")[i % 4], (1.5, .8, .9))
+        kugel(px, py, 4 + i % 2, .9, ("weiß", "#c23a5a", "#2f6fc0", "gelb")[i % 4], (1.5, .8, .9))
     schirm(cx, cy, 1.6, 8.2, 10.4, MARKISE)
     zylinder(cx, cy, 7.9, 8.2, .9, metall("gold"), seiten=32)
     sternspitze(cx, cy, 13.4, 1.9, .2)

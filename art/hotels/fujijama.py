@@ -1,5 +1,5 @@
 """Fujijama: hohe Pagoden mit geschwungenen Dächern, roter Lack und weiße Felder, Ahorn, rote Brücke."""
-from anlage import *       # noqa: F403
+from hotels.anlage import *
 
 ROT, DACH, WEISS, STEIN = "#d63c28", "#3f8a92", "#f4e8d0", "#c4b698"
 

@@ -1,8 +1,8 @@
 """President: weiße Hochhäuser aus Marmor und Glas, Säulenhallen, Gold und Fahnen."""
-from anlage import *       # noqa: F403
+from hotels.anlage import *
 
 MARMOR, PFLASTER, BLAU = "#e6decd", "#d9c8a8", "#1f3f8f"
-FAHNE = (BLAU, "weiss", "#d9a441")
+FAHNE = (BLAU, "weiß", "#d9a441")
 
 
 def _marmor():
@@ -197,8 +197,8 @@ def presip():
     quader(-23, 18, .7, 23, 30, .4, "#c8623c", .1)
     quader(-23, 18, 1.1, 17, 24, .15, "#3f8f5a", 0)
     for x, y, b, t in ((-23, 6.4, 17, .8), (-23, 29.6, 17, .8), (-31.2, 18, .8, 24), (-14.8, 18, .8, 24), (-23, 11.6, 17, .7), (-23, 24.4, 17, .7), (-23, 18, .7, 13)):
-        quader(x, y, 1.25, b, t, .15, "weiss", 0)
-    zaun([(-33, 18), (-13, 18)], "weiss", 2.6, 6.6, 1.2, latten=1)
+        quader(x, y, 1.25, b, t, .15, "weiß", 0)
+    zaun([(-33, 18), (-13, 18)], "weiß", 2.6, 6.6, 1.2, latten=1)
     # Becken mit Standbild
     becken(kreis(11, 17, 14.5, .86, 40), .6, _marmor(), 2.4, "#2fa8d4", 1.4)
     drehkörper(11, 17, .8, [(5, 0), (5, 1.6), (3.6, 2), (3.0, 7), (3.8, 7.6), (3.8, 8.6)], _marmor(), 24, .1)
@@ -212,7 +212,7 @@ def presip():
         wimpel(x, 27.5, .6, 11, FAHNE, 6, 3.8)
     for x, y in ((30.5, 5), (33, 14), (33, 23), (-6, 4)):
         kugelbaum(x, y, .6, .42, farbe="#4b9438")
-    blumenbeet(15, 2.8, 22, 2.6, ("rot", "weiss", "blau"), z=.6)
+    blumenbeet(15, 2.8, 22, 2.6, ("rot", "weiß", "blau"), z=.6)
 
 
 STUFEN = dict(presih=presih, presi1=presi1, presi2=presi2, presi3=presi3, presip=presip)

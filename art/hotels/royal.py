@@ -1,5 +1,5 @@
 """Royal: englisches Schloss aus honigfarbenem Stein, rote Dächer, Zinnen und Gold; Park mit Irrgarten."""
-from anlage import *       # noqa: F403
+from hotels.anlage import *
 
 STEIN, DUNKEL, ROT = "#ecd29a", "#d8b878", "#b8262c"
 
@@ -55,7 +55,7 @@ def royh():
             kippe(prisma([(-2.4, 2.4), (2.4, 2.4), (2.2, -1), (0, -2.8), (-2.2, -1)], 0, .8, metall("gold"), .2))
     for s in (-1, 1):
         eckturm(s * 10.5, 10, 25, 4.4, 13, (8, 17))
-        wimpel(s * 10.5, 10, 37, 9, (ROT, "weiss", "#25408f"), 6.5, 3.8)
+        wimpel(s * 10.5, 10, 37, 9, (ROT, "weiß", "#25408f"), 6.5, 3.8)
         eckturm(s * 17.5, 21, 26, 4.6, 13, (14,))
         with wand(0, 25, 34, 18, "s"):
             banner(s * 12.8, 9, 3.0, 11)
@@ -103,7 +103,7 @@ def royn2():
         rundfenster(0, 17, f, r, (-50, 0, 50), 4, 7.5, **BOGEN)
     with bei(0, 5.5):
         tür(0, 0, 6, 9, "#6b3f22", rahmen="#fff3d6", bogen=True, stufen=1)
-    wimpel(0, 17, 105, 9, (ROT, "weiss", ROT), 9, 4.8)
+    wimpel(0, 17, 105, 9, (ROT, "weiß", ROT), 9, 4.8)
     for s in (-1, 1):
         kugelbaum(s * 11, 3.5, mass=.42, farbe="#3f8a3c")
 
@@ -165,7 +165,7 @@ def royp():
     kugel(mx, my, 5.0, 1.5, metall("gold"))
     for sx in (-1, 1):
         for sy in (-1, 1):
-            blumenbeet(14 + sx * 11.5, 17 + sy * 9, 10, 6.5, ("rot", "rosa", "weiss"), z=.6)
+            blumenbeet(14 + sx * 11.5, 17 + sy * 9, 10, 6.5, ("rot", "rosa", "weiß"), z=.6)
             busch(14 + sx * 19.5, 17 + sy * 14, mass=.8, farbe="#3f8a34", blüten="rot")
     for s in (-1, 1):
         kugelbaum(14 + s * 20 - 1, 29, mass=.55, farbe="#4b9438")

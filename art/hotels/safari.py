@@ -1,5 +1,5 @@
 """Safari: Lodge aus Stein, Rundholz und Stroh, Wachturm, Zelte, Wasserloch mit Tieren."""
-from anlage import *       # noqa: F403
+from hotels.anlage import *
 
 SAVANNE, HOLZ, DUNKEL, TUCH, STROH = "#dcb766", "#9c6232", "#6b4223", "#f0e0b6", "#c99a4a"
 
@@ -40,7 +40,7 @@ def elefant(x, y, z=0.0, drehung=0.0, mass=1.0):
         kugel(-3.9, 0, 6.2, 2.0, grau)
         for s in (-1, 1):
             kugel(-3.1, s * 2.3, 6.4, 1, grau, (.6, 1.6, 1.9))
-            rohr([(-5.2, s * 1.0, 5.4), (-6.6, s * 1.1, 4.9)], .3, "weiss")
+            rohr([(-5.2, s * 1.0, 5.4), (-6.6, s * 1.1, 4.9)], .3, "weiß")
             kugel(-5.4, s * .95, 6.9, .3, "schwarz")
         rohr(glätten([(-5.4, 0, 6.2), (-6.6, 0, 4.6), (-6.9, 0, 2.6), (-7.7, 0, 1.7)], 4, zu=False), .62, grau)
 

@@ -1,5 +1,5 @@
 """Taj Mahal: weißer Marmor, Zwiebelkuppeln mit Gold, schlanke Minarette, Garten mit langem Becken."""
-from anlage import *       # noqa: F403
+from hotels.anlage import *
 
 MARMOR, SCHATTEN, PFLASTER = "#ece4d5", "#d6bf98", "#dfae8c"
 
@@ -116,8 +116,8 @@ def tajp():
             zypresse(x, 7.2, .6, .46)
             zypresse(x, 27.4, .6, .52)
     for s in (-1, 1):
-        blumenbeet(s * 16.5, 3.6, 27, 4, ("rosa", "rot", "weiss"), z=.6)
-        blumenbeet(s * 16.5, 31, 27, 3.6, ("rosa", "gelb", "weiss"), z=.6)
+        blumenbeet(s * 16.5, 3.6, 27, 4, ("rosa", "rot", "weiß"), z=.6)
+        blumenbeet(s * 16.5, 31, 27, 3.6, ("rosa", "gelb", "weiß"), z=.6)
         chhatri(s * 32.6, 17, .8, 3.4, 5)
         busch(s * 33, 4, .6, .7, blüten="#e8558a")
 

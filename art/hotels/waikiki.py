@@ -1,5 +1,5 @@
 """Waikiki: Strandhütten und Pavillons mit geschwungenem Palmdach, Palmen, Bretter, Lagune."""
-from anlage import *       # noqa: F403
+from hotels.anlage import *
 
 SAND, STROH, ROT = "#e4cd9e", "#d6a850", "#d8452f"
 
@@ -13,7 +13,7 @@ def strohdach(x, y, z, b, t, h, über=3.0, oben=.12, drehung=0.0, saum="#b98236"
     pagodendach(x, y, z, b, t, h, stroh(farbe), über, .9, oben, drehung, rand=lack(saum))
 
 
-def brett(x, y, z, farbe, neig=0, lang=6.0, streifen="weiss"):
+def brett(x, y, z, farbe, neig=0, lang=6.0, streifen="weiß"):
     """Stehendes Surfbrett."""
     with bei(x, y, z + lang):
         for r, s in ((1.0, farbe), (.45, streifen)):
@@ -26,9 +26,9 @@ def maske(x, y, z, hoch=8.0, farbe="#8a4f2a"):
     r = hoch * .24
     drehkörper(x, y, z, [(r * .9, 0), (r, hoch * .3), (r * .85, hoch * .42), (r * 1.15, hoch * .5), (r * 1.2, hoch * .9), (r * .8, hoch)], farbe, 16, .1)
     for s in (-1, 1):
-        kugel(x + s * r * .5, y - r * 1.05, z + hoch * .76, r * .36, "weiss")
+        kugel(x + s * r * .5, y - r * 1.05, z + hoch * .76, r * .36, "weiß")
         kugel(x + s * r * .5, y - r * 1.32, z + hoch * .76, r * .17, "schwarz")
-    quader(x, y - r * 1.1, z + hoch * .52, r * 1.3, .6, r * .5, "weiss", .1)
+    quader(x, y - r * 1.1, z + hoch * .52, r * 1.3, .6, r * .5, "weiß", .1)
     quader(x, y - r * 1.1, z + hoch * .92, r * 2.0, 1.2, r * .5, ROT, .2)
 
 
@@ -175,12 +175,12 @@ def kikin4():
     with bei(9, 3.6, 1.0):                         # Auslegerboot
         kugel(0, 0, .6, 1, ROT, (8.5, 1.5, 1.4))
         kugel(0, 0, 1.5, 1, "#f3dfae", (7, .9, .8))
-        kugel(0, -2.4, .3, 1, "weiss", (5.5, .6, .6))
+        kugel(0, -2.4, .3, 1, "weiß", (5.5, .6, .6))
         for s in (-1, 1):
             rohr([(s * 3, .4, 1.6), (s * 3, -2.4, .6)], .4, "#7a4e2c")
     maske(-12, 4, .6, 9)
     brett(-18, 4, .6, "gelb", -8, 5, ROT)
-    schirm(-6, 3.6, .6, 3.4, 5, ("#e8558a", "weiss"))
+    schirm(-6, 3.6, .6, 3.4, 5, ("#e8558a", "weiß"))
 
 
 def kikip():
@@ -192,12 +192,12 @@ def kikip():
     rohr(glätten([(3.5, 24.6, 8.6), (3.5, 22.6, 6.5), (3.5, 21.4, 1.0)], 5, zu=False), 1.9, stoff("#d8f6ff", rau=.2))
     rohr(glätten([(-20, 30, 9), (-23, 26, 7), (-21, 21, 4.6), (-18, 17, 1.4)], 6, zu=False), 1.3, "gelb")
     for s in (-1, 1):
-        quader(-20 + s * 1.4, 30, 0, .8, .8, 9, "weiss", .2)
+        quader(-20 + s * 1.4, 30, 0, .8, .8, 9, "weiß", .2)
     # Bar
     zylinder(28.5, 23, .6, 4.2, 3.4, holz("#b07a44"))
     zylinder(28.5, 23, .6, .8, 9, "#7a4e2c")
     drehkörper(28.5, 23, 8, [(6.4, -.7), (6.6, 0), (4, 2.2), (1.6, 5), (.2, 7)], stroh(STROH), 28)
-    for x, y, f in ((-31, 8, ("gelb", "weiss")), (31, 9, ("#e8558a", "weiss")), (-17, 28.5, ("#2fa8b0", "weiss"))):
+    for x, y, f in ((-31, 8, ("gelb", "weiß")), (31, 9, ("#e8558a", "weiß")), (-17, 28.5, ("#2fa8b0", "weiß"))):
         schirm(x, y, .6, 4.4, 6, f)
         liege(x - 2.4, y - 4, .6, tuch="#f7e6c0")
         liege(x + 2.4, y - 4, .6, tuch="#f7e6c0")

@@ -16,7 +16,6 @@ from xml.sax.saxutils import escape
 
 HIER = os.path.dirname(os.path.abspath(__file__))
 WURZEL = os.path.normpath(os.path.join(HIER, "..", ".."))
-sys.path.insert(0, os.path.join(HIER, "..", "zeichnung"))
 from stift import PAPIER, PAPIER_TIEF, SCHRIFT_EDEL, TINTE, svg   # noqa: E402
 
 B, H = 2556, 1740

@@ -1,17 +1,11 @@
-"""Das ganze Hotel auf seinem Land, wie es auf der Besitzkarte steht: ORDNER/HOTEL.png.
+"""Das ganze Hotel auf seinem Land, wie es auf der Besitzkarte steht; aus dem Bild wird die Karte."""
+from pathlib import Path
 
-blender -b --python art/karten/szene.py -- --ziel ORDNER [--nur HOTEL ...] [--fein N] [--proben N]
-"""
-import importlib
-import os
-import sys
+from hotels.anlage import *
+from hotels.stufen import MODULE, baue
+from tafeln import STUFEN, punkte
 
-sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "hotels"))
-from anlage import *       # noqa: E402,F403
-from anlage import _netz_aus, _objekt   # noqa: E402
-from mache import HOTELS, baue   # noqa: E402
-
-SEITE = (1110, 1290)                    # Bildpunkte des Bildes auf der Karte bei --fein 4
+SEITE = (1110, 1290)                    # Bildpunkte des Bildes auf der fertigen Karte
 
 # Wo die Karte vom Brett abweicht: Fußpunkte der Stufen in Entwurfspunkten, damit das Hotel ein Bild füllt.
 ORTE = {
@@ -50,27 +44,28 @@ def schneeberg(x, y):
                 p.append(((q + .5) * math.cos(2 * math.pi * i / n), (q + .5) * math.sin(2 * math.pi * i / n), z - 1 + zacke))
         for k in range(4):
             f += [(k * n + i, k * n + (i + 1) % n, (k + 1) * n + (i + 1) % n, (k + 1) * n + i) for i in range(n)]
-        _objekt("Schnee", _netz_aus(p, f), "#f7f9fc", lage(), 0, glatt=True)
+        objekt("Schnee", netz_aus(p, f), "#f7f9fc", lage(), 0, glatt=True)
 
 
-def szene(hotel, args):
-    neu()
-    orte = {}
-    for name, (links, oben, breite, höhe) in rechtecke().items():
-        if name in ORTE.get(hotel, {}):
-            x, y = ORTE[hotel][name]
-            links, oben = x * TWIPS - breite / 2, y * TWIPS - höhe
-        orte[name] = (links, oben, breite, höhe)
-    stufen = importlib.import_module(hotel).STUFEN
-    baue(stufen, orte)
-    kästen = [tuple(w / TWIPS for w in orte[n]) for n in stufen]
+def bausteine(hotel):
+    """Name -> Rechteck jeder Stufe in Twips, dicht gestellt."""
+    orte = {n: s["ort"] for n, s in STUFEN.items() if MODULE[s["hotel"]] == hotel}
+    for name, (x, y) in ORTE.get(hotel, {}).items():
+        _, _, breite, höhe = orte[name]
+        orte[name] = (x * TWIPS - breite / 2, y * TWIPS - höhe, breite, höhe)
+    return orte
+
+
+def ausschnitt(kästen):
+    """Mitte, Breite, Höhe des Bildes um die Kästen und Entwurfspunkte je Bildpunkt, in Entwurfspunkten."""
     links, oben = min(k[0] for k in kästen), min(k[1] for k in kästen)
     rechts, unten = max(k[0] + k[2] for k in kästen), max(k[1] + k[3] for k in kästen)
     seite = max((rechts - links + 14) / SEITE[0], (unten - oben + 16) / SEITE[1])
-    b, h = SEITE[0] * seite, SEITE[1] * seite
-    mx, my = (links + rechts) / 2, (oben + unten) / 2 + 1
-    # Insel im Meer: das Meer kommt nur hinten ins Bild
-    grund, bäume = LAND[hotel]
+    return (links + rechts) / 2, (oben + unten) / 2 + 1, SEITE[0] * seite, SEITE[1] * seite, seite
+
+
+def insel(mx, my, b, h, grund):
+    """Insel im Meer: das Meer kommt nur hinten ins Bild; zurück kommt die Tiefe des Ufers."""
     mitte = welt(mx, my)
     quader(mitte.x, mitte.y, -6, 2000, 2000, 3, wasser("#2f9fc4"), 0)
     ufer = welt(0, my - h * .40).y
@@ -79,9 +74,13 @@ def szene(hotel, args):
     prisma([(x, y + 9) for x, y in küste], -3, 1.6, stoff("#bfe6e8", rau=.3), .2)
     prisma(küste, -3, 2.4, erde("#ecd49a"), .6)
     prisma([(x, y - 12) for x, y in küste], -1, .9, grund(), .4)
-    random.seed(hotel)
+    return ufer
+
+
+def pflanze(mx, my, b, h, ufer, kästen, bäume):
+    """Bäume, wo sie kein Haus verdecken."""
     gepflanzt = []
-    for _ in range(420):                 # Bäume, wo sie kein Haus verdecken
+    for _ in range(420):
         x, y = mx + random.uniform(-.55, .55) * b, my + random.uniform(-.34, .62) * h
         ort = welt(x, y)
         if ort.y > ufer - 18 or any(k[0] - 5 < x < k[0] + k[2] + 5 and k[1] + k[3] - 34 < y < k[1] + k[3] + 17 for k in kästen):
@@ -91,13 +90,20 @@ def szene(hotel, args):
         if all((ort - o).length > max(15, .09 * b) for o in gepflanzt):
             gepflanzt.append(ort)
             random.choice(bäume)(ort.x, ort.y)
+
+
+def mache(datei):
+    hotel = Path(datei).stem
+    neu()
+    orte = bausteine(hotel)
+    for name, ort in orte.items():
+        baue(name, ort)
+    kästen = [punkte(ort) for ort in orte.values()]
+    mx, my, b, h, seite = ausschnitt(kästen)
+    grund, bäume = LAND[hotel]
+    ufer = insel(mx, my, b, h, grund)
+    random.seed(hotel)
+    pflanze(mx, my, b, h, ufer, kästen, bäume)
     if hotel == "fujijama":
         schneeberg(mx - b * .34, my - h * .27)
-    rendere(os.path.join(args.ziel, hotel + ".png"), mx - b / 2, my - h / 2, b, h, fein=args.fein / 4 / seite, proben=args.proben, durchsichtig=False)
-
-
-if __name__ == "__main__":
-    args = argumente()
-    for hotel in HOTELS:
-        if not args.nur or hotel in args.nur:
-            szene(hotel, args)
+    rendere(datei, mx - b / 2, my - h / 2, b, h, fein=AUFTRAG.fein / 4 / seite, durchsichtig=False)
