@@ -28,7 +28,7 @@ def bank():
             keil(0, -2, 0, 21, 38, 9, "#f6edd9", .3, drehung=90)
             satteldach(0, -2, 0, 23, 39, 9.6, ziegel("#4e8b7c", 2.2), über=.8, drehung=90)
         quader(0, 17, 26.5, 58, 28, 2.2, ziegel("#4e8b7c", 2.2), .5)
-        with rahmen(Matrix.Translation((0, -6.4, 25.6)) @ Matrix.Rotation(math.radians(-4), 4, "X")):
+        with rahmen(schub(0, -6.4, 25.6) @ dreh(-4, "X")):
             quader(0, 0, 0, 37, 1.0, 12, lack("#234a42"), .5)
             quader(0, -.35, 1, 35, .6, 10, lack("#2f6156"), .3)
             schrift("BANK", 0, -.75, 5.9, 9.6, stoff("#ffd45e", fleck=0, leuchten=.15), dick=.25, datei=DEJAVU % "Sans")
@@ -57,7 +57,7 @@ def rathaus():
             tür(0, 1, 4.4, 8, "#3d5f3a", bogen=True, stufen=1)
             fenster(0, 12, 3.2, 5, bogen=True, sprossen=(1, 1))
             balkon(0, 11.6, 6, 1.8)
-            with rahmen(Matrix.Translation((0, -.3, 22.4)) @ Matrix.Rotation(math.radians(90), 4, "X")):
+            with rahmen(schub(0, -.3, 22.4) @ dreh(90, "X")):
                 zylinder(0, 0, 0, 3.4, .6, metall("#d9a441"), seiten=36)
                 zylinder(0, 0, .3, 2.8, .6, "#fffaf0", seiten=36)
                 quader(0, .7, .8, .5, 2.2, .3, "schwarz", 0)
@@ -66,7 +66,7 @@ def rathaus():
         spitze(0, 5, 39.4, .8, metall())
         for x in (-16.5, 16.5):
             kugelbaum(x, .5, .6, .42)
-        with rahmen(Matrix.Translation((0, -3.6, .4)) @ Matrix.Rotation(math.radians(-48), 4, "X")):
+        with rahmen(schub(0, -3.6, .4) @ dreh(-48, "X")):
             quader(0, 0, 0, 32, .8, 6.4, lack("#3a4d6b"), .3)
             schrift("RATHAUS", 0, -.45, 3.1, 5.6, stoff("#ffe7a6", fleck=0), dick=.15, datei=DEJAVU % "Sans")
         fahne(0, 5, 41, 7, ("gelb", "grün"), b=4.4, h=2.8)
@@ -82,7 +82,7 @@ def parkplatz():
         for x in [orte[0][0] - 15] + [px + 15 for px, _ in orte]:
             quader(x - (links + rechts) / 2, 0, .72, .8, 30, .12, "#f4efe2", 0)
         for nr, (px, _) in enumerate(orte):
-            with rahmen(Matrix.Translation((px - (links + rechts) / 2, 0, .74)) @ Matrix.Diagonal((1, TIEFE, 1, 1))):
+            with rahmen(schub(px - (links + rechts) / 2, 0, .74) @ Matrix.Diagonal((1, TIEFE, 1, 1))):
                 schrift("P", 0, 0, 0, 15, stoff("#f4efe2", fleck=0), stehend=False, dick=.05, datei=DEJAVU % "Sans")
 
 

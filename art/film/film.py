@@ -1,163 +1,22 @@
-#!/usr/bin/python3
-"""Setzt den Vorspann zusammen: Flug über die Modellinsel, der Name, ein Wagen fährt vor.
+"""Der Vorspann ani.hvi: Flug über die Modellinsel, der Name, ein Wagen fährt vor.
 
-art/film/film.py TEILE [--ziel ani.hvi] [--bogen bogen.png | --bild SEKUNDE datei.png]
-
-TEILE ist der Ordner, in den teile.py gezeichnet hat; Brett, Hotels und kleine Wagen kommen aus bilder/.
-Die Zeiten folgen der Musik in sound/intro.wav.
+Ein AVI aus einzelnen JPEG-Bildern; die Zeiten folgen der Musik in sound/intro.wav. Die unteren 3 % des Bildes liegen
+unter dem Rand des Fensters.
 """
-import argparse
 import io
-import math
-import os
 import random
-import re
 import subprocess
 
-import numpy as np
-from PIL import Image, ImageChops, ImageFilter
 
-WURZEL = os.path.normpath(os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", ".."))
-BILDER = os.path.join(WURZEL, "bilder")
-B, H = 903, 573                  # gerechnet wird in Dritteln eines Entwurfspunkts (3612 x 2292 Twips)
+from befehl import AUFTRAG, zwischen, ziel
+from film.insel import *
+
 AUSGABE = (752, 477)             # Bildpunkte des Films
 TAKT, DAUER = 25, 9.4            # Bilder je s, s
 NAME_DA, WAGEN_AB, HUPE, BREMSE, STEHT, SCHLUSS = 5.0, 6.75, (7.5, 7.81), 8.2, 8.56, 8.75
 BELICHTUNGEN, VERSCHLUSS = 4, .6  # je Bild; Anteil der Bildzeit
-FEIN = 4                         # Bildpunkte je Entwurfspunkt der Bilder
 GÜTE, GÜTE_MIN, BYTES_JE_BILD = 82, 42, 31500
-
-
-# ---------------------------------------------------------------- Hilfen
-
-def sanft(t, a, e):
-    """0 vor a, 1 nach e, dazwischen weich."""
-    x = min(1.0, max(0.0, (t - a) / (e - a)))
-    return x * x * (3 - 2 * x)
-
-
-def lade(*teile):
-    return Image.open(os.path.join(*teile)).convert("RGBA")
-
-
-def blass(bild, anteil):
-    if anteil < 1:
-        bild.putalpha(bild.getchannel("A").point(lambda a: int(a * anteil)))
-    return bild
-
-
-def setze(grund, teil, x, y, mass=1.0, mitte=(.5, .5), drehung=0.0, deckung=1.0, streckung=1.0):
-    """Legt das Teil mit seinem Punkt `mitte` (Anteile) auf (x, y), auf Bruchteile eines Punktes genau."""
-    if deckung <= 0.01:
-        return
-    while mass < .5 and min(teil.size) > 8:
-        teil, mass = teil.reduce(2), mass * 2
-    w, h = teil.size
-    mx, my = w * mitte[0], h * mitte[1]
-    c, s = math.cos(drehung), math.sin(drehung)
-    sx, sy = mass, mass * streckung
-    ecken = [(c * sx * (ex - mx) - s * sy * (ey - my), s * sx * (ex - mx) + c * sy * (ey - my))
-             for ex in (0, w) for ey in (0, h)]
-    links, oben = math.floor(x + min(e[0] for e in ecken)), math.floor(y + min(e[1] for e in ecken))
-    rechts, unten = math.ceil(x + max(e[0] for e in ecken)), math.ceil(y + max(e[1] for e in ecken))
-    l, o, r, u = max(links, 0), max(oben, 0), min(rechts, grund.width), min(unten, grund.height)
-    if l >= r or o >= u:
-        return
-    dx, dy = l - x, o - y            # Bildpunkt -> Punkt des Teils
-    matte = (c / sx, s / sx, (c * dx + s * dy) / sx + mx, -s / sy, c / sy, (-s * dx + c * dy) / sy + my)
-    stück = teil.transform((r - l, u - o), Image.Transform.AFFINE, matte, Image.Resampling.BICUBIC)
-    grund.alpha_composite(blass(stück, deckung), (l, o))
-
-
-def linie(punkte, t):
-    """Weiche Bahn (Catmull-Rom) durch (zeit, werte ...)."""
-    i = max(k for k in range(len(punkte)) if punkte[k][0] <= max(t, punkte[0][0]))
-    if i >= len(punkte) - 1:
-        return punkte[-1][1:]
-    p = [np.array(punkte[min(max(k, 0), len(punkte) - 1)]) for k in range(i - 1, i + 3)]
-    dt = p[2][0] - p[1][0]
-    f = (t - p[1][0]) / dt
-    m1 = (p[2] - p[0]) / max(p[2][0] - p[0][0], 1e-6) * dt
-    m2 = (p[3] - p[1]) / max(p[3][0] - p[1][0], 1e-6) * dt
-    f2, f3 = f * f, f * f * f
-    return tuple(((2 * f3 - 3 * f2 + 1) * p[1] + (f3 - 2 * f2 + f) * m1 + (3 * f2 - 2 * f3) * p[2] + (f3 - f2) * m2)[1:])
-
-
-# ---------------------------------------------------------------- Die Insel
-
-def tafel(datei, muster):
-    with open(os.path.join(WURZEL, datei), encoding="utf-8") as f:
-        return re.findall(muster, f.read())
-
-
-class Insel:
-    """Das Brett mit allen Hotels, in mehreren Feinheiten, und die Bahn der Wagen."""
-
-    def __init__(self):
-        bild = lade(BILDER, "formen/form1/picture1.jpg")
-        self.häuser = Image.new("L", bild.size)
-        stufen = tafel("model/Hoteltafel.h", r'"(\w+)",\s*\{(-?\d+), (-?\d+), (\d+), (\d+)\}')
-        for name, *maß in sorted(stufen, key=lambda z: int(z[2]) + int(z[4])):
-            datei = os.path.join(BILDER, "formen/form1", name.lower() + ".png")
-            if not os.path.exists(datei):
-                continue
-            l, o, b, h = (round(int(m) * FEIN / 12) for m in maß)
-            haus = lade(datei).resize((b, h), Image.Resampling.LANCZOS)
-            ganz = Image.new("RGBA", bild.size)
-            ganz.paste(haus, (l, o))
-            bild.alpha_composite(ganz)
-            self.häuser = ImageChops.lighter(self.häuser, ganz.getchannel("A"))
-        self.breite, self.höhe = bild.size
-        bild = bild.convert("RGB")
-        self.fein = [(m, bild if m == 1 else bild.resize((round(self.breite * m), round(self.höhe * m)), Image.Resampling.LANCZOS))
-                     for m in (1, .72, .52, .38)]
-        felder = tafel("model/Feldtabelle.h", r"\{ *(\d+), *(\d+)\}, *\{ *\d+, *\d+\}")
-        self.felder = [((int(x) + 240) * FEIN / 12, (int(y) + 180) * FEIN / 12) for x, y in felder]
-        self.meer = self._meer(bild)
-
-    def _meer(self, bild):
-        """Orte auf dem Wasser: blau, weder Haus noch Feld."""
-        grob = 8
-        größe = (bild.width // grob, bild.height // grob)
-        a = np.asarray(bild.resize(größe)).astype(int)
-        ja = (a[..., 2] > a[..., 0] + 70) & (a[..., 2] > 130) & (a[..., 1] > 90)
-        ja &= np.asarray(self.häuser.resize(größe)) == 0
-        y, x = np.nonzero(ja)
-        orte = [((px + .5) * grob, (py + .5) * grob) for px, py in zip(x, y)]
-        return [o for o in orte if all(math.dist(o, f) > 130 for f in self.felder)]
-
-    def zeichne(self, kamera):
-        mass, bild = next(((m, b) for m, b in reversed(self.fein) if m >= .9 * B / kamera.weite), self.fein[0])
-        return bild.transform((B, H), Image.Transform.PERSPECTIVE, kamera.zum_brett(mass),
-                              Image.Resampling.BICUBIC).convert("RGBA")
-
-
-class Kamera:
-    """Blick auf das Brett: Mitte, sichtbare Weite in Brettpunkten, Drehung, Neigung."""
-
-    def __init__(self, x, y, weite, drehung, neigung, stoß=0.0):
-        self.x, self.y, self.weite = x, y, weite
-        c, s, m = math.cos(drehung), math.sin(drehung), weite / B
-        n = neigung / H
-        a = np.array([[1, 0, -B / 2], [0, 1, -H / 2 + stoß], [0, n, 1 - n * H / 2]])
-        self.hin = np.array([[c * m, -s * m, x], [s * m, c * m, y], [0, 0, 1]]) @ a
-        self.her = np.linalg.inv(self.hin)
-
-    def zum_brett(self, mass):
-        k = np.diag([mass, mass, 1]) @ self.hin
-        return tuple((k / k[2, 2]).ravel()[:8])
-
-    def punkt(self, x, y):
-        """Brettpunkt -> Ort im Bild und Maßstab dort."""
-        u, v, w = self.her @ (x, y, 1)
-        w0 = (self.her @ (self.x, self.y, 1))[2]
-        return u / w, v / w, B / self.weite * w0 / w
-
-    def prüfe(self, insel):
-        for u, v in ((0, 0), (B, 0), (0, H), (B, H)):
-            x, y, w = self.hin @ (u, v, 1)
-            if not (0 <= x / w <= insel.breite and 0 <= y / w <= insel.höhe):
-                raise SystemExit("Die Kamera blickt über den Rand des Brettes: %d, %d" % (x / w, y / w))
+KEHRE = range(42, 91, 6)          # Grad; 90 zeigt nach rechts, 0 zum Betrachter
 
 
 #       s    x     y    Weite Drehung Neigung
@@ -356,17 +215,16 @@ def stern(größe=96):
 
 
 class Teile:
-    def __init__(self, ordner):
+    def __init__(self):
         def teil(name_):
-            return lade(ordner, name_ + ".png")
+            return lade(zwischen("film/teile.py", name_ + ".png", außer=("film.py", "insel.py")))
         self.wolken = [weichzeichnen(teil("wolke%d" % i), 1.6) for i in (1, 2, 3)]
         self.schatten = [schwarz(w, 16) for w in self.wolken]
         self.staub = weichzeichnen(teil("wolke2"), 12)
         self.buchstaben = {z + s: teil(z + s) for z in BUCHSTABEN for s in ("", "_s")}
-        winkel = sorted(int(d[5:7]) for d in os.listdir(ordner) if re.fullmatch(r"wagen\d\d\.png", d))
-        self.wagen = {g: (teil("wagen%02d" % g), teil("wagen%02d_s" % g)) for g in winkel}
+        self.wagen = {g: (teil("wagen%02d" % g), teil("wagen%02d_s" % g)) for g in KEHRE}
         self.stern = stern()
-        self.kleine = {n: lade(BILDER, "auto", "%d.png" % n) for n in range(125, 141)}
+        self.kleine = {n: lade(vorhanden("bilder/auto/%d.png" % n)) for n in range(125, 141)}
 
 
 def weichzeichnen(bild, r):
@@ -419,33 +277,26 @@ def jpeg(bild):
     return aus.getvalue()
 
 
-def main():
-    lese = argparse.ArgumentParser()
-    lese.add_argument("teile")
-    lese.add_argument("--ziel", default=os.path.join(WURZEL, "ani.hvi"))
-    lese.add_argument("--bogen")
-    lese.add_argument("--bild", nargs=2)
-    args = lese.parse_args()
-    insel, teile, rand = Insel(), Teile(args.teile), rahmen()
-    if args.bild:
-        einzelbild(float(args.bild[0]), insel, teile, rand).save(args.bild[1])
-        return
-    if args.bogen:
-        zeiten = [.0, .4, .8, 1.2, 1.6, 2.1, 2.6, 3.1, 3.6, 4.0, 4.3, 4.6, 4.8, 4.9, 5.0, 5.12, 5.24, 5.4, 6.0, 6.9, 7.2,
-                  7.57, 8.0, 8.25, 8.4, 8.6, 8.9, 9.36]
-        bogen = Image.new("RGB", (4 * 452, (len(zeiten) + 3) // 4 * 287))
-        for i, t in enumerate(zeiten):
-            bogen.paste(einzelbild(t, insel, teile, rand).resize((450, 285)), (i % 4 * 452, i // 4 * 287))
-        bogen.save(args.bogen)
-        return
+def bogen():
+    """Einige Bilder auf einem Blatt, zum Ansehen."""
+    zeiten = [.0, .4, .8, 1.2, 1.6, 2.1, 2.6, 3.1, 3.6, 4.0, 4.3, 4.6, 4.8, 4.9, 5.0, 5.12, 5.24, 5.4, 6.0, 6.9, 7.2,
+              7.57, 8.0, 8.25, 8.4, 8.6, 8.9, 9.36]
+    insel, teile, rand = Insel(), Teile(), rahmen()
+    blatt = Image.new("RGB", (4 * 452, (len(zeiten) + 3) // 4 * 287))
+    for i, t in enumerate(zeiten):
+        blatt.paste(einzelbild(t, insel, teile, rand).resize((450, 285)), (i % 4 * 452, i // 4 * 287))
+    return blatt
+
+
+def mache(datei):
+    if AUFTRAG.vorschau:
+        return bogen().save(ziel(datei + ".png"))
+    brauche("ffmpeg")
+    insel, teile, rand = Insel(), Teile(), rahmen()
     packen = subprocess.Popen(["ffmpeg", "-v", "error", "-y", "-f", "image2pipe", "-c:v", "mjpeg", "-framerate", str(TAKT),
-                               "-i", "-", "-c", "copy", "-fflags", "+bitexact", "-f", "avi", args.ziel],
+                               "-i", "-", "-c", "copy", "-fflags", "+bitexact", "-f", "avi", ziel(datei)],
                               stdin=subprocess.PIPE)
     for nr in range(round(DAUER * TAKT)):
         packen.stdin.write(jpeg(einzelbild(nr / TAKT, insel, teile, rand)))
     packen.stdin.close()
     packen.wait()
-
-
-if __name__ == "__main__":
-    main()

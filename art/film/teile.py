@@ -1,34 +1,28 @@
 """Die Teile des Vorspanns: Buchstaben, Wagen in der Kehre, Wolken, je mit eigenem Schatten.
 
-blender -b --python art/film/teile.py -- --ziel /tmp/film [--vorschau] [--nur buchstaben wagen wolken]
-
 Alle Teile stehen in Bildern gleichen Maßes; der Schatten liegt im Bild gleichen Namens mit "_s".
 """
-import random
+import re
 
 from kasten import *
-from auto import wagen     # noqa: E402
+from wagen.wagen import wagen
 
-FONT = "/usr/share/fonts/opentype/urw-base35/URWGothic-Demi.otf"
-NAME = (("V", "rot"), ("E", "gelb"), ("L", "grün"), ("M", "blau"), ("O", "orange"))
+NAME = {"V": "rot", "E": "gelb", "L": "grün", "M": "blau", "O": "orange"}
 NEIGUNG = 22                           # Grad
-KEHRE = range(90, 41, -6)              # Grad; 90 zeigt nach rechts, 0 zum Betrachter
 
 
 def buchstabe(zeichen, farbe):
     """Ein Spielzeugbuchstabe mit hellem Rücken, auf dem Boden stehend, leicht zurückgelehnt."""
-    fuß = Matrix.Translation(welt(45, 78)) @ Matrix.Rotation(math.radians(90 - NEIGUNG), 4, "X")
+    fuß = Matrix.Translation(welt(45, 78)) @ dreh(90 - NEIGUNG, "X")
     for versatz, vorn, dick, s in ((2.6, 4.5, 6.5, stoff("weiß", rau=.4, fleck=0)),
                                    (0.0, 0.0, 6.0, stoff(farbe, rau=.3, glanz=.5, fleck=0))):
         kurve = bpy.data.curves.new(zeichen, "FONT")
-        kurve.font = bpy.data.fonts.load(FONT, check_existing=True)
+        kurve.font = bpy.data.fonts.load(GOTISCH, check_existing=True)
         kurve.body, kurve.size, kurve.align_x = zeichen, 92, "CENTER"
         kurve.extrude, kurve.offset = dick, versatz
         kurve.bevel_depth, kurve.bevel_resolution, kurve.resolution_u = 1.8, 4, 24
         kurve.materials.append(s)
-        o = bpy.data.objects.new(zeichen, kurve)
-        o.matrix_world = fuß @ Matrix.Translation((0, 4.4, -vorn - dick))
-        bpy.context.scene.collection.objects.link(o)
+        stelle(bpy.data.objects.new(zeichen, kurve), fuß @ schub(0, 4.4, -vorn - dick))
 
 
 def wolke(saat):
@@ -44,38 +38,23 @@ def wolke(saat):
                   (1.15, 1, .85), fein=4)
 
 
-def rendere_mit_schatten(datei, bauen, breite, höhe, args, schatten=True):
-    """Das Ding allein, dann nur sein Schatten auf dem Boden."""
+def mache(datei):
+    """V.png ... ein Buchstabe, wagen42.png ... der Wagen in der Kehre, wolke1.png ...; mit _s vor der Endung sein Schatten."""
+    name, nr, schatten = re.fullmatch(r"([A-Za-z]+)(\d*)(_s)?\.png", datei).groups()
     neu()
-    bauen()
-    rendere(datei + ".png", 0, 0, breite, höhe, args.fein, args.proben, rand=0)
-    if not schatten:
-        return
-    for o in bpy.context.scene.objects:
-        if o.type in ("MESH", "CURVE", "FONT"):
-            o.visible_camera = False
-    schattengrund()
-    rendere(datei + "_s.png", 0, 0, breite, höhe, args.fein, args.proben, rand=3)
-
-
-def soll(args, gruppe):
-    return not args.nur or gruppe in args.nur
-
-
-if __name__ == "__main__":
-    args = argumente()
-
-    def ziel(name):
-        return os.path.join(args.ziel, name)
-    if soll(args, "buchstaben"):
-        for zeichen, farbe in NAME:
-            rendere_mit_schatten(ziel(zeichen), lambda: buchstabe(zeichen, farbe), 130, 90, args)
-    if soll(args, "wagen"):
-        for grad in KEHRE:
-            def bauen():
-                with am_brett(50, 44, drehung=grad, mass=2.7):
-                    wagen("#d0302a")
-            rendere_mit_schatten(ziel("wagen%02d" % grad), bauen, 100, 76, args)
-    if soll(args, "wolken"):
-        for saat in (1, 2, 3):
-            rendere_mit_schatten(ziel("wolke%d" % saat), lambda: wolke(saat), 240, 132, args, schatten=False)
+    if name in NAME:
+        buchstabe(name, NAME[name])
+        größe = 130, 90
+    elif name == "wagen":
+        with am_brett(50, 44, drehung=int(nr), mass=2.7):
+            wagen("#d0302a")
+        größe = 100, 76
+    else:
+        wolke(int(nr))
+        größe = 240, 132
+    if schatten:
+        for o in bpy.context.scene.objects:
+            if o.type in ("MESH", "CURVE", "FONT"):
+                o.visible_camera = False
+        schattengrund()
+    rendere(datei, 0, 0, *größe, rand=3 if schatten else 0)

@@ -10,7 +10,7 @@ from kasten import *
 
 def kippe(o, grad=90, achse="X"):
     """Richtet ein eben gebautes Teil um eine Achse des geltenden Rahmens auf; 90 Grad: oben wird vorn."""
-    o.matrix_world = geltend() @ Matrix.Rotation(math.radians(grad), 4, achse) @ geltend().inverted() @ o.matrix_world
+    o.matrix_world = geltend() @ dreh(grad, achse) @ geltend().inverted() @ o.matrix_world
     return o
 
 

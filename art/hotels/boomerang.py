@@ -31,8 +31,7 @@ def windrad(x, y, z, hoch, r):
     with bei(x, y - 2, z + hoch):
         for i in range(10):
             a = 2 * math.pi * i / 10
-            o = quader(0, 0, 0, r * .36, .5, r * .74, "weiß" if i % 2 else "rot", .15)
-            o.matrix_world = o.matrix_world @ Matrix.Rotation(a, 4, "Y") @ Matrix.Translation((0, 0, r * .22)) @ Matrix.Rotation(math.radians(22), 4, "Z")
+            lege(quader(0, 0, 0, r * .36, .5, r * .74, "weiß" if i % 2 else "rot", .15), Matrix.Rotation(a, 4, "Y") @ schub(0, 0, r * .22) @ dreh(22, "Z"))
         rohr([(.96 * r * math.cos(2 * math.pi * i / 24), 0, .96 * r * math.sin(2 * math.pi * i / 24)) for i in range(24)], .4, "#d8d2c4", zu=True)
         kugel(0, -.6, 0, 1.5, "gelb")
         quader(0, 6, -2.2, .6, 5, 4.4, "rot", .2)

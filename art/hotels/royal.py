@@ -124,8 +124,7 @@ def royn3():
                 o = zylinder(0, 0, 0, r, dick, st, seiten=40, rund=.2)
                 kippe(o, 90)
             for w, lang in ((0, 5.2), (-62, 3.8)):
-                o = quader(0, 0, 0, 1.1, .5, lang, "#25306b", .15)
-                o.matrix_world = o.matrix_world @ Matrix.Translation((0, -1.6, 0)) @ Matrix.Rotation(math.radians(-w), 4, "Y")
+                lege(quader(0, 0, 0, 1.1, .5, lang, "#25306b", .15), schub(0, -1.6, 0) @ dreh(-w, "Y"))
             for i in range(12):
                 a = math.pi * i / 6
                 quader(5.4 * math.sin(a), -1.5, 5.4 * math.cos(a) - .4, .8, .4, .8, "#25306b", .1)

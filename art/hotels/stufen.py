@@ -1,12 +1,11 @@
 """Die 36 Baustufen der acht Hotels: bilder/formen/form1/NAME.png."""
 import importlib
+import sys
 from pathlib import Path
 
+from hotels import MODULE
 from hotels.anlage import *
 from tafeln import STUFEN
-
-MODULE = {"Boomerang": "boomerang", "President": "president", "Waikiki": "waikiki", "Taj Mahal": "tajmahal",
-          "Safari": "safari", "Fujijama": "fujijama", "L'Étoile": "etoile", "Royal": "royal"}
 
 
 def baue(name, ort):

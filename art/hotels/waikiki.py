@@ -17,8 +17,7 @@ def brett(x, y, z, farbe, neig=0, lang=6.0, streifen="weiß"):
     """Stehendes Surfbrett."""
     with bei(x, y, z + lang):
         for r, s in ((1.0, farbe), (.45, streifen)):
-            o = kugel(0, -.25 if r < 1 else 0, 0, 1, s, (1.55 * r, .42, lang * (1 if r == 1 else .96)))
-            o.matrix_world = o.matrix_world @ Matrix.Rotation(math.radians(neig), 4, "Y")
+            lege(kugel(0, -.25 if r < 1 else 0, 0, 1, s, (1.55 * r, .42, lang * (1 if r == 1 else .96))), dreh(neig, "Y"))
 
 
 def maske(x, y, z, hoch=8.0, farbe="#8a4f2a"):

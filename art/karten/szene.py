@@ -1,8 +1,9 @@
 """Das ganze Hotel auf seinem Land, wie es auf der Besitzkarte steht; aus dem Bild wird die Karte."""
 from pathlib import Path
 
+from hotels import MODULE
 from hotels.anlage import *
-from hotels.stufen import MODULE, baue
+from hotels.stufen import baue
 from tafeln import STUFEN, punkte
 
 SEITE = (1110, 1290)                    # Bildpunkte des Bildes auf der fertigen Karte

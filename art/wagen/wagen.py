@@ -32,8 +32,7 @@ def querkörper(profil, breite, stoff_, rund, oben=1.0):
 def rad(x, y):
     reifen, felge = stoff("#26262a", rau=.7, fleck=0), metall("#d8dadd", .25)
     for r, b, s in ((3.0, 2.8, reifen), (1.7, 3.2, felge)):
-        o = zylinder(0, 0, 0, r, b, s, rund=.5)
-        o.matrix_world = o.matrix_world @ Matrix.Translation((x, y, 3.0)) @ Matrix.Rotation(math.radians(90), 4, "Y") @ Matrix.Translation((0, 0, -b / 2))
+        lege(zylinder(0, 0, 0, r, b, s, rund=.5), schub(x, y, 3.0) @ dreh(90, "Y") @ schub(0, 0, -b / 2))
 
 
 def wagen(farbe):

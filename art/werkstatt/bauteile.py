@@ -9,8 +9,8 @@ import random
 import bmesh
 from mathutils import Matrix, Vector
 
-from körper import (band, bei, drehkörper, gemeinsam, keil, kugel, lage, netz_aus, objekt, prisma, quader,
-                    rahmen, rohr, schrift, zylinder)
+from körper import (band, bei, dreh, drehkörper, gemeinsam, keil, kugel, lage, netz_aus, objekt, prisma, quader,
+                    rahmen, rohr, schrift, schub, zylinder)
 from stoffe import als_stoff, glas, holz, metall, stein, stoff, wasser, ziegel
 
 DREHUNG = {"s": 0, "o": 90, "n": 180, "w": 270}
@@ -180,7 +180,7 @@ def fenster(x, z, b, h, rahmen="weiß", scheibe=None, rand=0.5, tief=0.5, spross
 
 
 def _stab(bm, x, z, b, h, tief):
-    m = Matrix.Translation((x, -tief / 2, z)) @ Matrix.Diagonal((b, tief, h, 1))
+    m = schub(x, -tief / 2, z) @ Matrix.Diagonal((b, tief, h, 1))
     bmesh.ops.create_cube(bm, size=1, matrix=m)
 
 
@@ -334,7 +334,7 @@ def schildtafel(text, x, y, z=0.0, b=None, höhe=3.2, tafel="holz", farbe="weiß
     with bei(x, y, z, drehung):
         for s in (-1, 1):
             quader(s * b * .36, .4, 0, .9, .9, pfosten + .8, "dunkelholz", .2)
-        kipp = Matrix.Rotation(math.radians(-neigung), 4, "X")
-        with rahmen(Matrix.Translation((0, -.3, pfosten)) @ kipp):
+        kipp = dreh(-neigung, "X")
+        with rahmen(schub(0, -.3, pfosten) @ kipp):
             quader(0, 0, 0, b, .9, höhe * 1.75, holz(tafel) if isinstance(tafel, str) else tafel, .3)
             schrift(text, 0, -.5, höhe * .9, höhe, farbe, dick=.12)

@@ -67,7 +67,7 @@ def neu(saat=1):
 
 def porträt(belichtung):
     """Leere Szene mit filmischem Blick, für Köpfe."""
-    szene = leer(adaptive_threshold=0.02, max_bounces=4, sample_clamp_indirect=3)
+    szene = leer(adaptive_threshold=0.02, max_bounces=4, sample_clamp_indirect=3, caustics_reflective=True)
     szene.view_settings.view_transform, szene.view_settings.look = "Filmic", "High Contrast"
     szene.view_settings.exposure = belichtung
 
@@ -91,6 +91,9 @@ def sonne_aus(richtung):
 
 def kamera(ort=(0, 0, 0), auf=None, drehung=None, brennweite=None, weite=None):
     """Die Kamera der Szene: ohne Flucht (weite: Einheiten im Bild) oder mit Brennweite in mm."""
+    szene = bpy.context.scene
+    if szene.camera:
+        bpy.data.objects.remove(szene.camera)
     c = bpy.data.cameras.new("Kamera")
     if brennweite:
         c.lens, c.sensor_width = brennweite, 36
@@ -99,7 +102,7 @@ def kamera(ort=(0, 0, 0), auf=None, drehung=None, brennweite=None, weite=None):
     o = stelle_auf("Kamera", c, ort, auf)
     if drehung:
         o.rotation_euler = drehung
-    bpy.context.scene.camera = o
+    szene.camera = o
     return o
 
 

@@ -32,7 +32,7 @@ def welt(x, y, z=0.0):
 @contextmanager
 def bei(x=0.0, y=0.0, z=0.0, drehung=0.0, mass=1.0):
     """Was darin gebaut wird, steht um (x, y, z) verschoben, um `drehung` Grad gedreht."""
-    _ORT.append(_ORT[-1] @ Matrix.Translation((x, y, z)) @ Matrix.Rotation(math.radians(drehung), 4, "Z")
+    _ORT.append(_ORT[-1] @ schub(x, y, z) @ dreh(drehung, "Z")
                 @ Matrix.Scale(mass, 4))
     try:
         yield
@@ -58,7 +58,7 @@ def rahmen(matrix):
 def lage(x=0.0, y=0.0, z=0.0, drehung=0.0, mass=1.0):
     """Matrix eines Ortes im geltenden Rahmen."""
     m = mass if isinstance(mass, (tuple, list)) else (mass,) * 3
-    return (Matrix.Translation((x, y, z)) @ Matrix.Rotation(math.radians(drehung), 4, "Z")
+    return (schub(x, y, z) @ dreh(drehung, "Z")
             @ Matrix.Diagonal((*m, 1)))
 
 
@@ -114,6 +114,21 @@ def stelle(o, matrix=Matrix.Identity(4)):
     """Hängt einen neuen Gegenstand im geltenden Rahmen in die Szene."""
     o.matrix_world = _ORT[-1] @ matrix
     bpy.context.scene.collection.objects.link(o)
+    return o
+
+
+def schub(x, y, z):
+    return Matrix.Translation((x, y, z))
+
+
+def dreh(grad, achse):
+    return Matrix.Rotation(math.radians(grad), 4, achse)
+
+
+def lege(o, *lagen):
+    """Stellt einen um den Ursprung gebauten Gegenstand um; die Lagen gelten im Rahmen, in dem er entstand."""
+    for m in lagen:
+        o.matrix_world = o.matrix_world @ m
     return o
 
 
@@ -237,7 +252,7 @@ def schrift(text, x, y, z, höhe, stoff_, stehend=True, drehung=0.0, dick=0.15, 
     kurve.font = bpy.data.fonts.load(datei, check_existing=True)
     kurve.body, kurve.size, kurve.extrude, kurve.align_x, kurve.align_y = text, höhe, dick, "CENTER", "CENTER"
     kurve.materials.append(als_stoff(stoff_))
-    kipp = Matrix.Rotation(math.radians(90 if stehend else 0), 4, "X")
+    kipp = dreh(90 if stehend else 0, "X")
     return stelle(bpy.data.objects.new("Schrift", kurve), lage(x, y, z, drehung) @ kipp)
 
 

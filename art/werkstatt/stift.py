@@ -2,6 +2,7 @@
 
 Eine Zeichnung ist ein SVG-Text in Bildpunkten der fertigen Größe (ein Drittel der Twips).
 """
+import base64
 import math                                        # noqa: F401
 import random                                      # noqa: F401
 import tempfile
@@ -43,6 +44,12 @@ def _stufen(farben):
     """Stufen eines Verlaufs: (Ort, Farbe) oder (Ort, Farbe, Deckkraft)."""
     return "".join(f'<stop offset="{ort}" stop-color="{farbe}" stop-opacity="{deck[0] if deck else 1}"/>'
                    for ort, farbe, *deck in farben)
+
+
+def bild(datei, b, h, x=0, y=0, anpassen="none"):
+    """Ein Bild aus einer Datei, auf das Rechteck gestreckt oder nach preserveAspectRatio angepasst."""
+    return (f'<image x="{x}" y="{y}" width="{b}" height="{h}" preserveAspectRatio="{anpassen}" '
+            f'xlink:href="data:image/png;base64,{base64.b64encode(Path(datei).read_bytes()).decode()}"/>')
 
 
 def text(x, y, worte, größe, farbe=TINTE, anker="start", fett=True, mehr=""):

@@ -21,10 +21,10 @@ def klotz(farbe):
 
 def fläche(seite):
     """Rahmen einer Würfelfläche: x nach rechts, y hinauf, z nach außen."""
-    lagen = {"oben": Matrix.Translation((0, 0, K)),
-             "vorn": Matrix.Translation((0, -K / 2, K / 2)) @ Matrix.Rotation(math.radians(90), 4, "X"),
-             "links": Matrix.Translation((-K / 2, 0, K / 2)) @ Matrix.Rotation(math.radians(-90), 4, "Z")
-             @ Matrix.Rotation(math.radians(90), 4, "X")}
+    lagen = {"oben": schub(0, 0, K),
+             "vorn": schub(0, -K / 2, K / 2) @ dreh(90, "X"),
+             "links": schub(-K / 2, 0, K / 2) @ dreh(-90, "Z")
+             @ dreh(90, "X")}
     return rahmen(lagen[seite])
 
 
