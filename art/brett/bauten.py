@@ -96,7 +96,8 @@ SCHILDER = [("Boomerang", (588, 399), "#7a3b22", "#ffe9c4"), ("President", (280,
 def schilder():
     for text, ort, tafel, farbe in SCHILDER:
         with am_brett(*ort):
-            schildtafel(text, 0, 0, b=len(text) * 6.3 + 8, höhe=8.6, tafel=lack(tafel), farbe=stoff(farbe, fleck=0), pfosten=2.5, neigung=38)
+            schildtafel(text, 0, 0, b=len(text) * 6.3 + 8, höhe=8.6, tafel=lack(tafel), farbe=stoff(farbe, fleck=0),
+                        pfosten=2.5, neigung=38)
 
 
 def boot(x, y, drehung, segel="weiß", rumpf="rot"):

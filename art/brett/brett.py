@@ -12,7 +12,7 @@ from tafeln import BANK, BRETT, FAHRBAHN, FELDER, PLÄTZE, RATHAUS, STUFEN, mitt
 def straße():
     linie = weich(straßenpunkte(), 10)
     band(linie, FAHRBAHN, stoff("#d9d3c6", rau=.7, fleck=.06), .1, .75, zu=True, rund=.2)
-    band(linie, FAHRBAHN - 4, stoff("#5f6168", rau=.85, fleck=.10, korn=.35, kornmass=2), .1, .85, zu=True, rund=0)
+    band(linie, FAHRBAHN - 4, stoff("#5f6168", rau=.85, fleck=.10, korn=.35, kornmaß=2), .1, .85, zu=True, rund=0)
     return linie
 
 
@@ -64,14 +64,15 @@ def landschaft(linie):
         gesetzt.append((x, y, busch_))
         with bei(p.x, p.y):
             if busch_:
-                busch(0, 0, mass=zufall.uniform(.55, .9), farbe=("#4f8f3a", "#5e9c3e", "#437f3f")[int(art * 97) % 3],
+                busch(0, 0, maß=zufall.uniform(.55, .9), farbe=("#4f8f3a", "#5e9c3e", "#437f3f")[int(art * 97) % 3],
                       blüten=(None, "gelb", "rosa", "weiß", None)[int(art * 991) % 5])
             elif art < .12:
-                palme(0, 0, mass=.8)
+                palme(0, 0, maß=.8)
             elif art < .24:
-                nadelbaum(0, 0, mass=zufall.uniform(.6, .8))
+                nadelbaum(0, 0, maß=zufall.uniform(.6, .8))
             else:
-                kugelbaum(0, 0, mass=zufall.uniform(.6, .85), farbe=("#5d9a3a", "#6fa63f", "#4d8c43")[int(art * 97) % 3])
+                kugelbaum(0, 0, maß=zufall.uniform(.6, .85),
+                          farbe=("#5d9a3a", "#6fa63f", "#4d8c43")[int(art * 97) % 3])
 
 
 def mache(datei):
@@ -82,7 +83,8 @@ def mache(datei):
     felder()
     schwelle(linie, 7, 6)
     schwelle(linie, 26, 25)
-    strecke = [p for p in linie if 596 < p[0] < 668 and 178 < -p[1] / TIEFE < 215]       # Leitlinie auf dem langen Stück
+    # Leitlinie auf dem langen Stück
+    strecke = [p for p in linie if 596 < p[0] < 668 and 178 < -p[1] / TIEFE < 215]
     for p, q in list(zip(strecke, strecke[2:]))[::4]:
         band([p, q], 1.3, stoff("#f4efe2", fleck=0), .6, .5, rund=0)
     for bauen in (bauten.bank, bauten.rathaus, bauten.parkplatz, bauten.schilder, *gärten.ALLE):
@@ -90,6 +92,7 @@ def mache(datei):
     landschaft(linie)
     bauten.leuchtturm(24, 66)
     bauten.steg(360, 412)
-    for ort in ((22, 196, 20, "weiß", "rot"), (722, 44, -30, "#f6c84a", "blau"), (372, 422, 80, "weiß", "türkis"), (280, 8, 10, "#e9785a", "weiß")):
+    for ort in ((22, 196, 20, "weiß", "rot"), (722, 44, -30, "#f6c84a", "blau"), (372, 422, 80, "weiß", "türkis"),
+                (280, 8, 10, "#e9785a", "weiß")):
         bauten.boot(*ort)
     rendere_twips(datei, BRETT)

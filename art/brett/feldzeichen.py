@@ -6,7 +6,8 @@ HELL = "#fff7e4"
 
 
 def kreis(x, y, r, von=0, bis=360, n=24):
-    return [(x + r * math.cos(math.radians(von + (bis - von) * i / n)), y + r * math.sin(math.radians(von + (bis - von) * i / n)))
+    return [(x + r * math.cos(math.radians(von + (bis - von) * i / n)),
+             y + r * math.sin(math.radians(von + (bis - von) * i / n)))
             for i in range(n + (bis - von < 360))]
 
 
@@ -26,7 +27,8 @@ def zeichen_g():
 
 
 def zeichen_b():
-    blatt = [([(-12, -8), (12, -8), (12, 8), (-12, 8)], HELL), ([(-11.2, -7.2), (11.2, -7.2), (11.2, 7.2), (-11.2, 7.2)], "#2b5f9f")]
+    blatt = [([(-12, -8), (12, -8), (12, 8), (-12, 8)], HELL),
+             ([(-11.2, -7.2), (11.2, -7.2), (11.2, 7.2), (-11.2, 7.2)], "#2b5f9f")]
 
     def strich(a, e, w=.62):
         dx, dy = e[0] - a[0], e[1] - a[1]
@@ -41,10 +43,12 @@ def zeichen_b():
 
 
 def zeichen_e():
-    bogen = kreis(0, -1, 8.4, 180, 360) + [(8.4, 8), (5.4, 8)] + kreis(0, -1, 5.4, 360, 180)[0:] + [(-5.4, 8), (-8.4, 8)]
+    bogen = (kreis(0, -1, 8.4, 180, 360) + [(8.4, 8), (5.4, 8)] + kreis(0, -1, 5.4, 360, 180)[0:]
+             + [(-5.4, 8), (-8.4, 8)])
     teile = [(bogen, HELL)]
     for x in (-3.2, 0, 3.2):
-        teile.append(([(x - .55, -3.6 + .35 * abs(x)), (x + .55, -3.6 + .35 * abs(x)), (x + .55, 8), (x - .55, 8)], HELL))
+        teile.append(([(x - .55, -3.6 + .35 * abs(x)), (x + .55, -3.6 + .35 * abs(x)), (x + .55, 8), (x - .55, 8)],
+                      HELL))
     teile.append(([(-5.4, 2.4), (5.4, 2.4), (5.4, 3.5), (-5.4, 3.5)], HELL))
     return teile
 
@@ -52,7 +56,8 @@ def zeichen_e():
 def zeichen_a():
     """Kranhaken an seiner Flasche."""
     bogen = kreis(-.4, 3.0, 6.4, 0, 168) + [(-6.2, -.6)] + kreis(-.4, 3.0, 3.2, 160, 0)
-    return [([(-1.6, -11), (-.4, -11), (-.4, -8), (-1.6, -8)], HELL), ([(6.4, -11), (7.6, -11), (7.6, -8), (6.4, -8)], HELL),
+    return [([(-1.6, -11), (-.4, -11), (-.4, -8), (-1.6, -8)], HELL),
+            ([(6.4, -11), (7.6, -11), (7.6, -8), (6.4, -8)], HELL),
             ([(-2.6, -8.6), (8.6, -8.6), (7.4, -4.2), (-1.4, -4.2)], HELL), (kreis(3, -6.4, 1.2), TON["a"]),
             ([(1.6, -4.4), (4.4, -4.4), (6.0, 3.2), (2.8, 3.2)], HELL), (bogen, HELL)]
 

@@ -15,10 +15,13 @@ SPIEGEL = -2.2              # Höhe des Wassers unter dem Land
 ERDE, SAND, SAVANNE, MOOS = "#b4613a", "#ead09a", "#cfb163", "#7c9a42"
 # Grund der Hotels, die auf Naturboden stehen: Farbe, weicher Rand, Umriss
 GRÜNDE = {
-    "Boomerang": (ERDE, 5, [(528, 366), (585, 362), (640, 363), (672, 338), (702, 312), (745, 300), (760, 420), (640, 424), (545, 408)]),
-    "Waikiki": (SAND, 6, [(52, 112), (76, 72), (120, 26), (170, 8), (262, 4), (276, 40), (268, 72), (232, 78), (170, 76), (118, 84), (84, 112)]),
+    "Boomerang": (ERDE, 5, [(528, 366), (585, 362), (640, 363), (672, 338), (702, 312), (745, 300), (760, 420),
+                            (640, 424), (545, 408)]),
+    "Waikiki": (SAND, 6, [(52, 112), (76, 72), (120, 26), (170, 8), (262, 4), (276, 40), (268, 72), (232, 78),
+                          (170, 76), (118, 84), (84, 112)]),
     "Safari": (SAVANNE, 7, [(571, 16), (600, -16), (676, -12), (704, 22), (704, 66), (700, 98), (600, 103), (574, 96)]),
-    "Fujijama": (MOOS, 7, [(455, 150), (500, 128), (536, 165), (572, 186), (634, 208), (632, 238), (620, 268), (575, 290), (520, 276), (478, 268), (455, 215)]),
+    "Fujijama": (MOOS, 7, [(455, 150), (500, 128), (536, 165), (572, 186), (634, 208), (632, 238), (620, 268),
+                           (575, 290), (520, 276), (478, 268), (455, 215)]),
 }
 
 
@@ -40,13 +43,13 @@ def abstand(x, y, linie):
     return np.where(innen, d, -d)
 
 
-def rauschfeld(x, y, mass, saat):
+def rauschfeld(x, y, maß, saat):
     """Weiches Zufallsfeld zwischen -1 und 1."""
     zufall = np.random.default_rng(saat)
     feld = np.zeros(x.shape)
     for stufe in range(4):
         g = zufall.uniform(-1, 1, (160, 160))
-        u, v = (x / mass * 2 ** stufe) % 159, (y / mass * 2 ** stufe) % 159
+        u, v = (x / maß * 2 ** stufe) % 159, (y / maß * 2 ** stufe) % 159
         i, j = u.astype(int), v.astype(int)
         fu, fv = u - i, v - j
         fu, fv = fu * fu * (3 - 2 * fu), fv * fv * (3 - 2 * fv)
@@ -135,5 +138,6 @@ def schneeberg(x, y, r, h):
     farbe = mische(farbe, "#7d7f92", stufe(a2 + .05 * np.sin(11 * w), .26, .48))
     farbe = mische(farbe, "#fbfcff", stufe(a2 + .09 * np.sin(8 * w + 1) + .05 * np.sin(19 * w), .54, .60))
     rund = lambda q: np.concatenate([q, q[:, :1]], 1)       # noqa: E731
-    als_netz("Schneeberg", rund(gx), rund(gy), rund(np.broadcast_to(höhe, (m, n))), rund(farbe), punktstoff("Berg", .85, .15, .7, .5, .10))
+    als_netz("Schneeberg", rund(gx), rund(gy), rund(np.broadcast_to(höhe, (m, n))), rund(farbe),
+             punktstoff("Berg", .85, .15, .7, .5, .10))
     zylinder(p.x, p.y, h * .95, r * .095, .4, "#dfe6f0", rund=0)

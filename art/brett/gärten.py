@@ -17,11 +17,13 @@ def kasten_(x, y, b, h, r):
 
 # Umrisse der befestigten Gärten, Entwurfspunkte
 GÄRTEN = {
-    "President": [(-14, 372), (18, 318), (54, 280), (82, 262), (112, 270), (165, 276), (214, 280), (252, 294), (284, 322),
+    "President": [(-14, 372), (18, 318), (54, 280), (82, 262), (112, 270), (165, 276), (214, 280), (252, 294),
+                  (284, 322),
                   (318, 352), (330, 380), (322, 404), (296, 424), (180, 436), (-20, 436)],
     "Taj Mahal": [(302, 26), (396, 26), (396, 84), (384, 104), (312, 106), (302, 96)],
     "L'Étoile": kasten_(381, 222, 136, 112, 14),
-    "Royal": [(128, 172), (140, 146), (166, 136), (210, 131), (252, 142), (286, 156), (296, 184), (288, 216), (238, 214),
+    "Royal": [(128, 172), (140, 146), (166, 136), (210, 131), (252, 142), (286, 156), (296, 184), (288, 216),
+              (238, 214),
               (180, 210), (146, 200)],
 }
 
@@ -54,10 +56,11 @@ def president():
 
 
 def waikiki():
-    for x, y, m in ((64, 126, .75), (100, 66, .9), (130, 36, .95), (172, 18, .9), (232, 12, .85), (268, 26, .9), (274, 62, .8),
+    for x, y, m in ((64, 126, .75), (100, 66, .9), (130, 36, .95), (172, 18, .9), (232, 12, .85), (268, 26, .9),
+                    (274, 62, .8),
                     (268, 46, .7), (252, 8, .7), (94, 88, .8), (182, 70, .8)):
         with am_brett(x, y):
-            palme(0, 0, mass=m)
+            palme(0, 0, maß=m)
     for nr, (x, y) in enumerate(((118, 92), (146, 74), (205, 66), (168, 66))):
         with am_brett(x, y):
             schirm(0, 0, farben=(("rot", "weiß"), ("blau", "weiß"), ("gelb", "weiß"))[nr % 3])
@@ -66,7 +69,8 @@ def waikiki():
 
 def taj():
     flach(GÄRTEN["Taj Mahal"], 0, .7, "#b8ad9a", .3)
-    flach([(305, 24), (393, 24), (393, 83), (382, 101.5), (313, 103.5), (305, 95)], 0, .9, platten("#dcd4c6", 7, .14), .2)
+    flach([(305, 24), (393, 24), (393, 83), (382, 101.5), (313, 103.5), (305, 95)], 0, .9, platten("#dcd4c6", 7, .14),
+          .2)
     with am_brett(352, 93):
         becken([(-5, -13), (5, -13), (5, 12), (-5, 12)], .8, "#ffffff", 1.6)
     with am_brett(352, 44):
@@ -81,15 +85,17 @@ def taj():
 
 
 def boomerang():
-    for x, y, m in ((548, 384, .9), (538, 398, .75), (700, 318, .9), (724, 306, .8), (664, 354, .8), (626, 398, .7), (736, 318, .9), (570, 370, .7), (612, 364, .75), (648, 362, .8), (716, 402, .8)):
+    for x, y, m in ((548, 384, .9), (538, 398, .75), (700, 318, .9), (724, 306, .8), (664, 354, .8), (626, 398, .7),
+                    (736, 318, .9), (570, 370, .7), (612, 364, .75), (648, 362, .8), (716, 402, .8)):
         with am_brett(x, y):
-            eukalyptus(0, 0, mass=m)
+            eukalyptus(0, 0, maß=m)
     for x, y in ((560, 398), (618, 372), (650, 404), (690, 336), (600, 368)):
         with am_brett(x, y):
             steine(0, 0, 5, 6, 1.3, "#b8643f")
             grasbüschel(5, 2, farbe="#b9a14e")
     with am_brett(684, 372):                    # ein Wurfholz aus Sand im roten Boden
-        bogen = [(r * math.cos(math.radians(a)), r * math.sin(math.radians(a)) - 12) for r, von, bis in ((22, 30, 150), (15, 150, 30))
+        bogen = [(r * math.cos(math.radians(a)), r * math.sin(math.radians(a)) - 12) for r, von,
+                 bis in ((22, 30, 150), (15, 150, 30))
                  for a in [von + (bis - von) * i / 12 for i in range(13)]]
         prisma(bogen, .1, .3, stoff("#e8c48a", rau=.8), .1)
 
@@ -97,10 +103,10 @@ def boomerang():
 def safari():
     for x, y, m in ((590, 22, .8), (690, 24, .8), (686, 58, .8), (578, 76, .65), (612, 10, .7)):
         with am_brett(x, y):
-            schirmakazie(0, 0, mass=m)
+            schirmakazie(0, 0, maß=m)
     for x, y in ((596, 40), (660, 96), (650, 20), (690, 78), (606, 90), (630, 60)):
         with am_brett(x, y):
-            grasbüschel(0, 0, mass=1.3, farbe="#c9ae56")
+            grasbüschel(0, 0, maß=1.3, farbe="#c9ae56")
             grasbüschel(4, 3, farbe="#b99b48")
     with am_brett(612, 62):
         umriss = glätten([(-9, 0), (-3, 6), (6, 5), (10, -1), (3, -6), (-6, -5)])
@@ -113,19 +119,22 @@ def safari():
 
 def fuji():
     gelände.schneeberg(488, 200, 31, 49)
-    for x, y, m in ((506, 150, .8), (458, 232, .8), (470, 250, .85), (632, 222, .7), (488, 258, .7), (512, 172, .7), (640, 262, .55)):
+    for x, y, m in ((506, 150, .8), (458, 232, .8), (470, 250, .85), (632, 222, .7), (488, 258, .7), (512, 172, .7),
+                    (640, 262, .55)):
         with am_brett(x, y):
-            ahorn(0, 0, mass=m, farbe=("#b8452c", "#cc6b2c", "#a93a34")[int(x) % 3])
+            ahorn(0, 0, maß=m, farbe=("#b8452c", "#cc6b2c", "#a93a34")[int(x) % 3])
     with am_brett(560, 240):
         umriss = glätten([(-26, -8), (-22, 12), (-4, 20), (16, 16), (28, 2), (16, -16), (-8, -18)])
         prisma(umriss, .0, .5, stein("#a8a08f"), .2)
-        prisma([(x * .95, y * .93) for x, y, *_ in umriss], .0, .6, stoff("#e6dec9", rau=.9, korn=.5, kornmass=1.5), .1)
+        prisma([(x * .95, y * .93) for x, y, *_ in umriss], .0, .6, stoff("#e6dec9", rau=.9, korn=.5, kornmaß=1.5), .1)
         for r in range(4, 20, 3):
-            rohr([(r * 1.1 * math.cos(a) - 6, r * .8 * math.sin(a) + 2, .62) for a in [i * math.pi / 24 for i in range(48)]],
+            rohr([(r * 1.1 * math.cos(a) - 6, r * .8 * math.sin(a) + 2, .62)
+                  for a in [i * math.pi / 24 for i in range(48)]],
                  .28, "#d3c8ac", zu=True)
         kugel(-6, 2, .8, 3.2, stein("#8f8d86"), (1.2, .9, .8))
         kugel(8, -3, .6, 2.2, stein("#8f8d86"), (1, 1.1, .7))
-    for nr, (x, y) in enumerate(((532, 196), (548, 208), (524, 214), (600, 222), (612, 236), (516, 244), (540, 270), (600, 252), (574, 205))):
+    for nr, (x, y) in enumerate(((532, 196), (548, 208), (524, 214), (600, 222), (612, 236), (516, 244), (540, 270),
+                                 (600, 252), (574, 205))):
         with am_brett(x, y):
             kugel(0, 0, -.6, 4.2 - nr % 3, laub(("#6b9a35", "#86a63c", "#577f38")[nr % 3]), (1.3, 1.1, .55))
             steine(6, -2, 3, 3, 1.3, "#93928a")
@@ -137,7 +146,7 @@ def fuji():
 
 
 def étoile():
-    flach(GÄRTEN["L'Étoile"], .0, .45, stoff("#e6d5ae", rau=.9, fleck=.06, korn=.5, kornmass=2), .2)
+    flach(GÄRTEN["L'Étoile"], .0, .45, stoff("#e6d5ae", rau=.9, fleck=.06, korn=.5, kornmaß=2), .2)
     for x, b in ((346, 58), (418, 58)):
         for y, h in ((190, 34), (246, 44)):
             flach(kasten_(x, y, b, h, 5), .0, .9, gras("#7cb24a"), .3)
@@ -145,7 +154,8 @@ def étoile():
                 w, t = b / 2 - 3.5, (h / 2 - 3) * TIEFE
                 hecke([(-w, -t), (w, -t), (w, t), (-w, t), (-w, -t)], 1.6, 1.6, z=.8)
                 for s in (-1, 1):
-                    blumenbeet(s * w * .45, 0, w * .5, t * .9, ("rot", "weiß", "gelb") if y < 220 else ("rosa", "weiß", "lila"), .30, .8)
+                    blumenbeet(s * w * .45, 0, w * .5, t * .9, ("rot", "weiß", "gelb") if y < 220
+                               else ("rosa", "weiß", "lila"), .30, .8)
     with am_brett(382, 216):
         zylinder(0, 0, .3, 15, .3, "#f0e4c6", seiten=48)
         brunnen(0, 0, .5, 9)
@@ -157,20 +167,22 @@ def étoile():
 
 def royal():
     umriss = GÄRTEN["Royal"]
-    flach([(p[0], -p[1] / TIEFE) for p in weich(umriss)], -.1, .6, stoff("#e8dab4", rau=.9, korn=.4, kornmass=2), .2)
+    flach([(p[0], -p[1] / TIEFE) for p in weich(umriss)], -.1, .6, stoff("#e8dab4", rau=.9, korn=.4, kornmaß=2), .2)
     innen = weich([(x + (212 - x) * .055, y + (174 - y) * .09) for x, y in umriss])
     unten, oben = min(p[1] for p in innen), max(p[1] for p in innen)
-    flach([(p[0], -p[1] / TIEFE) for p in innen], -.1, .85, stoff("#74ad48", rau=.9, muster=("brett", 4000, 11, .34), musterhub=.05, korn=.5, kornmass=1.6), .2)
+    flach([(p[0], -p[1] / TIEFE) for p in innen], -.1, .85,
+          stoff("#74ad48", rau=.9, muster=("brett", 4000, 11, .34), musterhub=.05, korn=.5, kornmaß=1.6), .2)
     with am_brett(212, 176):
-        band([(0, -50), (0, 46)], 12, stoff("#ecdfbf", rau=.9, korn=.4, kornmass=2), .1, .8, rund=.1)
-        zylinder(0, 0, .1, 15, .85, stoff("#ecdfbf", rau=.9, korn=.4, kornmass=2), seiten=48)
+        band([(0, -50), (0, 46)], 12, stoff("#ecdfbf", rau=.9, korn=.4, kornmaß=2), .1, .8, rund=.1)
+        zylinder(0, 0, .1, 15, .85, stoff("#ecdfbf", rau=.9, korn=.4, kornmaß=2), seiten=48)
         brunnen(0, 0, .8, 7.5)
         for s in (-1, 1):
             hecke([(s * 10, -44), (s * 10, -18)], 2.4, 2.2, z=.7)
             hecke([(s * 10, 18), (s * 10, 40)], 2.4, 2.2, z=.7)
             for y in (-32, 30):
                 blumenbeet(s * 26, y, 22, 8, ("rot", "gelb", "weiß"), .35, .7)
-    for x, y, m in ((140, 184, .7), (146, 156, .7), (284, 170, .7), (172, 142, .65), (252, 148, .65), (160, 200, .6), (240, 208, .6)):
+    for x, y, m in ((140, 184, .7), (146, 156, .7), (284, 170, .7), (172, 142, .65), (252, 148, .65), (160, 200, .6),
+                    (240, 208, .6)):
         with am_brett(x, y):
             kugelbaum(0, 0, .6, m, "#5c9c40")
 

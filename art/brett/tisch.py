@@ -1,4 +1,4 @@
-"""Der Tisch, auf dem das Brett liegt (bilder/formen/form1/form1.jpg), und das Zeichen des Spiels (bilder/formen/velmo.png)."""
+"""Der Tisch, auf dem das Brett liegt (formen/form1/form1.jpg), und das Zeichen des Spiels (formen/velmo.png)."""
 from kasten import *
 from knoten import stoffbaum
 from wagen.wagen import wagen
@@ -39,7 +39,7 @@ def tisch(datei):
     quader(B / 2, -H / 2, -10, B + 200, H + 200, 10, hell, 0)
     rechteckring(l, o, b, h, .8, 7.0, -1, 5.5, leiste, 1.6)
     quader(l + b / 2, -o - h / 2, -1, b + 2, h + 2, 1.2, "#3a2a1e", 0)
-    filz = stoff("#31604d", rau=1, glanz=.03, fleck=.07, korn=.5, kornmass=1.6)
+    filz = stoff("#31604d", rau=1, glanz=.03, fleck=.07, korn=.5, kornmaß=1.6)
     for l, o, b, h in (NOTEN, WÜRFEL):
         quader(l + b / 2, -o - h / 2, -1, b, h, 1.3, filz, 0)
         rechteckring(l, o, b, h, 0, 3.4, -1, 4.2, leiste, 1.3)
@@ -51,11 +51,12 @@ def tisch(datei):
 def zeichen(datei):
     neu(3)
     schattengrund(-3)
-    drehkörper(0, 0, -3, [(30, 0), (32, 1.5), (32, 3.2), (30.6, 3.6)], stoff("#2aa0c4", rau=.1, glanz=.6, fleck=.05, korn=.12, kornmass=.25), 72)
+    drehkörper(0, 0, -3, [(30, 0), (32, 1.5), (32, 3.2), (30.6, 3.6)],
+               stoff("#2aa0c4", rau=.1, glanz=.6, fleck=.05, korn=.12, kornmaß=.25), 72)
     drehkörper(0, 0, 0, [(25, 0), (24, 1.5), (20, 2.4)], stoff("#ecd199", rau=.9, korn=.3), 60)
     drehkörper(0, 3, 1.5, [(19, 0), (17, 1.6), (12, 2.4)], gras("#86b24a"), 48)
     with bei(-9, 9, 2.6):
-        palme(0, 0, mass=1.75, drehung=10)
+        palme(0, 0, maß=1.75, drehung=10)
     with bei(8, 9, 3):
         quader(0, 0, 0, 15, 12, 13, putz("#f3ead6"), .6)
         with wand(0, 0, 15, 12, "s"):

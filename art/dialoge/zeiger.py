@@ -1,7 +1,4 @@
-"""Die eigenen Mauszeiger: Dorvins weißer Pagenhandschuh. Die Fingerspitze liegt in der Mitte des Bildes.
-
-Aufruf: python3 zeiger.py
-"""
+"""Die eigenen Mauszeiger: Dorvins weißer Pagenhandschuh. Die Fingerspitze liegt in der Mitte des Bildes."""
 from stift import *
 
 BREIT = 256  # 64 Bildpunkte des Entwurfs, die Mitte ist die Spitze
@@ -20,12 +17,13 @@ def handschuh(drehung, hand=1):
             f'<path d="{FALTEN}" fill="none" stroke="{TINTE}" stroke-width="3.4" stroke-linecap="round" opacity=".55"/>'
             f'<rect x="-12" y="100" width="72" height="22" rx="6" fill="url(#tuch)" stroke="{TINTE}" stroke-width="5"/>'
             '<circle cx="24" cy="111" r="6" fill="url(#gold)"/>')
-    return svg(BREIT, BREIT, f'<g transform="translate(128 128) scale({.88 * hand} .88) rotate({drehung})" filter="url(#schatten)">{handbild}</g>', defs)
+    lage = f'translate(128 128) scale({.88 * hand} .88) rotate({drehung})'
+    return svg(BREIT, BREIT, f'<g transform="{lage}" filter="url(#schatten)">{handbild}</g>', defs)
 
 
 # Form und Element: wohin der Finger weist, in Grad von oben; -1 ist die andere Hand
 ZEIGER = {"assistent/image1": (-24,), "karten/image1": (90, -1), "karten/image2": (90,), "karten/image3": (0,)}
 
-if __name__ == "__main__":
-    for element, haltung in ZEIGER.items():
-        ausgeben(f"formen/{element}zeiger.png", handschuh(*haltung))
+
+def mache(datei):
+    ausgeben(datei, handschuh(*ZEIGER["/".join(Path(datei).parts[-2:]).removesuffix("zeiger.png")]))

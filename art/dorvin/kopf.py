@@ -42,7 +42,7 @@ def auge(x, weiß, lid, braue):
     """Augapfel, der weiche Wulst um ihn und die Braue darüber."""
     ex, ez = ort(x, 150)
     y = -math.sqrt(max(0, 1.04 ** 2 - ex * ex - ez * ez))
-    ball(0.365, (ex, y + 0.02, ez), weiß, mass=(1.02, 0.42, 0.94), n=48)
+    ball(0.365, (ex, y + 0.02, ez), weiß, maß=(1.02, 0.42, 0.94), n=48)
     kreis = np.linspace(0, 2 * math.pi, 48, False)
     schlauch([(ex + 0.375 * 1.02 * math.cos(a), y + 0.02, ez + 0.375 * 0.94 * math.sin(a)) for a in kreis],
              [0.045] * 48, lid, zu=True)
@@ -54,14 +54,14 @@ def auge(x, weiß, lid, braue):
 
 def mütze():
     """Pagenmütze, ein wenig schief."""
-    tuch, gold = matt("#c22f2b", 0.65, 0.3, korn=0.3, kornmass=70), matt("#eebb45", 0.25, 0.6, 0.55)
+    tuch, gold = matt("#c22f2b", 0.65, 0.3, korn=0.3, kornmaß=70), matt("#eebb45", 0.25, 0.6, 0.55)
     with rahmen(platz((-0.06, -0.08, 0.80), (0.16, 0.06, 0))):
         gedreht([(0.86, 0), (0.87, 0.05), (0.82, 0.62), (0.78, 0.68), (0, 0.72)], tuch, 96)
         for z, r in ((0.05, 0.045), (0.16, 0.03)):
             kreis = np.linspace(0, 2 * math.pi, 96, False)
             schlauch([((0.885 - 0.05 * z) * math.cos(a), (0.885 - 0.05 * z) * math.sin(a), z) for a in kreis],
                      [r] * 96, gold, zu=True)
-        ball(0.09, (-0.06, -0.90, 0.30), gold, mass=(1, 0.6, 1))
+        ball(0.09, (-0.06, -0.90, 0.30), gold, maß=(1, 0.6, 1))
 
 
 def kopf():
@@ -70,7 +70,7 @@ def kopf():
     for x in (461, 577):
         auge(x, weiß, lid, braue)
     nx, nz = ort(519, 203)
-    ball(0.205, (nx, -1.14, nz), matt("#ec7d58", 0.38, 0.45), mass=(1.05, 1, 0.9), n=40)
+    ball(0.205, (nx, -1.14, nz), matt("#ec7d58", 0.38, 0.45), maß=(1.05, 1, 0.9), n=40)
     mütze()
 
 

@@ -24,18 +24,23 @@ def pokal(gold, alt):
     quader(0, .2, -4.86, 2.9, 2.3, .35, holz("#4a2814"), .08)
     quader(0, .2, -4.51, 2.4, 1.9, 1.0, stoff("#1f2a44", rau=.25, glanz=.5, fleck=.05), .08)
     quader(0, -.77, -4.28, 1.5, .06, .52, gold, .03)
-    profil = [(1.15, -3.5), (1.15, -3.38), (.95, -3.28), (.45, -3.05), (.26, -2.75), (.24, -2.62), (.44, -2.48), (.5, -2.36), (.42, -2.24), (.26, -2.12), (.28, -2.0),
-              (.62, -1.86), (1.15, -1.62), (1.62, -1.22), (1.92, -.62), (2.04, .2), (2.08, 1.0), (2.14, 1.55), (2.30, 1.86), (2.36, 1.92), (2.32, 1.97), (2.2, 1.92), (2.0, 1.4), (1.7, .2), (.2, -1.2)]
+    profil = [(1.15, -3.5), (1.15, -3.38), (.95, -3.28), (.45, -3.05), (.26, -2.75), (.24, -2.62), (.44, -2.48),
+              (.5, -2.36), (.42, -2.24), (.26, -2.12), (.28, -2.0),
+              (.62, -1.86), (1.15, -1.62), (1.62, -1.22), (1.92, -.62), (2.04, .2), (2.08, 1.0), (2.14, 1.55),
+              (2.30, 1.86), (2.36, 1.92), (2.32, 1.97), (2.2, 1.92), (2.0, 1.4), (1.7, .2), (.2, -1.2)]
     drehkörper(0, .2, 0, profil, gold, 96)
     for z, r, d in ((1.58, 2.17, .06), (-1.36, 1.52, .05), (-3.42, 1.17, .05)):
-        rohr([(r * math.cos(a), .2 + r * math.sin(a), z) for a in [i * math.pi / 48 for i in range(96)]], d, alt, zu=True)
+        rohr([(r * math.cos(a), .2 + r * math.sin(a), z) for a in [i * math.pi / 48 for i in range(96)]], d, alt,
+             zu=True)
     for s in (-1, 1):
-        rohr(glätten([(s * 2.05, .2, 1.2), (s * 2.8, .2, 1.55), (s * 3.25, .2, .8), (s * 2.95, .2, -.15), (s * 2.2, .2, -.7), (s * 1.85, .2, -.85)], 10, zu=False), .17, gold, seiten=24)
+        rohr(glätten([(s * 2.05, .2, 1.2), (s * 2.8, .2, 1.55), (s * 3.25, .2, .8), (s * 2.95, .2, -.15),
+                      (s * 2.2, .2, -.7), (s * 1.85, .2, -.85)], 10, zu=False), .17, gold, seiten=24)
         kugel(s * 2.62, .2, 1.52, .26, gold)
     for i in range(18):                    # Buckel am unteren Rand der Schale
         a = 2 * math.pi * i / 18
         kugel(1.34 * math.cos(a), .2 + 1.34 * math.sin(a), -1.50, .16, gold)
-    stern = [((1.15 if i % 2 == 0 else .48) * math.sin(math.pi * i / 5), (1.15 if i % 2 == 0 else .48) * math.cos(math.pi * i / 5)) for i in range(10)]
+    stern = [((1.15 if i % 2 == 0 else .48) * math.sin(math.pi * i / 5),
+              (1.15 if i % 2 == 0 else .48) * math.cos(math.pi * i / 5)) for i in range(10)]
     lege(prisma(stern, 0, .25, metall("#ffd667", .16), .07), schub(0, -1.80, .22) @ dreh(90, "X"))
 
 
@@ -47,17 +52,20 @@ def lorbeer():
             t = i / 10
             x, z = s * (.25 + 2.05 * math.sin(t * 1.35)), -4.5 + 1.95 * t ** 1.5
             for v in (-1, 1):
-                lege(kugel(0, 0, 0, 1, blatt), schub(x + v * .10, -1.15 + .2 * t, z + .1) @ Matrix.Rotation(-s * (t * 1.1 - .3) + v * .7, 4, "Y") @ Matrix.Diagonal((.10, .06, .28, 1)))
+                lege(kugel(0, 0, 0, 1, blatt), schub(x + v * .10, -1.15 + .2 * t, z + .1)
+                     @ Matrix.Rotation(-s * (t * 1.1 - .3) + v * .7, 4, "Y") @ Matrix.Diagonal((.10, .06, .28, 1)))
 
 
 def münzen(z, x, y, zahl, r=.36):
     for i in range(zahl):
-        zylinder(x + z.uniform(-.03, .03), y + z.uniform(-.03, .03), -4.86 + .10 * i, r, .09, metall(z.choice(("#eab83f", "#e0a833")), .3), rund=.02, seiten=40)
+        zylinder(x + z.uniform(-.03, .03), y + z.uniform(-.03, .03), -4.86 + .10 * i, r, .09,
+                 metall(z.choice(("#eab83f", "#e0a833")), .3), rund=.02, seiten=40)
 
 
 def geld(z):
     """Münzsäulen und Bündel Scheine."""
-    for x, y, n_ in ((-2.3, -1.2, 9), (-2.95, -.9, 12), (-2.75, -1.9, 4), (2.35, -1.3, 7), (3.0, -.7, 9), (-3.7, -1.4, 5), (3.3, -1.7, 3)):
+    for x, y, n_ in ((-2.3, -1.2, 9), (-2.95, -.9, 12), (-2.75, -1.9, 4), (2.35, -1.3, 7), (3.0, -.7, 9),
+                     (-3.7, -1.4, 5), (3.3, -1.7, 3)):
         münzen(z, x, y, n_)
     for x, y, w, n_, f_ in ((-3.9, .2, 12, 5, "#4aa39b"), (-3.6, 1.2, -8, 8, "#c1699d"), (4.2, .6, -12, 4, "#d9913f")):
         for i in range(n_):
@@ -67,10 +75,16 @@ def geld(z):
 
 
 def ballons():
-    for x, h, r, f_ in ((-3.55, 1.9, .62, "#2f6fc0"), (-2.9, 2.6, .58, "#f2b92c"), (-3.95, 2.75, .54, "#c8392f"), (3.7, 1.0, .66, "#e58a9a"), (4.45, 1.75, .62, "#3fb5ad"), (3.55, 2.35, .60, "#f2b92c"), (4.5, .35, .52, "#c8392f")):
-        drehkörper(x, 1.2, h, [(.02, -1.18 * r), (.10 * r, -1.12 * r), (.05 * r, -1.04 * r)] + [(r * math.sin(a) * (1 - .10 * math.cos(a) * (math.cos(a) < 0) * -1), -r * 1.08 * math.cos(a)) for a in [math.pi * i / 24 for i in range(1, 24)]] + [(.01, r * 1.08)], stoff(f_, rau=.18, glanz=.6, fleck=.02), 40)
+    for x, h, r, f_ in ((-3.55, 1.9, .62, "#2f6fc0"), (-2.9, 2.6, .58, "#f2b92c"), (-3.95, 2.75, .54, "#c8392f"),
+                        (3.7, 1.0, .66, "#e58a9a"), (4.45, 1.75, .62, "#3fb5ad"), (3.55, 2.35, .60, "#f2b92c"),
+                        (4.5, .35, .52, "#c8392f")):
+        drehkörper(x, 1.2, h, [(.02, -1.18 * r), (.10 * r, -1.12 * r), (.05 * r, -1.04 * r)]
+                   + [(r * math.sin(a) * (1 - .10 * math.cos(a) * (math.cos(a) < 0) * -1), -r * 1.08 * math.cos(a))
+                      for a in [math.pi * i / 24 for i in range(1, 24)]] + [(.01, r * 1.08)],
+                   stoff(f_, rau=.18, glanz=.6, fleck=.02), 40)
         fuß = -3.75 if x < 0 else 4.2
-        rohr(glätten([(x, 1.2, h - 1.15 * r), (x * .9 + fuß * .1 + .15, 1.2, h - 2.4), (fuß, 1.2, -3.2)], 8, zu=False), .018, stoff("#e9dcc0"))
+        rohr(glätten([(x, 1.2, h - 1.15 * r), (x * .9 + fuß * .1 + .15, 1.2, h - 2.4), (fuß, 1.2, -3.2)], 8, zu=False),
+             .018, stoff("#e9dcc0"))
 
 
 def konfetti(z):
@@ -78,7 +92,9 @@ def konfetti(z):
         x, y, h = z.uniform(-5.4, 4.2), z.uniform(-1, 3), z.uniform(-3.5, 5.2)
         if abs(x) < 2.7 and h < 2.2 and y < 1.6:
             continue
-        lege(quader(0, 0, 0, .13, .09, .012, stoff(z.choice(("#f2b92c", "#c8392f", "#2f6fc0", "#3f9a4a", "#e58a9a", "#fbf3e2")), rau=.5), 0), schub(x, y, h) @ Matrix.Rotation(z.uniform(0, 3), 4, "X") @ Matrix.Rotation(z.uniform(0, 3), 4, "Y"))
+        lege(quader(0, 0, 0, .13, .09, .012,
+                    stoff(z.choice(("#f2b92c", "#c8392f", "#2f6fc0", "#3f9a4a", "#e58a9a", "#fbf3e2")), rau=.5), 0),
+             schub(x, y, h) @ Matrix.Rotation(z.uniform(0, 3), 4, "X") @ Matrix.Rotation(z.uniform(0, 3), 4, "Y"))
 
 
 def mache(datei):

@@ -51,24 +51,24 @@ SCHLEIER = [(-.44, -.32, 1.1), (.42, -.34, 1.2), (-.46, .30, 1.2), (.44, .36, 1.
 
 
 def wolken(bild, t, k, teile):
-    for x, y, hoch, mass, nr in WOLKEN:
+    for x, y, hoch, maß, nr in WOLKEN:
         x = x + 26 * t
         m = 1 / (1 - hoch / (1.25 * k.weite))
         sx, sy, s = k.punkt(x + .3 * hoch, y + .2 * hoch)
-        setze(bild, teile.schatten[nr], sx, sy, s * mass * .95, deckung=.30)
+        setze(bild, teile.schatten[nr], sx, sy, s * maß * .95, deckung=.30)
         u, v, s = k.punkt(x, y)
         u, v = B / 2 + (u - B / 2) * m, H / 2 + (v - H / 2) * m - .12 * hoch * s
         rand = sanft(k.weite, 1150, 2300)          # im Überblick bleibt die Mitte frei
         frei = max(abs(u / B - .5), abs(v / H - .5)) * 2
-        setze(bild, teile.wolken[nr], u, v, s * mass * m, deckung=.93 * (1 - rand * (1 - sanft(frei, .55, .8))))
+        setze(bild, teile.wolken[nr], u, v, s * maß * m, deckung=.93 * (1 - rand * (1 - sanft(frei, .55, .8))))
 
 
 def schleier(bild, t, teile):
     if t > 1.6:
         return
     weit = math.exp(1.3 * t + 1.1 * t * t)
-    for i, (x, y, mass) in enumerate(SCHLEIER):
-        setze(bild, teile.wolken[i % 3], B * (.5 + x * weit), H * (.5 + y * weit), mass * weit, drehung=.1 * (i - 3),
+    for i, (x, y, maß) in enumerate(SCHLEIER):
+        setze(bild, teile.wolken[i % 3], B * (.5 + x * weit), H * (.5 + y * weit), maß * weit, drehung=.1 * (i - 3),
               deckung=1 - sanft(t, .35, 1.15))
 
 
@@ -153,14 +153,14 @@ def glanz(teil, x, t):
     return teil
 
 
-def staub(bild, teile, x, y, nach, mass):
+def staub(bild, teile, x, y, nach, maß):
     if not 0 <= nach < .55:
         return
     f = nach / .55
     for seite in (-1, 1):
         for j in range(2):
             setze(bild, teile.staub, x + seite * (26 + (30 + 22 * j) * math.sqrt(f)), y - 9 * f - 7 * j,
-                  mass * (.10 + .12 * math.sqrt(f)), deckung=.75 * (1 - f) ** 1.4)
+                  maß * (.10 + .12 * math.sqrt(f)), deckung=.75 * (1 - f) ** 1.4)
 
 
 def wagenort(t):
@@ -177,7 +177,7 @@ def wagenort(t):
 def wagen(bild, t, teile):
     if t < WAGEN_AB - .1:
         return
-    x, y, mass = wagenort(t), 474.0, .78
+    x, y, maß = wagenort(t), 474.0, .78
     grad = 90 - 40 * sanft(t, BREMSE - .25, STEHT + .02)
     unten = max(g for g in teile.wagen if g <= grad)
     y += 12 * sanft(t, BREMSE - .25, STEHT)
@@ -189,13 +189,13 @@ def wagen(bild, t, teile):
     hupt = max((max(0.0, 1 - abs(t - h - .07) / .12) for h in HUPE), default=0)
     hoch += 7 * hupt
     mitte = (.5, 44 / 76)
-    setze(bild, teile.wagen[unten][1], x, y, mass, mitte, deckung=.9)
+    setze(bild, teile.wagen[unten][1], x, y, maß, mitte, deckung=.9)
     for j in range(4):                         # Reifenstaub
         ab = BREMSE + .07 * j
         f = (t - ab) / .5
         if 0 <= f < 1:
             setze(bild, teile.staub, wagenort(ab) - 92 - 20 * f, y + 14 - 12 * f, .10 + .14 * f, deckung=.8 * (1 - f))
-    setze(bild, teile.wagen[unten][0], x, y - hoch, mass, mitte, drehung=nicken, streckung=1 + .05 * hupt)
+    setze(bild, teile.wagen[unten][0], x, y - hoch, maß, mitte, drehung=nicken, streckung=1 + .05 * hupt)
     if hupt:
         setze(bild, teile.stern, x + 104, y - 6 - hoch, 1.3, deckung=hupt)
 
@@ -293,7 +293,8 @@ def mache(datei):
         return bogen().save(ziel(datei + ".png"))
     brauche("ffmpeg")
     insel, teile, rand = Insel(), Teile(), rahmen()
-    packen = subprocess.Popen(["ffmpeg", "-v", "error", "-y", "-f", "image2pipe", "-c:v", "mjpeg", "-framerate", str(TAKT),
+    packen = subprocess.Popen(["ffmpeg", "-v", "error", "-y", "-f", "image2pipe", "-c:v", "mjpeg", "-framerate",
+                               str(TAKT),
                                "-i", "-", "-c", "copy", "-fflags", "+bitexact", "-f", "avi", ziel(datei)],
                               stdin=subprocess.PIPE)
     for nr in range(round(DAUER * TAKT)):

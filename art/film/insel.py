@@ -28,16 +28,16 @@ def blass(bild, anteil):
     return bild
 
 
-def setze(grund, teil, x, y, mass=1.0, mitte=(.5, .5), drehung=0.0, deckung=1.0, streckung=1.0):
+def setze(grund, teil, x, y, maß=1.0, mitte=(.5, .5), drehung=0.0, deckung=1.0, streckung=1.0):
     """Legt das Teil mit seinem Punkt `mitte` (Anteile) auf (x, y), auf Bruchteile eines Punktes genau."""
     if deckung <= 0.01:
         return
-    while mass < .5 and min(teil.size) > 8:
-        teil, mass = teil.reduce(2), mass * 2
+    while maß < .5 and min(teil.size) > 8:
+        teil, maß = teil.reduce(2), maß * 2
     w, h = teil.size
     mx, my = w * mitte[0], h * mitte[1]
     c, s = math.cos(drehung), math.sin(drehung)
-    sx, sy = mass, mass * streckung
+    sx, sy = maß, maß * streckung
     ecken = [(c * sx * (ex - mx) - s * sy * (ey - my), s * sx * (ex - mx) + c * sy * (ey - my))
              for ex in (0, w) for ey in (0, h)]
     links, oben = math.floor(x + min(e[0] for e in ecken)), math.floor(y + min(e[1] for e in ecken))
@@ -62,7 +62,8 @@ def linie(punkte, t):
     m1 = (p[2] - p[0]) / max(p[2][0] - p[0][0], 1e-6) * dt
     m2 = (p[3] - p[1]) / max(p[3][0] - p[1][0], 1e-6) * dt
     f2, f3 = f * f, f * f * f
-    return tuple(((2 * f3 - 3 * f2 + 1) * p[1] + (f3 - 2 * f2 + f) * m1 + (3 * f2 - 2 * f3) * p[2] + (f3 - f2) * m2)[1:])
+    return tuple(((2 * f3 - 3 * f2 + 1) * p[1] + (f3 - 2 * f2 + f) * m1 + (3 * f2 - 2 * f3) * p[2]
+                  + (f3 - f2) * m2)[1:])
 
 
 class Insel:
@@ -80,7 +81,8 @@ class Insel:
             self.häuser = ImageChops.lighter(self.häuser, ganz.getchannel("A"))
         self.breite, self.höhe = bild.size
         bild = bild.convert("RGB")
-        self.fein = [(m, bild if m == 1 else bild.resize((round(self.breite * m), round(self.höhe * m)), Image.Resampling.LANCZOS))
+        self.fein = [(m, bild if m == 1 else bild.resize((round(self.breite * m), round(self.höhe * m)),
+                                                         Image.Resampling.LANCZOS))
                      for m in (1, .72, .52, .38)]
         self.felder = [tuple(w * FEIN for w in mitte(nummer)) for nummer in FELDER]
         self.meer = self._meer(bild)
@@ -97,8 +99,8 @@ class Insel:
         return [o for o in orte if all(math.dist(o, f) > 130 for f in self.felder)]
 
     def zeichne(self, kamera):
-        mass, bild = next(((m, b) for m, b in reversed(self.fein) if m >= .9 * B / kamera.weite), self.fein[0])
-        return bild.transform((B, H), Image.Transform.PERSPECTIVE, kamera.zum_brett(mass),
+        maß, bild = next(((m, b) for m, b in reversed(self.fein) if m >= .9 * B / kamera.weite), self.fein[0])
+        return bild.transform((B, H), Image.Transform.PERSPECTIVE, kamera.zum_brett(maß),
                               Image.Resampling.BICUBIC).convert("RGBA")
 
 
@@ -113,8 +115,8 @@ class Kamera:
         self.hin = np.array([[c * m, -s * m, x], [s * m, c * m, y], [0, 0, 1]]) @ a
         self.her = np.linalg.inv(self.hin)
 
-    def zum_brett(self, mass):
-        k = np.diag([mass, mass, 1]) @ self.hin
+    def zum_brett(self, maß):
+        k = np.diag([maß, maß, 1]) @ self.hin
         return tuple((k / k[2, 2]).ravel()[:8])
 
     def punkt(self, x, y):

@@ -39,14 +39,14 @@ def wolke(saat):
 
 
 def mache(datei):
-    """V.png ... ein Buchstabe, wagen42.png ... der Wagen in der Kehre, wolke1.png ...; mit _s vor der Endung sein Schatten."""
+    """V.png: ein Buchstabe, wagen42.png: der Wagen in der Kehre, wolke1.png; mit _s vor der Endung der Schatten."""
     name, nr, schatten = re.fullmatch(r"([A-Za-z]+)(\d*)(_s)?\.png", datei).groups()
     neu()
     if name in NAME:
         buchstabe(name, NAME[name])
         größe = 130, 90
     elif name == "wagen":
-        with am_brett(50, 44, drehung=int(nr), mass=2.7):
+        with am_brett(50, 44, drehung=int(nr), maß=2.7):
             wagen("#d0302a")
         größe = 100, 76
     else:

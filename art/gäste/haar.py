@@ -9,7 +9,8 @@ class Haarkopf(Kopf):
         """Höhe (Richtungsanteil) des Haaransatzes beim Winkel phi von vorn."""
         f = self.g["ansatz"]          # vorn, Schläfe, Ohr, hinten
         w = np.abs(phi)
-        return np.interp(w, [0, 0.55, 1.0, 1.35, 1.62, 2.2, math.pi], [f[0], f[0] * 0.97, f[1], f[2], f[2] - 0.03, f[3], f[3]])
+        return np.interp(w, [0, 0.55, 1.0, 1.35, 1.62, 2.2, math.pi],
+                         [f[0], f[0] * 0.97, f[1], f[2], f[2] - 0.03, f[3], f[3]])
 
     def maske(self, d):
         return d[:, 2] - self.ansatz(np.arctan2(d[:, 0], -d[:, 1]))
@@ -21,7 +22,7 @@ class Haarkopf(Kopf):
         return r * (1 + np.asarray(h)[:, None] if np.ndim(h) else 1 + h)
 
     def kappe(self, dicke, material, rillen=22, tief=0.012):
-        """Geschlossene Grundmasse unter den Strähnen."""
+        """Geschlossene Grundmaße unter den Strähnen."""
         d, f = self.richtung(48)
         m = self.maske(d)
         dick = dicke * np.sqrt(np.clip(m / 0.22, 0, 1)) + tief * np.sin(rillen * np.arctan2(d[:, 0], d[:, 2] + 1.5) * 2)
@@ -29,7 +30,8 @@ class Haarkopf(Kopf):
         f = [q for q in f if all(m[k] > -0.03 for k in q)]
         return netz(p, f, material)
 
-    def strähnen(self, n, fluss, länge, breite, materialien, höhe=0.10, fall=None, schritt=0.055, ab=0.0, bis=9, streuung=0.25, spitze=0.15, seite=None, saat=1):
+    def strähnen(self, n, fluss, länge, breite, materialien, höhe=0.10, fall=None, schritt=0.055, ab=0.0, bis=9,
+                 streuung=0.25, spitze=0.15, seite=None, saat=1):
         """n Strähnen, deren Wurzeln über die Kopfhaut verteilt sind und die dem Feld fluss(p, zufall) folgen."""
         z = random.Random(self.g["nr"] * 31 + saat)
         k, i = 0, 0
@@ -60,12 +62,16 @@ class Haarkopf(Kopf):
                     nd = np.array(Vector(d) + F * schritt * 1.15)
                     d = nd / np.linalg.norm(nd)
                 else:
-                    frei = frei + Vector((ablenk.x * 0.02 - frei.x * 0.018, (0.25 - frei.y) * 0.02 + 0.012 * math.sin(u * 9 + i), -schritt * 0.9))
+                    frei = (frei
+                            + Vector((ablenk.x * 0.02 - frei.x * 0.018, (0.25 - frei.y) * 0.02
+                                      + 0.012 * math.sin(u * 9 + i), -schritt * 0.9)))
                     p = frei.copy()
                     r = Vector((p.x, p.y, 0)).normalized()
                 punkte.append(p)
                 aus.append(r)
-            rad = [breite * min(1, 0.55 + 3 * (q / (schritte - 1))) * (1 - (1 - spitze) * max(0, (q / (schritte - 1) - 0.45) / 0.55) ** 1.6) for q in range(schritte)]
+            anteile = [q / (schritte - 1) for q in range(schritte)]
+            rad = [breite * min(1, 0.55 + 3 * t) * (1 - (1 - spitze) * max(0, (t - 0.45) / 0.55) ** 1.6)
+                   for t in anteile]
             schlauch(punkte, rad, z.choice(materialien), n=14, flach=0.55, rillen=6, tief=0.10, nach_außen=aus)
             k += 1
         return k
@@ -90,7 +96,8 @@ class Haarkopf(Kopf):
                 t = q / 21
                 w = g0 + dreh * windung * 2 * math.pi * t
                 pk.append(o + (a * math.cos(w) + b * math.sin(w)) * r0 * (1 - 0.75 * t) + d * (0.10 * größe / 0.12 * t))
-            schlauch(pk, [r0 * 0.42 * (0.6 + 0.4 * math.sin(math.pi * q / 21)) for q in range(22)], z.choice(materialien), n=10, nach_außen=[d] * 22)
+            schlauch(pk, [r0 * 0.42 * (0.6 + 0.4 * math.sin(math.pi * q / 21)) for q in range(22)],
+                     z.choice(materialien), n=10, nach_außen=[d] * 22)
 
     def haarstoffe(self, farbe=None):
         f = farbe or self.g["haarfarbe"]
@@ -107,16 +114,19 @@ class Haarkopf(Kopf):
         m = np.minimum(oberkante - Z, 0.22 - Y) / 0.10
         m = np.minimum(m, (np.hypot(X / (self.mund_b + 0.05), (Z - self.mund_z) / 0.16) - 1) * 2.2)
         n = p / np.linalg.norm(p, axis=1)[:, None]
-        dick = dicke * np.sqrt(np.clip(m, 0, 1)) * (0.75 + 0.55 * weich(-0.5, -1.0, Z)) + 0.012 * np.sin(rillen * np.arctan2(X, -Y)) * np.clip(m, 0, 1)
+        dick = (dicke * np.sqrt(np.clip(m, 0, 1)) * (0.75 + 0.55 * weich(-0.5, -1.0, Z))
+                + 0.012 * np.sin(rillen * np.arctan2(X, -Y)) * np.clip(m, 0, 1))
         q = p + n * dick[:, None]
         netz(q, [k for k in f if all(m[i] > -0.15 for i in k)], material)
 
-    def schnurrbart(self, material, breit=0.34, dick=0.07, haengt=0.05, hoch=0.0):
+    def schnurrbart(self, material, breit=0.34, dick=0.07, hängt=0.05, hoch=0.0):
         z = self.mund_z + 0.135
         for s in (-1, 1):
             t = np.linspace(0, 1, 18)
-            mitte = [(s * (0.012 + breit * q), z - haengt * q * q + hoch * max(0, q - 0.6) ** 2 * 2.2 + 0.015 * math.sin(3 * q)) for q in t]
-            self.raupe(mitte, [0.012 + dick * math.sin(math.pi * min(1, 0.22 + 0.78 * q)) ** 0.8 for q in t], 0.085, material)
+            mitte = [(s * (0.012 + breit * q), z - hängt * q * q + hoch * max(0, q - 0.6) ** 2 * 2.2
+                      + 0.015 * math.sin(3 * q)) for q in t]
+            self.raupe(mitte, [0.012 + dick * math.sin(math.pi * min(1, 0.22 + 0.78 * q)) ** 0.8 for q in t], 0.085,
+                       material)
 
 
 def frisieren(k):
@@ -124,13 +134,16 @@ def frisieren(k):
     if f in ("keine", "glatze"):
         return
     st = k.haarstoffe()
-    scheitel = lambda xp, runter=-0.55, vor=0.0: (lambda p, z: ((1 if p.x > xp else -1) * 1.0, -vor if p.y < 0 else 0.5, runter))
+    scheitel = lambda xp, runter=-0.55, vor=0.0: (lambda p,
+                                                  z: ((1 if p.x > xp else -1) * 1.0, -vor if p.y < 0 else 0.5, runter))
     if f == "zurück":
         k.kappe(0.10, st[0])
-        k.strähnen(230, lambda p, z: (0.5 * p.x, 1.0, 0.45 if p.y < -0.2 else -0.5), 0.85, 0.062, st, 0.15, streuung=0.14)
+        k.strähnen(230, lambda p, z: (0.5 * p.x, 1.0, 0.45 if p.y < -0.2 else -0.5), 0.85, 0.062, st, 0.15,
+                   streuung=0.14)
     elif f == "pomade":
         k.kappe(0.11, st[0], tief=0.0)
-        k.strähnen(230, lambda p, z: (0.35 * p.x + 0.25, 1.0, 0.5 if p.y < -0.2 else -0.6), 0.95, 0.060, st, 0.17, streuung=0.06)
+        k.strähnen(230, lambda p, z: (0.35 * p.x + 0.25, 1.0, 0.5 if p.y < -0.2 else -0.6), 0.95, 0.060, st, 0.17,
+                   streuung=0.06)
     elif f == "afro":
         k.kappe(0.30, st[0])
         k.locken(250, 0.15, st, höhe=0.42, ab=0.06)
@@ -150,36 +163,51 @@ def frisieren(k):
         k.strähnen(130, lambda p, z: (0.5 * p.x + 0.15, 0.25, -0.9), 0.32, 0.085, st, 0.09, bis=0.55, streuung=0.2)
         for i in range(64):
             a, q = i * 2.39996, math.sqrt((i + 0.5) / 64) * 0.92
-            d = Vector((q * math.sin(a) * 0.95, -q * math.cos(a) * 0.95 + 0.02, math.sqrt(max(0.05, 1 - q * q)))).normalized()
+            d = Vector((q * math.sin(a) * 0.95, -q * math.cos(a) * 0.95 + 0.02,
+                        math.sqrt(max(0.05, 1 - q * q)))).normalized()
             if k.maske(np.array(d)[None])[0] < 0.02:
                 continue
             o = Vector(k.hülle(np.array(d)[None], 0.04)[0])
             hin = (d + Vector((0.25, -0.55, 0.35)) + Vector((z.gauss(0, .16), z.gauss(0, .12), 0))).normalized()
             pk = [o + d * 0.10 * t + hin * 0.34 * t ** 1.2 for t in np.linspace(0, 1, 8)]
-            schlauch(pk, [0.125 * (1 - t) ** 0.75 + 0.004 for t in np.linspace(0, 1, 8)], z.choice(st), n=12, flach=0.7, rillen=5, tief=0.10)
+            schlauch(pk, [0.125 * (1 - t) ** 0.75 + 0.004 for t in np.linspace(0, 1, 8)], z.choice(st), n=12,
+                     flach=0.7, rillen=5, tief=0.10)
     elif f == "dutt":
         k.kappe(0.13, st[0])
         ziel = Vector((0, 0.10, 1.15))
         k.strähnen(130, lambda p, z: (ziel - p), 1.0, 0.095, st, 0.17, streuung=0.08)
         for i in range(9):
             w = i * 2 * math.pi / 9
-            pk = [Vector((0.24 * math.cos(w + 2.4 * t) * math.sin(math.pi * (0.18 + 0.8 * t)), 0.10 + 0.24 * math.sin(w + 2.4 * t) * math.sin(math.pi * (0.18 + 0.8 * t)), 1.10 + 0.36 * t)) * 1.0 for t in np.linspace(0, 1, 14)]
-            schlauch(pk, [0.12 * (1 - 0.5 * abs(2 * t - 1)) for t in np.linspace(0, 1, 14)], st[i % 3], n=12, rillen=5, tief=0.08, flach=0.8)
+            pk = [Vector((0.24 * math.cos(w + 2.4 * t) * math.sin(math.pi * (0.18 + 0.8 * t)),
+                          0.10 + 0.24 * math.sin(w + 2.4 * t) * math.sin(math.pi * (0.18 + 0.8 * t)),
+                          1.10 + 0.36 * t)) * 1.0 for t in np.linspace(0, 1, 14)]
+            schlauch(pk, [0.12 * (1 - 0.5 * abs(2 * t - 1)) for t in np.linspace(0, 1, 14)], st[i % 3], n=12, rillen=5,
+                     tief=0.08, flach=0.8)
         ball(0.27, (0, 0.10, 1.25), st[0])
     elif f in ("lang", "wellen", "surfer", "zopf", "pagenkopf"):
         xp = {"lang": 0.0, "wellen": 0.22, "surfer": -0.15, "zopf": 0.0, "pagenkopf": 0.0}[f]
         k.kappe(0.13, st[0])
         länge = {"lang": 2.3, "wellen": 1.9, "surfer": 1.0, "zopf": 1.0, "pagenkopf": 1.15}[f]
-        fluss = lambda p, z: ((1 if p.x > xp else -1) * (1.0 if p.z > 0.2 else 0.25), 0.35 if p.y < 0.1 else 0.05, -0.45 if p.z > 0.4 else -1.0)
+        fluss = lambda p, z: ((1 if p.x > xp else -1) * (1.0 if p.z > 0.2 else 0.25), 0.35 if p.y < 0.1 else 0.05,
+                              -0.45 if p.z > 0.4 else -1.0)
         if f == "zopf":
-            k.strähnen(130, lambda p, z: ((1 if p.x > 0 else -1) * (0.9 if p.z > 0.3 else 0.1), 0.75, -0.45), 1.25, 0.095, st, 0.13, streuung=0.06)
+            k.strähnen(130, lambda p, z: ((1 if p.x > 0 else -1) * (0.9 if p.z > 0.3 else 0.1), 0.75, -0.45), 1.25,
+                       0.095, st, 0.13, streuung=0.06)
             for i in range(9):      # geflochten über die Schulter
                 for s in (-1, 1):
-                    ball(0.15, (0.62 + 0.05 * math.sin(i) + s * 0.055, -0.18 - 0.05 * i + 0.02, -0.62 - 0.17 * i - (0.085 if s > 0 else 0)), st[(i + (s > 0)) % 3], mass=(0.72, 0.8, 0.95), drehung=(0, s * 0.7, 0), n=16)
-            ball(0.13, (0.66, -0.64, -2.16), matt("#f0b83c", 0.5), mass=(0.8, 0.8, 0.5), n=16)
+                    ball(0.15,
+                         (0.62 + 0.05 * math.sin(i) + s * 0.055, -0.18 - 0.05 * i + 0.02,
+                          -0.62 - 0.17 * i - (0.085 if s > 0 else 0)), st[(i + (s > 0)) % 3], maß=(0.72, 0.8, 0.95),
+                         drehung=(0, s * 0.7, 0), n=16)
+            ball(0.13, (0.66, -0.64, -2.16), matt("#f0b83c", 0.5), maß=(0.8, 0.8, 0.5), n=16)
         else:
-            k.strähnen(190 if f != "surfer" else 150, fluss, länge, 0.105 if f != "pagenkopf" else 0.10, st, 0.16, fall=-0.12 if f != "pagenkopf" else -0.35, streuung={"lang": 0.12, "wellen": 0.35, "surfer": 0.35, "pagenkopf": 0.05}[f], spitze=0.12 if f != "pagenkopf" else 0.5)
+            k.strähnen(190 if f != "surfer" else 150, fluss, länge, 0.105 if f != "pagenkopf" else 0.10, st, 0.16,
+                       fall=-0.12 if f != "pagenkopf" else -0.35,
+                       streuung={"lang": 0.12, "wellen": 0.35, "surfer": 0.35, "pagenkopf": 0.05}[f], spitze=0.12
+                       if f != "pagenkopf" else 0.5)
         if f == "pagenkopf":
-            k.strähnen(60, lambda p, z: (0.05 * p.x, -1.0, -0.5), 0.62, 0.09, st, 0.15, seite=lambda d: d[1] < 0.1 and d[2] > 0.45, streuung=0.05, spitze=0.45, saat=7)
+            k.strähnen(60, lambda p, z: (0.05 * p.x, -1.0, -0.5), 0.62, 0.09, st, 0.15, seite=lambda d: d[1] < 0.1
+                       and d[2] > 0.45, streuung=0.05, spitze=0.45, saat=7)
         if f in ("wellen", "lang"):
-            k.strähnen(34, lambda p, z: ((1 if p.x > xp else -1) * 1.0, -0.35, -0.35), 0.95, 0.10, st, 0.18, seite=lambda d: d[1] < -0.15 and d[2] > 0.40, streuung=0.15, saat=9)
+            k.strähnen(34, lambda p, z: ((1 if p.x > xp else -1) * 1.0, -0.35, -0.35), 0.95, 0.10, st, 0.18,
+                       seite=lambda d: d[1] < -0.15 and d[2] > 0.40, streuung=0.15, saat=9)

@@ -24,7 +24,7 @@ class Kopf:
         self.haut = matt(g["haut"], 0.46, 0.4, ton="ton")
         self.bauen()
 
-    # --- Form des Schädels -------------------------------------------------------------------------------------------
+    # --- Form des Schädels
     def form(self, d):
         """Punkt der Haut zur Richtung d (n mal 3)."""
         g = self.g
@@ -47,7 +47,8 @@ class Kopf:
         h += 0.30 * nh * rücken * glocke(X, 0.095 * nb) * weich(0.2, tip, Z) ** 0.8
         h += 0.15 * nh * glocke(np.hypot(X, (Z - tip)), 0.115 * nb)
         h += 0.10 * nh * glocke(np.hypot(A - 0.115 * nb, (Z - tip + 0.035)), 0.062 * nb)
-        h -= 0.028 * g["alter"] * glocke(A - 0.30 - 0.22 * (tip - Z), 0.030) * weich(tip + 0.1, tip - .05, Z) * weich(-0.70, -0.55, Z)
+        h -= 0.028 * g["alter"] * glocke(A - 0.30 - 0.22 * (tip - Z),
+                                         0.030) * weich(tip + 0.1, tip - .05, Z) * weich(-0.70, -0.55, Z)
         m = self.mund_z
         h += 0.035 * glocke(np.hypot(X * 0.7, Z - m), 0.16)                                # Mundhügel
         h -= 0.030 * glocke(Z - (m - 0.19), 0.05) * glocke(X, 0.20)
@@ -108,17 +109,19 @@ class Kopf:
         vorn = (Y < 0)
         f = np.tile(grund, (len(co), 1))
         tip = -0.05 - 0.24 * g["nase"][0]
-        r = np.clip(0.62 * g["rot"] * glocke(np.hypot(A - 0.44, Z + 0.30), 0.20) + 0.42 * g["rot"] * glocke(np.hypot(X, Z - tip), 0.15), 0, 1) * vorn
+        r = (np.clip(0.62 * g["rot"] * glocke(np.hypot(A - 0.44, Z + 0.30), 0.20)
+                     + 0.42 * g["rot"] * glocke(np.hypot(X, Z - tip), 0.15), 0, 1) * vorn)
         f = f * (1 - r[:, None]) + rosig * r[:, None]
         s = 0.42 * glocke(np.hypot(A - g["augab"], Z - 0.06), 0.17) * vorn
         f = f * (1 - s[:, None]) + tief * s[:, None]
         if g.get("stoppeln"):
-            b = g["stoppeln"] * np.maximum(weich(-0.32, -0.55, Z) * weich(0.0, -0.3, Y - 0.35), 0) * (1 - 0.8 * glocke(np.hypot(X * .8, Z - self.mund_z), 0.12))
+            b = (g["stoppeln"] * np.maximum(weich(-0.32, -0.55, Z) * weich(0.0, -0.3, Y - 0.35),
+                                            0) * (1 - 0.8 * glocke(np.hypot(X * .8, Z - self.mund_z), 0.12)))
             dunkel = grund * 0.35 + np.array(rgb(g["haarfarbe"])) * 0.3
             f = f * (1 - b[:, None]) + dunkel * b[:, None]
         färbe(m, f)
 
-    # --- Auflegen auf die Haut -----------------------------------------------------------------------------------------
+    # --- Auflegen auf die Haut
     def treffer(self, x, z):
         o, n, _, _ = self.baum.ray_cast(Vector((x, -4, z)), Vector((0, 1, 0)))
         if not o:
@@ -149,7 +152,7 @@ class Kopf:
             rechts.append((x + dz / q * breiten[i], z - dx / q * breiten[i]))
         return self.band(links, rechts, dicke, material, über=über)
 
-    # --- Teile ---------------------------------------------------------------------------------------------------------
+    # --- Teile
     def ohr(self, s):
         g = self.g
         p, n, m = [], 40, 28
@@ -189,7 +192,8 @@ class Kopf:
         # Wimpern folgen der Lidkante
         kante = [self.lidpunkt(s, mitte, r * 1.105, oben, w, 0.10 * s) for w in np.linspace(-66, 66, 25)]
         dick = g["wimpern"]
-        schlauch(kante, [0.008 + dick * (0.022 + 0.016 * (s * w / 66)) * math.cos(math.radians(w * 1.3)) for w in np.linspace(-66, 66, 25)],
+        schlauch(kante, [0.008 + dick * (0.022 + 0.016 * (s * w / 66)) * math.cos(math.radians(w * 1.3))
+                         for w in np.linspace(-66, 66, 25)],
                  matt(g.get("wimpernfarbe", "#2a1710"), 0.5), flach=0.6)
 
     def augapfel(self, r, ort):
@@ -219,7 +223,8 @@ class Kopf:
                 h = von + (bis - von) * i / (n - 1)
                 rr = r * (1 - 0.05 * (1 - min(1, i / 1.5)))
                 p.append(self.lidpunkt(s, mitte, rr, h, -90 + 180 * j / (m - 1), kipp))
-        f = np.array(rgb(self.g.get("lidschatten") or self.g["haut"])) * (1 if self.g.get("lidschatten") and von > 0 else 0.92)
+        schatten = self.g.get("lidschatten")
+        f = np.array(rgb(schatten or self.g["haut"])) * (1 if schatten and von > 0 else 0.92)
         if von < 0:
             f = np.array(rgb(self.g["haut"])) * np.array([0.97, 0.86, 0.84])
         netz(p, gitter(n, m), self.haut, farben=[f] * len(p))
@@ -227,10 +232,12 @@ class Kopf:
     def braue(self, s):
         g = self.g
         dick, bogen, schräg, hoch = g["braue"]
-        m = matt(g.get("brauenfarbe", g["haarfarbe"]), 0.7, 0.2, korn=0.6, kornmass=40)
+        m = matt(g.get("brauenfarbe", g["haarfarbe"]), 0.7, 0.2, korn=0.6, kornmaß=40)
         ab = g["augab"]
-        mitte = [(s * (ab - 0.19 + 0.42 * t), 0.29 + 0.05 * hoch + bogen * 0.09 * math.sin(math.pi * min(1, t * 1.05)) + schräg * 0.10 * (t - 0.5)) for t in np.linspace(0, 1, 18)]
-        self.raupe(mitte, [0.010 + 0.040 * dick * (1 - 0.65 * t) * min(1, 0.55 + 3 * t) for t in np.linspace(0, 1, 18)], 0.035 * (0.6 + 0.5 * dick), m)
+        mitte = [(s * (ab - 0.19 + 0.42 * t), 0.29 + 0.05 * hoch + bogen * 0.09 * math.sin(math.pi * min(1, t * 1.05))
+                  + schräg * 0.10 * (t - 0.5)) for t in np.linspace(0, 1, 18)]
+        self.raupe(mitte, [0.010 + 0.040 * dick * (1 - 0.65 * t) * min(1, 0.55 + 3 * t)
+                           for t in np.linspace(0, 1, 18)], 0.035 * (0.6 + 0.5 * dick), m)
 
     def mund(self):
         g = self.g
@@ -251,10 +258,17 @@ class Kopf:
             zu = [(0.10 * t + 0.0, z0 - 0.085 * lächeln - 0.02 + 0.02 * bogen(t)) for t in u]
             zw = [(0.12 * t, z0 - 0.105 * lächeln - 0.04 * bogen(t)) for t in u]
             self.band(zu, zw, 0.012, matt("#c4574f", 0.4), über=0.020)
-            self.raupe([(x * 1.04, z + 0.016) for x, z in oben], [0.008 + 0.026 * voll * bogen(t) * (1 - 0.25 * math.exp(-(t / 0.12) ** 2)) for t in u], 0.045, lippe, 0.0)
-            self.raupe([(x * 1.0, z - 0.016) for x, z in unten], [0.006 + 0.034 * voll * bogen(t) for t in u], 0.05, lippe, 0.0)
+            self.raupe([(x * 1.04, z + 0.016) for x, z in oben],
+                       [0.008 + 0.026 * voll * bogen(t) * (1 - 0.25 * math.exp(-(t / 0.12) ** 2)) for t in u], 0.045,
+                       lippe, 0.0)
+            self.raupe([(x * 1.0, z - 0.016) for x, z in unten], [0.006 + 0.034 * voll * bogen(t) for t in u], 0.05,
+                       lippe, 0.0)
         else:
             spalt = matt("#4c1a14", 0.6)
-            self.raupe([(b * t, linie(t) + 0.026 * voll * bogen(t)) for t in u], [0.006 + 0.030 * voll * bogen(t) * (1 - 0.3 * math.exp(-(t / 0.14) ** 2)) for t in u], 0.045, lippe)
-            self.raupe([(0.92 * b * t, linie(t) - 0.036 * voll * bogen(t)) for t in u], [0.005 + 0.038 * voll * bogen(t) for t in u], 0.058, lippe)
-            self.raupe([(b * 1.10 * t, linie(t * 1.05)) for t in u], [0.004 + 0.008 * bogen(t) for t in u], 0.030, spalt, 0.012)
+            self.raupe([(b * t, linie(t) + 0.026 * voll * bogen(t)) for t in u],
+                       [0.006 + 0.030 * voll * bogen(t) * (1 - 0.3 * math.exp(-(t / 0.14) ** 2)) for t in u], 0.045,
+                       lippe)
+            self.raupe([(0.92 * b * t, linie(t) - 0.036 * voll * bogen(t)) for t in u],
+                       [0.005 + 0.038 * voll * bogen(t) for t in u], 0.058, lippe)
+            self.raupe([(b * 1.10 * t, linie(t * 1.05)) for t in u], [0.004 + 0.008 * bogen(t) for t in u], 0.030,
+                       spalt, 0.012)

@@ -17,14 +17,17 @@ def kippe(o, grad=90, achse="X"):
 def umriss(b, t, ecke=4.0, x=0.0, y=0.0, teile=6):
     """Rechteck mit runden Ecken, von y an nach hinten."""
     p = []
-    for mx, my, w in ((b / 2 - ecke, ecke, 270), (b / 2 - ecke, t - ecke, 0), (-b / 2 + ecke, t - ecke, 90), (-b / 2 + ecke, ecke, 180)):
-        p += [(x + mx + ecke * math.cos(math.radians(w + 90 * i / teile)), y + my + ecke * math.sin(math.radians(w + 90 * i / teile)))
+    for mx, my, w in ((b / 2 - ecke, ecke, 270), (b / 2 - ecke, t - ecke, 0), (-b / 2 + ecke, t - ecke, 90),
+                      (-b / 2 + ecke, ecke, 180)):
+        p += [(x + mx + ecke * math.cos(math.radians(w + 90 * i / teile)),
+               y + my + ecke * math.sin(math.radians(w + 90 * i / teile)))
               for i in range(teile + 1)]
     return p
 
 
 def kreis(x, y, r, quer=1.0, teile=32):
-    return [(x + r * math.cos(2 * math.pi * i / teile), y + r * quer * math.sin(2 * math.pi * i / teile)) for i in range(teile)]
+    return [(x + r * math.cos(2 * math.pi * i / teile), y + r * quer * math.sin(2 * math.pi * i / teile))
+            for i in range(teile)]
 
 
 def boden(b, t, stoff_, y=0.6, x=0.0, ecke=5.0, dick=0.25):
@@ -33,11 +36,11 @@ def boden(b, t, stoff_, y=0.6, x=0.0, ecke=5.0, dick=0.25):
 
 
 def erde(farbe):
-    return stoff(farbe, rau=.95, glanz=.08, fleck=.14, fleckmass=.09, korn=.5, kornmass=1.0)
+    return stoff(farbe, rau=.95, glanz=.08, fleck=.14, fleckmaß=.09, korn=.5, kornmaß=1.0)
 
 
-def wellblech(farbe, mass=2.2):
-    return stoff(farbe, rau=.4, glanz=.5, fleck=.06, muster=("ziegel", mass, 400, .08), musterhub=.9)
+def wellblech(farbe, maß=2.2):
+    return stoff(farbe, rau=.4, glanz=.5, fleck=.06, muster=("ziegel", maß, 400, .08), musterhub=.9)
 
 
 # ---------------------------------------------------------------- Häuser, Türme
@@ -50,7 +53,8 @@ def haus(x, y, z, b, t, h, stoff_, reihen=(), drehung=0.0, rund=.5, tun=None):
             breite = b if seite == "s" else t
             with wand(0, 0, b, t, seite):
                 for hoch, achse, fb, fh, *mehr in reihen:
-                    fensterreihe(hoch, breite - 1.5, max(1, round((breite - 1.5) / achse)), fb, fh, **(mehr[0] if mehr else {}))
+                    fensterreihe(hoch, breite - 1.5, max(1, round((breite - 1.5) / achse)), fb, fh,
+                                 **(mehr[0] if mehr else {}))
                 if tun and seite == "s":
                     tun()
 
@@ -65,15 +69,16 @@ def rundfenster(x, y, z, r, winkel, b, h, **wie):
 def kegeldach(x, y, z, r, h, stoff_, knauf="gold", über=1.2, seiten=32):
     """Spitzes Turmdach mit leichtem Schwung."""
     R = r + über
-    drehkörper(x, y, z, [(R * .9, -.8), (R, 0), (R * .78, h * .16), (R * .5, h * .45), (R * .22, h * .77), (.05, h)], stoff_, seiten)
+    drehkörper(x, y, z, [(R * .9, -.8), (R, 0), (R * .78, h * .16), (R * .5, h * .45), (R * .22, h * .77), (.05, h)],
+               stoff_, seiten)
     if knauf:
         spitze(x, y, z + h - 1.2, .9, metall(knauf))
 
 
-def zinnenring(x, y, z, r, stoff_, zahl=10, mass=2.0):
+def zinnenring(x, y, z, r, stoff_, zahl=10, maß=2.0):
     for i in range(zahl):
         with bei(x, y, z, 360 * (i + .5) / zahl):
-            quader(0, -r, 0, mass, mass * .8, mass, stoff_, .25)
+            quader(0, -r, 0, maß, maß * .8, maß, stoff_, .25)
 
 
 def wimpel(x, y, z, hoch, farben=("rot",), b=6.0, h=3.6, drehung=-12.0):
@@ -83,7 +88,8 @@ def wimpel(x, y, z, hoch, farben=("rot",), b=6.0, h=3.6, drehung=-12.0):
 
 def stern(r, dick, stoff_, z=0.0, zacken=5, innen=.42):
     """Liegender Stern um den Ursprung, Spitze nach hinten; mit `kippe` aufrichten."""
-    p = [((innen if i % 2 else 1) * r * math.sin(math.pi * i / zacken), (innen if i % 2 else 1) * r * math.cos(math.pi * i / zacken))
+    p = [((innen if i % 2 else 1) * r * math.sin(math.pi * i / zacken),
+          (innen if i % 2 else 1) * r * math.cos(math.pi * i / zacken))
          for i in range(2 * zacken)]
     return prisma(p, z, dick, stoff_, .25)
 
@@ -101,7 +107,7 @@ def rechteckprofil(x, y, z, b, t, profil, stoff_, rund=.25, drehung=0.0):
     return objekt("Rechteckprofil", netz_aus(p, f), stoff_, lage(x, y, z, drehung), rund)
 
 
-def mansarde(x, y, z, b, t, h, stoff_, gauben=0, einzug=None, sims="weiß", first="gold", gaubenmass=1.0):
+def mansarde(x, y, z, b, t, h, stoff_, gauben=0, einzug=None, sims="weiß", first="gold", gaubenmaß=1.0):
     """Mansarddach: Traufsims, steile geschweifte Seiten, flacher Deckel, Gauben vorn."""
     e = einzug or h * .34
     quader(x, y, z - .8, b + 2.4, t + 2.4, 1.6, sims, .4)
@@ -111,10 +117,10 @@ def mansarde(x, y, z, b, t, h, stoff_, gauben=0, einzug=None, sims="weiß", firs
     if first:
         for s in (-1, 1):
             spitze(x + s * (b / 2 - e), y - t / 2 + e, z + h + 1, .7, metall(first))
-    m = gaubenmass
+    m = gaubenmaß
     for i in range(gauben):
         gx = x - b / 2 + e * .5 + (b - e) * (i + .5) / gauben
-        with bei(gx, y - t / 2 + e * .36, z + h * .12, mass=m):
+        with bei(gx, y - t / 2 + e * .36, z + h * .12, maß=m):
             quader(0, 1.5, 0, 4.6, 5, 5.2, sims, .3)
             with bei(0, -1.0):
                 fenster(0, .8, 2.8, 4.2, rahmen="creme", bogen=True, sprossen=(1, 0), sims=False, rand=.4)
@@ -137,6 +143,7 @@ def überstand(teile, rechteck):
         me.vertices.foreach_get("co", p)
         p = np.c_[p.reshape(n, 3), np.ones(n)] @ np.array(o.matrix_world).T
         u, v = p[:, 0], -(p[:, 1] + p[:, 2]) / TIEFE
-        weit = [max(a, b) for a, b in zip(weit, (links - u.min(), oben - v.min(), u.max() - links - breite, v.max() - oben - höhe))]
+        weit = [max(a, b) for a, b in zip(weit, (links - u.min(), oben - v.min(), u.max() - links - breite,
+                                                 v.max() - oben - höhe))]
         e.to_mesh_clear()
     return weit

@@ -7,8 +7,10 @@ ERDE, FELS, BLECH, WAND = "#b4603a", "#b5492a", "#4fa093", "#f6e3b4"
 def bumerang(x, y, z, weit, dick=2.2):
     """Großer bemalter Bumerang als Zeichen, nach hinten gelehnt."""
     w = weit / 2
-    außen = glätten([(-w, -.30 * weit), (-.62 * w, .02 * weit), (0, .34 * weit), (.62 * w, .02 * weit), (w, -.30 * weit)], 6, zu=False)
-    innen = glätten([(.74 * w, -.34 * weit), (.40 * w, -.06 * weit), (0, .08 * weit), (-.40 * w, -.06 * weit), (-.74 * w, -.34 * weit)], 6, zu=False)
+    außen = glätten([(-w, -.30 * weit), (-.62 * w, .02 * weit), (0, .34 * weit), (.62 * w, .02 * weit),
+                     (w, -.30 * weit)], 6, zu=False)
+    innen = glätten([(.74 * w, -.34 * weit), (.40 * w, -.06 * weit), (0, .08 * weit), (-.40 * w, -.06 * weit),
+                     (-.74 * w, -.34 * weit)], 6, zu=False)
     with bei(x, y, z):
         p = außen + innen
         kippe(prisma(p, -dick / 2, dick, "#f6b52a", .5), 62)
@@ -27,12 +29,15 @@ def windrad(x, y, z, hoch, r):
             rohr([(x + sx * 4.5, y + sy * 4.5, z), (x + sx * .8, y + sy * .8, z + hoch)], .55, "#e9e4d8")
     for k in range(1, 5):
         w = 4.5 + (.8 - 4.5) * k / 5
-        rohr([(x - w, y - w, z + hoch * k / 5), (x + w, y - w, z + hoch * k / 5), (x + w, y + w, z + hoch * k / 5), (x - w, y + w, z + hoch * k / 5)], .35, "#e9e4d8", zu=True)
+        rohr([(x - w, y - w, z + hoch * k / 5), (x + w, y - w, z + hoch * k / 5), (x + w, y + w, z + hoch * k / 5),
+              (x - w, y + w, z + hoch * k / 5)], .35, "#e9e4d8", zu=True)
     with bei(x, y - 2, z + hoch):
         for i in range(10):
             a = 2 * math.pi * i / 10
-            lege(quader(0, 0, 0, r * .36, .5, r * .74, "weiß" if i % 2 else "rot", .15), Matrix.Rotation(a, 4, "Y") @ schub(0, 0, r * .22) @ dreh(22, "Z"))
-        rohr([(.96 * r * math.cos(2 * math.pi * i / 24), 0, .96 * r * math.sin(2 * math.pi * i / 24)) for i in range(24)], .4, "#d8d2c4", zu=True)
+            lege(quader(0, 0, 0, r * .36, .5, r * .74, "weiß" if i % 2 else "rot", .15), Matrix.Rotation(a, 4, "Y")
+                 @ schub(0, 0, r * .22) @ dreh(22, "Z"))
+        rohr([(.96 * r * math.cos(2 * math.pi * i / 24), 0, .96 * r * math.sin(2 * math.pi * i / 24))
+              for i in range(24)], .4, "#d8d2c4", zu=True)
         kugel(0, -.6, 0, 1.5, "gelb")
         quader(0, 6, -2.2, .6, 5, 4.4, "rot", .2)
 
@@ -43,9 +48,11 @@ def fels(x, y, b, t, h, farbe=FELS):
     bmesh.ops.create_icosphere(bm, subdivisions=5, radius=1)
     for v in bm.verts:
         d = v.co.copy()
-        rippe = .05 * math.sin(d.x * 13 + 2 * noise.noise(d * 2)) * (1 - max(0, d.z)) + .10 * noise.noise(d * 1.6 + Vector((3, 1, 0)))
-        v.co = Vector((d.x * b / 2 * (1 + rippe), d.y * t / 2 * (1 + rippe), max(0, d.z) ** .55 * h * (1 + .8 * rippe) if d.z > 0 else -.2))
-    aus_bmesh(bm, stoff(farbe, rau=.85, glanz=.1, fleck=.20, fleckmass=.10, korn=.5, kornmass=.5), lage(x, y), glatt=True)
+        rippe = (.05 * math.sin(d.x * 13 + 2 * noise.noise(d * 2)) * (1 - max(0, d.z))
+                 + .10 * noise.noise(d * 1.6 + Vector((3, 1, 0))))
+        v.co = Vector((d.x * b / 2 * (1 + rippe), d.y * t / 2 * (1 + rippe), max(0, d.z) ** .55 * h * (1 + .8 * rippe)
+                       if d.z > 0 else -.2))
+    aus_bmesh(bm, stoff(farbe, rau=.85, glanz=.1, fleck=.20, fleckmaß=.10, korn=.5, kornmaß=.5), lage(x, y), glatt=True)
 
 
 def tank(x, y, r, h):
@@ -64,9 +71,9 @@ def boom():
     fels(34, 103, 34, 26, 19, "#c1552f")
     windrad(-38, 84, 0, 56, 12.5)
     tank(40, 76, 7.5, 15)
-    eukalyptus(-23, 90, mass=1.5)
-    eukalyptus(43, 92, mass=1.1)
-    eukalyptus(-44, 62, mass=1.0)
+    eukalyptus(-23, 90, maß=1.5)
+    eukalyptus(43, 92, maß=1.1)
+    eukalyptus(-44, 62, maß=1.0)
     # Deck und Veranda
     quader(0, 42, 0, 88, 54, 4, holz("#c08a52"), .5)
     for i in range(3):
@@ -93,9 +100,9 @@ def boom():
     wimpel(-30, 50, 30, 20, ("#20408a", "weiß", "rot"), 8, 5)
     # Vorplatz
     for x, y, m in ((-46, 10, 1.0), (47, 8, 1.1), (-30, 6, .8)):
-        grasbüschel(x, y, mass=1.4 * m, farbe="#b9a347")
-    busch(38, 8, mass=1.1, farbe="#8a9a4a", blüten="gelb")
-    busch(-38, 7, mass=1.2, farbe="#8a9a4a", blüten="rot")
+        grasbüschel(x, y, maß=1.4 * m, farbe="#b9a347")
+    busch(38, 8, maß=1.1, farbe="#8a9a4a", blüten="gelb")
+    busch(-38, 7, maß=1.2, farbe="#8a9a4a", blüten="rot")
     steine(-20, 5, 5, 5, 1.8, FELS)
     steine(24, 6, 5, 5, 1.8, FELS)
     schirm(-27, 9, 0, 6, 8, ("#f6b52a", "#c8392f"))
@@ -104,10 +111,11 @@ def boom():
 
 def boomp():
     boden(73, 34, erde(ERDE), ecke=8)
-    becken(glätten([(-22, 8), (-4, 6), (8, 11), (20, 9), (24, 18), (8, 23), (-8, 20), (-24, 20)], 6), .5, stein("#e0b184"), 2.4, "#2fc0d4", 1.2)
+    becken(glätten([(-22, 8), (-4, 6), (8, 11), (20, 9), (24, 18), (8, 23), (-8, 20), (-24, 20)], 6), .5,
+           stein("#e0b184"), 2.4, "#2fc0d4", 1.2)
     steine(26, 24, 6, 4, 2.4, FELS)
-    eukalyptus(-31, 23, mass=.72)
-    eukalyptus(31, 14, mass=.68)
+    eukalyptus(-31, 23, maß=.72)
+    eukalyptus(31, 14, maß=.68)
     schirm(-29, 9, .6, 5.2, 7, ("#f6b52a", "#c8392f"))
     liege(-33, 5, .6)
     liege(-26, 5, .6)
@@ -115,8 +123,8 @@ def boomp():
     liege(2, 27, .6)
     liege(14, 27, .6)
     bumerang(-10, 28, 5, 15, 1.6)
-    busch(33, 4, mass=.9, farbe="#8a9a4a", blüten="gelb")
-    grasbüschel(24, 5, mass=1.3, farbe="#b9a347")
+    busch(33, 4, maß=.9, farbe="#8a9a4a", blüten="gelb")
+    grasbüschel(24, 5, maß=1.3, farbe="#b9a347")
 
 
 STUFEN = dict(boom=boom, boomp=boomp)

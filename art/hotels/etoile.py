@@ -44,7 +44,9 @@ def kuppelhaube(x, y, z, b, t, h, gaube=True):
     """Bauchige Haube über quadratischem Grundriss, mit Gold gefasst."""
     quader(x, y, z - .8, b + 2.6, t + 2.6, 1.8, SIMS, .4)
     e = min(b, t) / 2
-    rechteckprofil(x, y, z + .8, b, t, [(0, 0), (-.04 * e, h * .18), (.10 * e, h * .42), (.32 * e, h * .66), (.62 * e, h * .87), (.80 * e, h)], _dach(), .3)
+    rechteckprofil(x, y, z + .8, b, t,
+                   [(0, 0), (-.04 * e, h * .18), (.10 * e, h * .42), (.32 * e, h * .66), (.62 * e, h * .87),
+                    (.80 * e, h)], _dach(), .3)
     quader(x, y, z + .6 + h, b - 1.6 * e + 1, t - 1.6 * e + 1, 1.2, metall("gold"), .3)
     if gaube:
         with bei(x, y - t / 2 - .4, z + h * .10):
@@ -135,7 +137,8 @@ def letn2():
     for z in (12.4, 21.4):
         rundfenster(x, y, z, r, (-48, 0, 48), 3.2, 5.4, **HOCH)
     rundfenster(x, y, 29.8, r, (-48, -16, 16, 48), 2.2, 2.6, rahmen=SIMS, sprossen=(0, 0), sims=False)
-    drehkörper(x, y, 34.6, [(r * 1.08, 0), (r * 1.08, 1), (r, 1.4), (r * .98, 4), (r * .82, 8), (r * .5, 11.6), (r * .22, 13.6)], _dach(), 40)
+    drehkörper(x, y, 34.6, [(r * 1.08, 0), (r * 1.08, 1), (r, 1.4), (r * .98, 4), (r * .82, 8), (r * .5, 11.6),
+                            (r * .22, 13.6)], _dach(), 40)
     drehkörper(x, y, 48, [(2.2, 0), (2.2, 1), (1.6, 1), (1.6, 3), (2.1, 3.4), (.2, 6)], metall("gold"), 20)
     sternspitze(x, y, 53, 2.6, .4)
     wimpel(8, 22, 38, 9, ("#2a4fa0", "weiß", "#c8352b"), 6, 4)
@@ -200,11 +203,15 @@ def letp():
     brunnen(-6, 17, .9, 9, SIMS)
     for i in range(8):
         a = math.pi * (i + .5) / 4
-        rohr(glätten([(-6 + 7.2 * math.cos(a), 17 + 7.2 * math.sin(a), 2.2), (-6 + 5 * math.cos(a), 17 + 5 * math.sin(a), 6), (-6 + 3.2 * math.cos(a), 17 + 3.2 * math.sin(a), 4.6)], 4, zu=False), .35, stoff("#e8f8ff", rau=.2))
+        rohr(glätten([(-6 + 7.2 * math.cos(a), 17 + 7.2 * math.sin(a), 2.2),
+                      (-6 + 5 * math.cos(a), 17 + 5 * math.sin(a), 6),
+                      (-6 + 3.2 * math.cos(a), 17 + 3.2 * math.sin(a), 4.6)], 4, zu=False), .35,
+             stoff("#e8f8ff", rau=.2))
     for sx in (-1, 1):
         for sy in (-1, 1):
             x, y = -6 + sx * 20, 17 + sy * 10
-            hecke([(x - 7.5, y - 4), (x + 7.5, y - 4), (x + 7.5, y + 4), (x - 7.5, y + 4), (x - 7.5, y - 4)], 1.7, 1.5, "#3f8a34", .6)
+            hecke([(x - 7.5, y - 4), (x + 7.5, y - 4), (x + 7.5, y + 4), (x - 7.5, y + 4), (x - 7.5, y - 4)], 1.7, 1.5,
+                  "#3f8a34", .6)
             blumenbeet(x, y, 11, 4.4, ("rosa", "weiß", "lila") if sx == sy else ("rot", "gelb", "weiß"), z=.6)
             zypresse(-6 + sx * 9.4, 17 + sy * 13.4, .6, .36)
     # Karussell

@@ -12,9 +12,9 @@ def _moos():
     return gras("#7fa646")
 
 
-def laterne_stein(x, y, z=0.0, mass=1.0):
+def laterne_stein(x, y, z=0.0, maß=1.0):
     """Steinlaterne."""
-    with bei(x, y, z, 0, mass):
+    with bei(x, y, z, 0, maß):
         st = stein("#c9c0ae")
         zylinder(0, 0, 0, 1.7, .8, st, seiten=6)
         zylinder(0, 0, .8, .8, 3, st, seiten=12)
@@ -31,15 +31,18 @@ def geschoss(x, y, z, b, t, h, felder, farbe=ROT, feld=WEISS, umgang=True):
             quader(-b / 2 + b * i / felder, -.2, 0, 1.5, 1.6, h, farbe, .25)
         for i in range(felder):
             mitte = i == felder // 2 and felder % 2
-            fenster(-b / 2 + b * (i + .5) / felder, h * .20 if not mitte else .3, b / felder * .52, h * (.46 if not mitte else .66), rahmen=farbe if mitte else "#6b3b22",
-                    scheibe=lack("#ffdf96") if not mitte else lack("#7a2a1c"), sprossen=(1, 1) if not mitte else (1, 0), sims=False, rand=.4)
+            fenster(-b / 2 + b * (i + .5) / felder, h * .20 if not mitte else .3, b / felder * .52,
+                    h * (.46 if not mitte else .66), rahmen=farbe if mitte else "#6b3b22",
+                    scheibe=lack("#ffdf96") if not mitte else lack("#7a2a1c"), sprossen=(1, 1) if not mitte
+                    else (1, 0), sims=False, rand=.4)
         quader(0, -.2, h - 1.8, b + .8, 1.8, 1.8, farbe, .25)
     if umgang:
         quader(x, y, z - .6, b + 5, t + 5, 1.0, farbe, .2)
         zaun([(x - b / 2 - 2, y - t / 2 - 2.1), (x + b / 2 + 2, y - t / 2 - 2.1)], farbe, 2.4, 2.6, z + .3, 2, .55)
 
 
-def pagode(x, y, z, b, t, stufen, hoch, dachhoch, über, schwund=.87, felder=5, farbe=ROT, dach=DACH, rand="gold", feld=WEISS):
+def pagode(x, y, z, b, t, stufen, hoch, dachhoch, über, schwund=.87, felder=5, farbe=ROT, dach=DACH, rand="gold",
+           feld=WEISS):
     """Turm aus Stockwerken; gibt die Höhe des letzten Firstes."""
     for k in range(stufen):
         f = schwund ** k
@@ -48,10 +51,13 @@ def pagode(x, y, z, b, t, stufen, hoch, dachhoch, über, schwund=.87, felder=5, 
         geschoss(x, y, z, B, T, h, max(3, felder - 2 * (k * 2 // stufen)), farbe, feld, k > 0)
         z += h
         dh = dachhoch * (1.55 if letzte else 1)
-        pagodendach(x, y, z, B, T, dh, _dach(dach), über * (1 - .06 * k), 1.25, .04 if letzte else .62, rand=metall(rand) if rand == "gold" else lack(rand))
+        pagodendach(x, y, z, B, T, dh, _dach(dach), über * (1 - .06 * k), 1.25, .04 if letzte else .62,
+                    rand=metall(rand) if rand == "gold" else lack(rand))
         for s in (-1, 1):
             e = B / 2 + über * (1 - .06 * k) * 1.1
-            rohr(glätten([(x + s * (e - 2), y - T / 2 - über * .9, z + .6), (x + s * e, y - T / 2 - über * 1.05, z + über * .5), (x + s * (e + .4), y - T / 2 - über * 1.1, z + über * .8)], 4, zu=False), .55, metall("gold"))
+            rohr(glätten([(x + s * (e - 2), y - T / 2 - über * .9, z + .6),
+                          (x + s * e, y - T / 2 - über * 1.05, z + über * .5),
+                          (x + s * (e + .4), y - T / 2 - über * 1.1, z + über * .8)], 4, zu=False), .55, metall("gold"))
         z += dh * (.78 if not letzte else 1)
     return z
 
@@ -93,10 +99,12 @@ def fujin1():
     boden(43, 40, _moos(), ecke=7)
     sockel(37, 28, 20, 19)
     z = 19.0
-    for k, (b, t, h, d) in enumerate(((32, 18, 17, 6), (28, 16, 16, 5.8), (23.5, 14, 15, 5.6), (19, 11.5, 14, 5.4), (14.5, 9.5, 13, 8.5))):
+    for k, (b, t, h, d) in enumerate(((32, 18, 17, 6), (28, 16, 16, 5.8), (23.5, 14, 15, 5.6), (19, 11.5, 14, 5.4),
+                                      (14.5, 9.5, 13, 8.5))):
         geschoss(0, 21, z, b, t, h, 5 if k < 3 else 3, "#4a3426", "#fbf6ea", k == 4)
         z += h
-        pagodendach(0, 21, z, b, t, d, _dach("#6f8f98"), 4.4 - .25 * k, 1.1, .05 if k == 4 else .64, rand=lack("#fbf6ea"))
+        pagodendach(0, 21, z, b, t, d, _dach("#6f8f98"), 4.4 - .25 * k, 1.1, .05 if k == 4 else .64,
+                    rand=lack("#fbf6ea"))
         if k in (0, 2, 3):
             with bei(0, 21 - t / 2 - 1.6, z + 1.0):
                 keil(0, 1.5, 0, 9, b * .44, b * .2, "#fbf6ea", 0, drehung=90)
@@ -104,7 +112,8 @@ def fujin1():
                 kugel(0, -3.2, b * .07, 1.1, metall("gold"))
         z += d * .74 if k < 4 else d
     for s in (-1, 1):
-        rohr(glätten([(s * 4.5, 21, z - 1), (s * 6.4, 21, z + 1.6), (s * 5.4, 21, z + 3.8)], 4, zu=False), .9, metall("gold"))
+        rohr(glätten([(s * 4.5, 21, z - 1), (s * 6.4, 21, z + 1.6), (s * 5.4, 21, z + 3.8)], 4, zu=False), .9,
+             metall("gold"))
     quader(0, 21, z - 1.4, 10, 1.6, 1.8, _dach("#6f8f98"), .4)
     with wand(0, 20, 37, 28, "s"):
         tür(0, 0, 7, 9, "#6b3b22", rahmen="#d8cdb6", stufen=1)
@@ -132,14 +141,17 @@ def torii(x, y, z, b, h):
         zylinder(x + s * b * .38, y, z, .9, h, ROT, rund=.2)
         zylinder(x + s * b * .38, y, z, 1.2, 1.2, "schwarz", rund=.2)
     quader(x, y, z + h * .72, b, 1.2, 1.2, ROT, .2)
-    rohr(glätten([(x - b * .62, y, z + h + 1.2), (x - b * .3, y, z + h + .2), (x, y, z + h), (x + b * .3, y, z + h + .2), (x + b * .62, y, z + h + 1.2)], 4, zu=False), 1.1, ROT)
-    rohr(glätten([(x - b * .66, y, z + h + 2.3), (x - b * .3, y, z + h + 1.2), (x, y, z + h + 1), (x + b * .3, y, z + h + 1.2), (x + b * .66, y, z + h + 2.3)], 4, zu=False), .7, "#33302e")
+    rohr(glätten([(x - b * .62, y, z + h + 1.2), (x - b * .3, y, z + h + .2), (x, y, z + h),
+                  (x + b * .3, y, z + h + .2), (x + b * .62, y, z + h + 1.2)], 4, zu=False), 1.1, ROT)
+    rohr(glätten([(x - b * .66, y, z + h + 2.3), (x - b * .3, y, z + h + 1.2), (x, y, z + h + 1),
+                  (x + b * .3, y, z + h + 1.2), (x + b * .66, y, z + h + 2.3)], 4, zu=False), .7, "#33302e")
 
 
 def fujip():
     """Garten mit Teich, roter Bogenbrücke, Torii, Kies und Ahorn."""
     boden(73, 35, _moos(), ecke=8)
-    becken(glätten([(-28, 10), (-16, 5), (-2, 8), (8, 5), (15, 11), (11, 20), (-2, 17), (-12, 23), (-25, 20)], 6), .5, stein("#a8a08e"), 2.0, "#2f9fb0", 1.0)
+    becken(glätten([(-28, 10), (-16, 5), (-2, 8), (8, 5), (15, 11), (11, 20), (-2, 17), (-12, 23), (-25, 20)], 6), .5,
+           stein("#a8a08e"), 2.0, "#2f9fb0", 1.0)
     # Brücke
     n, x0, x1, y = 14, -22, 8, 12.4
     bogen = [(x0 + (x1 - x0) * i / n, .8 + 5.6 * math.sin(math.pi * i / n)) for i in range(n + 1)]

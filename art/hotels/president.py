@@ -6,11 +6,11 @@ FAHNE = (BLAU, "weiß", "#d9a441")
 
 
 def _marmor():
-    return stoff(MARMOR, rau=.35, glanz=.4, fleck=.05, fleckmass=.15)
+    return stoff(MARMOR, rau=.35, glanz=.4, fleck=.05, fleckmaß=.15)
 
 
 def _glas(farbe="#3f8fc0"):
-    return stoff(farbe, rau=.18, glanz=.8, fleck=.10, fleckmass=.10, muster=("platte", 2.2, 3.6, .45), musterhub=.2)
+    return stoff(farbe, rau=.18, glanz=.8, fleck=.10, fleckmaß=.10, muster=("platte", 2.2, 3.6, .45), musterhub=.2)
 
 
 def schaft(x, y, z, b, t, h, achse=5.0, geschoss=9.0, drehung=0.0, farbe="#3f8fc0", lisene=1.7):
@@ -196,7 +196,8 @@ def presip():
     # Tennis
     quader(-23, 18, .7, 23, 30, .4, "#c8623c", .1)
     quader(-23, 18, 1.1, 17, 24, .15, "#3f8f5a", 0)
-    for x, y, b, t in ((-23, 6.4, 17, .8), (-23, 29.6, 17, .8), (-31.2, 18, .8, 24), (-14.8, 18, .8, 24), (-23, 11.6, 17, .7), (-23, 24.4, 17, .7), (-23, 18, .7, 13)):
+    for x, y, b, t in ((-23, 6.4, 17, .8), (-23, 29.6, 17, .8), (-31.2, 18, .8, 24), (-14.8, 18, .8, 24),
+                       (-23, 11.6, 17, .7), (-23, 24.4, 17, .7), (-23, 18, .7, 13)):
         quader(x, y, 1.25, b, t, .15, "weiß", 0)
     zaun([(-33, 18), (-13, 18)], "weiß", 2.6, 6.6, 1.2, latten=1)
     # Becken mit Standbild

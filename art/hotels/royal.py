@@ -27,10 +27,10 @@ def eckturm(x, y, h, r=5.2, dach=15, fensterhöhen=(), z=0.0, krone=True):
         rundfenster(x, y, z + f, r, (-38, 0, 38) if r > 6 else (-8,), 2.8, 5, **BOGEN)
 
 
-def brustwehr(x, y, z, b, t, mass=2.4):
+def brustwehr(x, y, z, b, t, maß=2.4):
     """Zinnenkranz auf einer Mauerkrone."""
     quader(x, y, z - 1.6, b + 1.8, t + 1.8, 2.2, putz(DUNKEL), .4)
-    zinnen(x, y, z + .5, b + .2, t + .2, putz(STEIN), mass)
+    zinnen(x, y, z + .5, b + .2, t + .2, putz(STEIN), maß)
 
 
 def banner(x, z, b=3.4, h=12, farben=(ROT, "gold")):
@@ -59,7 +59,7 @@ def royh():
         eckturm(s * 17.5, 21, 26, 4.6, 13, (14,))
         with wand(0, 25, 34, 18, "s"):
             banner(s * 12.8, 9, 3.0, 11)
-        kugelbaum(s * 19.5, 6, mass=.5, farbe="#3f8a3c")
+        kugelbaum(s * 19.5, 6, maß=.5, farbe="#3f8a3c")
     quader(0, 3.5, .6, 8, 6, .4, "#d9b36c", .1)
 
 
@@ -80,8 +80,8 @@ def royn1():
     with wand(0, 24, 25, 18, "s"), bei(0, 0, 38):
         banner(0, 3, 4.4, 15)
     for s in (-1, 1):
-        zypresse(s * 9.5, 4.5, mass=.62)
-        busch(s * 14, 4, mass=.75, blüten="rot")
+        zypresse(s * 9.5, 4.5, maß=.62)
+        busch(s * 14, 4, maß=.75, blüten="rot")
 
 
 def royn2():
@@ -105,7 +105,7 @@ def royn2():
         tür(0, 0, 6, 9, "#6b3f22", rahmen="#fff3d6", bogen=True, stufen=1)
     wimpel(0, 17, 105, 9, (ROT, "weiß", ROT), 9, 4.8)
     for s in (-1, 1):
-        kugelbaum(s * 11, 3.5, mass=.42, farbe="#3f8a3c")
+        kugelbaum(s * 11, 3.5, maß=.42, farbe="#3f8a3c")
 
 
 def royn3():
@@ -132,13 +132,14 @@ def royn3():
     quader(0, 17, 60, 19.5, 19.5, 3, putz(DUNKEL), .5)
     haus(0, 17, 63, 14, 14, 8, _stein(), ((1.5, 4.4, 2.6, 5, BOGEN),))
     with bei(0, 17, 71, 45):
-        drehkörper(0, 0, 0, [(11.6, -.6), (11.6, 0), (8.2, 5), (4.6, 14), (1.8, 23), (.05, 28)], _dach(), 4, glatt=False)
+        drehkörper(0, 0, 0, [(11.6, -.6), (11.6, 0), (8.2, 5), (4.6, 14), (1.8, 23), (.05, 28)], _dach(), 4,
+                   glatt=False)
     spitze(0, 17, 97, 1.3, metall("gold"))
     for s in (-1, 1):
         for f in (-1, 1):
             kegeldach(s * 8.6, 17 + f * 8.6, 63, 1.8, 8, metall("gold"), über=.3, knauf=None, seiten=12)
         eckturm(s * 18, 11, 32, 4.2, 13, (6, 18))
-        kugelbaum(s * 11, 4, mass=.45, farbe="#3f8a3c")
+        kugelbaum(s * 11, 4, maß=.45, farbe="#3f8a3c")
 
 
 def royp():
@@ -165,9 +166,9 @@ def royp():
     for sx in (-1, 1):
         for sy in (-1, 1):
             blumenbeet(14 + sx * 11.5, 17 + sy * 9, 10, 6.5, ("rot", "rosa", "weiß"), z=.6)
-            busch(14 + sx * 19.5, 17 + sy * 14, mass=.8, farbe="#3f8a34", blüten="rot")
+            busch(14 + sx * 19.5, 17 + sy * 14, maß=.8, farbe="#3f8a34", blüten="rot")
     for s in (-1, 1):
-        kugelbaum(14 + s * 20 - 1, 29, mass=.55, farbe="#4b9438")
+        kugelbaum(14 + s * 20 - 1, 29, maß=.55, farbe="#4b9438")
         fahne(14 + s * 4.5, 4, .6, 12, (ROT, "gold"), 4.5, 3)
 
 

@@ -23,16 +23,17 @@ def strohdach(x, y, z, b, t, h, über=3.0, first=None, drehung=0.0):
     with bei(x, y, z, drehung):
         rohr([(-first / 2 - 1.4, 0, h - .2), (first / 2 + 1.4, 0, h - .2)], 1.5, stroh("#a87a38"))
         for s in (-1, 1):
-            rohr([(s * (first / 2 + 1), -1.6, h - 1.8), (s * (first / 2 + 2), 0, h + .6), (s * (first / 2 + 1), 1.6, h - 1.8)], .6, DUNKEL)
+            rohr([(s * (first / 2 + 1), -1.6, h - 1.8), (s * (first / 2 + 2), 0, h + .6),
+                  (s * (first / 2 + 1), 1.6, h - 1.8)], .6, DUNKEL)
 
 
 def bein(x, y, z, h, r=.8):
     zylinder(x, y, z, r, h, DUNKEL, rund=.2)
 
 
-def elefant(x, y, z=0.0, drehung=0.0, mass=1.0):
+def elefant(x, y, z=0.0, drehung=0.0, maß=1.0):
     grau = stoff("#8e93a6", rau=.7, fleck=.05)
-    with bei(x, y, z, drehung, mass):
+    with bei(x, y, z, drehung, maß):
         for a in (-1.6, 1.6):
             for b in (-1.7, 1.7):
                 zylinder(a, b, 0, 1.05, 3.4, grau, rund=.3)
@@ -45,9 +46,9 @@ def elefant(x, y, z=0.0, drehung=0.0, mass=1.0):
         rohr(glätten([(-5.4, 0, 6.2), (-6.6, 0, 4.6), (-6.9, 0, 2.6), (-7.7, 0, 1.7)], 4, zu=False), .62, grau)
 
 
-def giraffe(x, y, z=0.0, drehung=0.0, mass=1.0):
+def giraffe(x, y, z=0.0, drehung=0.0, maß=1.0):
     gelb, braun = lack("#eeb648"), lack("#9a5a26")
-    with bei(x, y, z, drehung, mass):
+    with bei(x, y, z, drehung, maß):
         for a in (-1.5, 1.5):
             for b in (-.9, .9):
                 zylinder(a, b, 0, .5, 6, gelb, rund=.2)
@@ -56,13 +57,14 @@ def giraffe(x, y, z=0.0, drehung=0.0, mass=1.0):
         kugel(-4.2, 0, 14.4, 1, gelb, (1.7, .9, .9))
         for s in (-1, 1):
             rohr([(-3.4, s * .5, 15), (-3.2, s * .6, 16.4)], .25, braun)
-        for i, (px, py, pz) in enumerate(((-1, -1.5, 7.4), (.8, -1.6, 7), (-.2, -.6, 8.5), (1.6, -.4, 8.2), (-2.2, -.7, 9), (-2.7, -.7, 11), (-3.1, -.7, 12.8), (-1.4, .6, 8.4))):
+        for i, (px, py, pz) in enumerate(((-1, -1.5, 7.4), (.8, -1.6, 7), (-.2, -.6, 8.5), (1.6, -.4, 8.2),
+                                          (-2.2, -.7, 9), (-2.7, -.7, 11), (-3.1, -.7, 12.8), (-1.4, .6, 8.4))):
             kugel(px, py, pz, .62, braun)
 
 
-def zebra(x, y, z=0.0, drehung=0.0, mass=1.0):
+def zebra(x, y, z=0.0, drehung=0.0, maß=1.0):
     weiß, schwarz = lack("#f7f2e8"), lack("schwarz")
-    with bei(x, y, z, drehung, mass):
+    with bei(x, y, z, drehung, maß):
         for a in (-1.5, 1.5):
             for b in (-.8, .8):
                 zylinder(a, b, 0, .45, 3, weiß, rund=.1)
@@ -71,7 +73,8 @@ def zebra(x, y, z=0.0, drehung=0.0, mass=1.0):
         kugel(-3.9, 0, 6.8, 1, weiß, (1.5, .8, .8))
         for px in (-1.6, -.7, .2, 1.1, 1.9):
             r = 1.58 * math.sqrt(max(0, 1 - (px / 2.7) ** 2))
-            rohr([(px, r * math.cos(w) * .97, 4 + r * math.sin(w) * 1.05) for w in [math.pi * 2 * i / 14 for i in range(14)]], .24, schwarz, zu=True)
+            rohr([(px, r * math.cos(w) * .97, 4 + r * math.sin(w) * 1.05)
+                  for w in [math.pi * 2 * i / 14 for i in range(14)]], .24, schwarz, zu=True)
         rohr([(-1.6, 0, 5.6), (-3.0, 0, 7.8)], .35, schwarz)
 
 
@@ -87,7 +90,8 @@ def zelt(x, y, b, t, h, farbe=TUCH, borte="#c8502f", drehung=0.0):
         for s in (-1, 1):
             rohr([(s * (b / 2 + 1.1), -t / 2 - 1.3, 1.2 + h * .40 - 1.0), (0, -t / 2 - 1.3, 1.9 + h * .97)], .55, borte)
         with bei(0, -t / 2 - .1, 1.2):
-            kippe(prisma([(-b * .24, 0), (b * .24, 0), (b * .05, h * .74), (-b * .05, h * .74)], 0, .4, stoff("#6a4a2c", rau=.9), 0))
+            kippe(prisma([(-b * .24, 0), (b * .24, 0), (b * .05, h * .74), (-b * .05, h * .74)], 0, .4,
+                         stoff("#6a4a2c", rau=.9), 0))
             for s in (-1, 1):
                 kippe(prisma([(s * b * .24, 0), (s * b * .34, 0), (s * b * .06, h * .76)], .2, .5, tuch, 0))
 
@@ -117,8 +121,9 @@ def safh():
     quader(13, 20, 39, 6.8, 6.8, 1.8, mauer("#a98360", 2.6), .3)
     wimpel(-9, 15, 30, 14, ("#3c8a46", "gelb", "#c8502f"), 7, 4.6)
     for s in (-1, 1):
-        rohr(glätten([(s * 7, 1.8, 0), (s * 8.2, 1.8, 4.6), (s * 6.6, 1.8, 9), (s * 2.2, 1.8, 12)], 5, zu=False), .9, "#fff3d8")
-        busch(s * 17, 2.4, mass=.7, farbe="#8a9a3c")
+        rohr(glätten([(s * 7, 1.8, 0), (s * 8.2, 1.8, 4.6), (s * 6.6, 1.8, 9), (s * 2.2, 1.8, 12)], 5, zu=False), .9,
+             "#fff3d8")
+        busch(s * 17, 2.4, maß=.7, farbe="#8a9a3c")
 
 
 def safn1():
@@ -134,7 +139,8 @@ def safn1():
     for s in (-1, 1):
         rohr([(x0 + s * 1.8, y0 - 10.5, 0), (x0 + s * 1.8, y0 - 6.8, 22)], .55, "#c79358")
     for i in range(9):
-        rohr([(x0 - 1.8, y0 - 10.3 + .4 * i, 1.6 + 2.4 * i), (x0 + 1.8, y0 - 10.3 + .4 * i, 1.6 + 2.4 * i)], .42, "#c79358")
+        rohr([(x0 - 1.8, y0 - 10.3 + .4 * i, 1.6 + 2.4 * i), (x0 + 1.8, y0 - 10.3 + .4 * i, 1.6 + 2.4 * i)], .42,
+             "#c79358")
     quader(x0, y0, 21.4, 20, 15, 1.6, holz("#b98350"), .3)
     zaun([(x0 - 9.4, y0 - 7), (x0 - 2.4, y0 - 7)], HOLZ, 3, 2.2, 23, 2, .6)
     zaun([(x0 + 2.4, y0 - 7), (x0 + 9.4, y0 - 7)], HOLZ, 3, 2.2, 23, 2, .6)
@@ -148,7 +154,7 @@ def safn1():
     wimpel(x0, y0, 40, 4.2, ("#3c8a46", "gelb", "#c8502f"), 6, 3)
     zelt(-10.5, 8, 10.5, 9, 10)
     schirmakazie(-11, 25, 0, .95)
-    grasbüschel(15.5, 3.5, mass=1.2, farbe="#a79a3c")
+    grasbüschel(15.5, 3.5, maß=1.2, farbe="#a79a3c")
     steine(11.5, 5, 4, 3, 1.3, "#c8a27c")
 
 
@@ -169,11 +175,11 @@ def safn2():
     for x, d in ((-6.5, 70), (6.5, -70)):
         parkbank(x, 6.5, .6, d)
     for x, y in ((-28, 4), (28, 4), (-9, 3), (11, 3)):
-        grasbüschel(x, y, mass=1.1, farbe="#a79a3c")
+        grasbüschel(x, y, maß=1.1, farbe="#a79a3c")
 
 
-def jeep(x, y, z, drehung=0.0, mass=1.0):
-    with bei(x, y, z, drehung, mass):
+def jeep(x, y, z, drehung=0.0, maß=1.0):
+    with bei(x, y, z, drehung, maß):
         for a in (-3.4, 3.4):
             for b in (-2.2, 2.2):
                 with bei(a, b, 1.5):
@@ -191,7 +197,8 @@ def safp():
     """Wasserloch mit Elefant, Giraffe, Zebra und Geländewagen."""
     boden(73, 35, _grund(), ecke=9)
     prisma(umriss(66, 28, 9, 0, 3.6), .6, .25, gras("#b9b04e"), .1)
-    becken(glätten([(-10, 8), (2, 5), (14, 8), (16, 16), (6, 20), (-6, 19), (-13, 14)], 6), .6, stein("#c49a62"), 2.0, "#2fb0c0", .9)
+    becken(glätten([(-10, 8), (2, 5), (14, 8), (16, 16), (6, 20), (-6, 19), (-13, 14)], 6), .6, stein("#c49a62"), 2.0,
+           "#2fb0c0", .9)
     elefant(-17, 18, .7, 180, 1.25)
     elefant(-24.5, 11, .7, 180, .8)
     giraffe(22, 18, .7, 0, .95)

@@ -14,7 +14,8 @@ def iwan(x, y, z, b, h, tief="#2a7f8f"):
         quader(0, -.5, 0, b + 3, 1.2, h + 3, _marmor(), .3)
         quader(0, -1.0, .3, b + 1.9, .5, h + 1.9, metall("gold"), .1)
         quader(0, -1.2, 0, b + .9, .5, h + 1.3, lack("#f8ecd6"), .1)
-        bogen = [(-b / 2, 0), (b / 2, 0), (b / 2, h * .62), (b * .36, h * .82), (0, h), (-b * .36, h * .82), (-b / 2, h * .62)]
+        bogen = [(-b / 2, 0), (b / 2, 0), (b / 2, h * .62), (b * .36, h * .82), (0, h), (-b * .36, h * .82),
+                 (-b / 2, h * .62)]
         kippe(prisma(bogen, 1.3, .5, stoff(tief, rau=.3, fleck=.05), .1))
 
 
@@ -26,7 +27,7 @@ def chhatri(x, y, z, r, h):
         zylinder(x + r * .82 * math.cos(a), y + r * .82 * math.sin(a), z, r * .15, h, _marmor(), seiten=8, rund=0)
     zylinder(x, y, z + .4, r * .5, h, stoff("#2a7f8f", rau=.4), seiten=16, rund=0)
     drehkörper(x, y, z + h, [(r * 1.35, -.3), (r * 1.35, .3), (r, .8)], SCHATTEN, 24)
-    kuppel(x, y, z + h + .6, r * .92, _marmor(), "zwiebel", mass=.82)
+    kuppel(x, y, z + h + .6, r * .92, _marmor(), "zwiebel", maß=.82)
 
 
 def minarett(x, y, z, h, r=3.4):
@@ -34,9 +35,12 @@ def minarett(x, y, z, h, r=3.4):
     for k in range(3):
         r0, r1 = r * (1 - .1 * k), r * (1 - .1 * (k + 1))
         zylinder(x, y, z + h * k / 3, r0, h / 3, _marmor(), oben=r1, seiten=32, rund=.1)
-        drehkörper(x, y, z + h * (k + 1) / 3 - 1, [(r1, -1.4), (r1 * 1.55, 0), (r1 * 1.55, .9), (r1, .9)], SCHATTEN, 32, .1)
-        drehkörper(x, y, z + h * (k + 1) / 3 - 1, [(r1 * 1.5, .9), (r1 * 1.5, 1.6), (r1 * 1.3, 1.6)], metall("gold"), 32)
-        rundfenster(x, y, z + h * (k + .32) / 3, r0 * .97, (-5,), 1.9, 4.2, rahmen="#e9dcc4", scheibe=lack("#2a7f8f"), sprossen=(0, 0), bogen=True, sims=False, rand=.4)
+        drehkörper(x, y, z + h * (k + 1) / 3 - 1, [(r1, -1.4), (r1 * 1.55, 0), (r1 * 1.55, .9), (r1, .9)], SCHATTEN,
+                   32, .1)
+        drehkörper(x, y, z + h * (k + 1) / 3 - 1, [(r1 * 1.5, .9), (r1 * 1.5, 1.6), (r1 * 1.3, 1.6)], metall("gold"),
+                   32)
+        rundfenster(x, y, z + h * (k + .32) / 3, r0 * .97, (-5,), 1.9, 4.2, rahmen="#e9dcc4", scheibe=lack("#2a7f8f"),
+                    sprossen=(0, 0), bogen=True, sims=False, rand=.4)
     chhatri(x, y, z + h - .2, r * .86, r * 1.2)
 
 

@@ -17,13 +17,15 @@ def brett(x, y, z, farbe, neig=0, lang=6.0, streifen="weiß"):
     """Stehendes Surfbrett."""
     with bei(x, y, z + lang):
         for r, s in ((1.0, farbe), (.45, streifen)):
-            lege(kugel(0, -.25 if r < 1 else 0, 0, 1, s, (1.55 * r, .42, lang * (1 if r == 1 else .96))), dreh(neig, "Y"))
+            lege(kugel(0, -.25 if r < 1 else 0, 0, 1, s, (1.55 * r, .42, lang * (1 if r == 1 else .96))),
+                 dreh(neig, "Y"))
 
 
 def maske(x, y, z, hoch=8.0, farbe="#8a4f2a"):
     """Tiki: Pfahl mit bemaltem Gesicht."""
     r = hoch * .24
-    drehkörper(x, y, z, [(r * .9, 0), (r, hoch * .3), (r * .85, hoch * .42), (r * 1.15, hoch * .5), (r * 1.2, hoch * .9), (r * .8, hoch)], farbe, 16, .1)
+    drehkörper(x, y, z, [(r * .9, 0), (r, hoch * .3), (r * .85, hoch * .42), (r * 1.15, hoch * .5),
+                         (r * 1.2, hoch * .9), (r * .8, hoch)], farbe, 16, .1)
     for s in (-1, 1):
         kugel(x + s * r * .5, y - r * 1.05, z + hoch * .76, r * .36, "weiß")
         kugel(x + s * r * .5, y - r * 1.32, z + hoch * .76, r * .17, "schwarz")
@@ -66,7 +68,8 @@ def girlande(x0, x1, y, z, hang=1.6, zahl=7):
     rohr(p, .22, "#7a4e2c")
     for i in range(zahl):
         s = (i + .5) / zahl
-        kugel(x0 + (x1 - x0) * s, y - .3, z - hang * math.sin(math.pi * s) - .9, .95, ("#e8558a", "gelb", "#2fc0c8", ROT)[i % 4])
+        kugel(x0 + (x1 - x0) * s, y - .3, z - hang * math.sin(math.pi * s) - .9, .95,
+              ("#e8558a", "gelb", "#2fc0c8", ROT)[i % 4])
 
 
 def kikih():
@@ -98,11 +101,13 @@ def kikin1():
         for i in range(9):
             a = math.radians(190 + 20 * i)
             zylinder(x + (r + 1) * math.cos(a), y + (r + 1) * math.sin(a), 0, .6, 2, "#7a4e2c")
-        zylinder(x, y, 2.8, r * .92, 10, stoff(farbe, rau=.8, muster=("platte", 1.6, 1.6, .25), musterhub=.5), seiten=32)
+        zylinder(x, y, 2.8, r * .92, 10, stoff(farbe, rau=.8, muster=("platte", 1.6, 1.6, .25), musterhub=.5),
+                 seiten=32)
         rundfenster(x, y, 4.4, r * .92, (-48, 48), 3.6, 4.6, rahmen="#7a4e2c", scheibe=lack("#ffd987"), sprossen=(1, 0))
         with bei(x, y - r * .92):
             tür(0, 2.8, 5, 7.6, saum, rahmen="#7a4e2c", stufen=0)
-        drehkörper(x, y, 12.4, [(r * 1.04, -.9), (r * 1.10, 0), (r * .85, 2.4), (r * .55, 5.6), (r * .24, 8.6), (.3, 11)], stroh(STROH), 36)
+        drehkörper(x, y, 12.4, [(r * 1.04, -.9), (r * 1.10, 0), (r * .85, 2.4), (r * .55, 5.6), (r * .24, 8.6),
+                                (.3, 11)], stroh(STROH), 36)
         drehkörper(x, y, 12.4, [(r * 1.08, -1.1), (r * 1.14, -.6), (r * 1.12, .5)], saum, 36)
         kugel(x, y, 23.4, 1.3, saum)
     palme(13.5, 26, .6, .8, drehung=30, neigung=.4)
@@ -118,7 +123,8 @@ def kikin2():
     steg(0, 14, 36, 22, 2.6)
     matte = stoff("#f6e2ae", rau=.8, muster=("platte", 1.6, 1.6, .25), musterhub=.5)
     quader(0, 15, 2.6, 29, 18, 9, matte, .3)
-    keil(0, 15, 11.4, 18, 30, 9.6, stoff("#e7b66a", rau=.8, muster=("brett", 4, 1.6, .25), musterhub=.5), .1, drehung=90)
+    keil(0, 15, 11.4, 18, 30, 9.6, stoff("#e7b66a", rau=.8, muster=("brett", 4, 1.6, .25), musterhub=.5), .1,
+         drehung=90)
     satteldach(0, 14.5, 10.8, 17, 29, 9.8, stroh(STROH), über=1.8, dick=1.5, drehung=90)
     with wand(0, 15, 29, 18, "s"):
         tür(0, 2.6, 6.4, 9, "#2f9aa0", rahmen=ROT, stufen=0)
@@ -185,7 +191,8 @@ def kikin4():
 def kikip():
     """Lagune mit Wasserfall, Rutsche, Strandbar."""
     boden(73, 35, _sand(), ecke=10)
-    becken(glätten([(-27, 9), (-12, 5), (2, 8), (16, 5), (25, 11), (21, 20), (7, 22), (-4, 19), (-14, 23), (-25, 19)], 6), .5, stoff("#fbe9bd", rau=.9), 2.2, "#22c1cf", 1.1)
+    becken(glätten([(-27, 9), (-12, 5), (2, 8), (16, 5), (25, 11), (21, 20), (7, 22), (-4, 19), (-14, 23), (-25, 19)],
+                   6), .5, stoff("#fbe9bd", rau=.9), 2.2, "#22c1cf", 1.1)
     for x, y, r, h in ((-2, 27, 6, 8), (4, 27.5, 5, 10), (9, 27, 4.5, 7), (-7, 28, 4, 5), (14, 27, 3, 3.4)):
         kugel(x, y, h * .3, r, stein("#8d7358"), (1, .8, h / r * .72), fein=3)
     rohr(glätten([(3.5, 24.6, 8.6), (3.5, 22.6, 6.5), (3.5, 21.4, 1.0)], 5, zu=False), 1.9, stoff("#d8f6ff", rau=.2))

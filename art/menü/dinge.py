@@ -1,4 +1,4 @@
-"""Die Dinge des Menüs, auf die man zeigt: Blume der Bestenliste, Wegweiser zur Hilfe, Stein mit i, Mond des Ausgangs."""
+"""Worauf man im Menü zeigt: Blume der Bestenliste, Wegweiser zur Hilfe, Stein mit i, Mond des Ausgangs."""
 from kasten import *
 from menü.hotel import AUGE, F, HORIZONT
 
@@ -8,13 +8,14 @@ def mond():
     D = 150
     s = F / D
     with bei((650 - 396) / s, D, AUGE + (HORIZONT - 134) / s):
-        gelb = stoff("#ffd766", rau=.55, fleck=.10, fleckmass=.5, korn=.25, leuchten=.55)
+        gelb = stoff("#ffd766", rau=.55, fleck=.10, fleckmaß=.5, korn=.25, leuchten=.55)
         n, R = 40, 7.4
         außen = [(R * math.cos(a), R * math.sin(a)) for a in [math.radians(52 + 256 * i / n) for i in range(n + 1)]]
         ax, ay = außen[0]
         c, r = 3.3, math.hypot(ax - 3.3, ay)
         w0 = math.atan2(ay, ax - c)
-        innen = [(c + r * math.cos(a), r * math.sin(a)) for a in [2 * math.pi - w0 - (2 * math.pi - 2 * w0) * i / n for i in range(n + 1)]]
+        innen = [(c + r * math.cos(a), r * math.sin(a))
+                 for a in [2 * math.pi - w0 - (2 * math.pi - 2 * w0) * i / n for i in range(n + 1)]]
         lege(prisma(außen + innen[1:-1], -1.0, 2.0, gelb, .85), dreh(90, "X") @ dreh(-18, "Z") @ schub(0, 0, -1.0))
         dunkel = stoff("#7a4a1c", rau=.6)
         rohr([(-4.9, -1.25, 2.5), (-4.2, -1.35, 2.1), (-3.5, -1.25, 2.5)], .18, dunkel)             # schlafendes Auge
@@ -38,15 +39,19 @@ def blume():
     rohr(glätten([(0, .6, 2.6), (.25, .5, 3.6), (0, .3, 5.2)], 5, zu=False), .30, lack("#3f8a3a"))
     for w, l in ((25, 3.3), (155, 3.3), (60, 2.6), (118, 2.7)):
         ort = schub(l * .62 * math.cos(math.radians(w)), .2, 3.3 + l * .25)
-        lege(kugel(0, 0, 0, 1, laub("#4a9a3f")), ort @ dreh(-14 if w < 90 else -166, "Y") @ Matrix.Diagonal((l * .6, .7, .28, 1)))
+        lege(kugel(0, 0, 0, 1, laub("#4a9a3f")), ort @ dreh(-14 if w < 90 else -166, "Y")
+             @ Matrix.Diagonal((l * .6, .7, .28, 1)))
     for lage_, zahl, gr, farbe, vor in ((0, 9, 1.0, "#d8345a", .25), (20, 9, .76, "#ef5f86", -.12)):
-        tuch = stoff(farbe, rau=.5, glanz=.3, fleck=.12, fleckmass=.6)
+        tuch = stoff(farbe, rau=.5, glanz=.3, fleck=.12, fleckmaß=.6)
         for i in range(zahl):
             a = 2 * math.pi * i / zahl + math.radians(lage_)
-            lege(kugel(0, 0, 0, 1, tuch), schub(2.25 * gr * math.cos(a), vor, 5.7 + 2.25 * gr * math.sin(a)) @ Matrix.Rotation(-a, 4, "Y") @ Matrix.Rotation(.35, 4, "Z") @ Matrix.Diagonal((1.75 * gr, .42, 1.0 * gr, 1)))
+            lege(kugel(0, 0, 0, 1, tuch), schub(2.25 * gr * math.cos(a), vor, 5.7 + 2.25 * gr * math.sin(a))
+                 @ Matrix.Rotation(-a, 4, "Y") @ Matrix.Rotation(.35, 4, "Z")
+                 @ Matrix.Diagonal((1.75 * gr, .42, 1.0 * gr, 1)))
     gold = stoff("#f6c445", rau=.25, glanz=.7, fleck=.04)
     lege(zylinder(0, 0, 0, 1.75, .7, gold, rund=.25, seiten=48), schub(0, -.2, 5.7) @ dreh(90, "X"))
-    rohr([(1.42 * math.cos(a), -.95, 5.7 + 1.42 * math.sin(a)) for a in [i * math.pi / 24 for i in range(48)]], .09, stoff("#b9821f", rau=.3), zu=True)
+    rohr([(1.42 * math.cos(a), -.95, 5.7 + 1.42 * math.sin(a)) for a in [i * math.pi / 24 for i in range(48)]], .09,
+         stoff("#b9821f", rau=.3), zu=True)
     schrift("1", 0, -.92, 5.70, 2.3, stoff("#6b3208", rau=.5), dick=.05, datei=BUCHMANN)
     quader(0, -2.2, .0, .5, .5, 1.0, holz("#8a5a32"), .1)
     quader(0, -2.6, .25, 9.5, .5, 1.95, holz("#b9804a"), .25)
@@ -67,10 +72,10 @@ def wegweiser():
     for r, h, f in ((3.35, .7, metall("#e0ac3f", .3)), (2.95, .95, stoff("#2b6fb5", rau=.4, glanz=.45))):
         lege(zylinder(0, 0, 0, r, h, f, rund=.25, seiten=64), schub(0, 0, 8.1) @ dreh(90, "X"))
     schrift("?", 0, -1.1, 8.1, 5.0, stoff("#fff3d0", rau=.4, leuchten=.5), dick=.2, datei=BUCHMANN)
-    busch(-3.6, 1.4, mass=.62, blüten="#f2b92c")
-    busch(3.4, 1.6, mass=.55, blüten="#e58a9a")
+    busch(-3.6, 1.4, maß=.62, blüten="#f2b92c")
+    busch(3.4, 1.6, maß=.55, blüten="#e58a9a")
     for k in range(5):
-        grasbüschel(-3 + 1.5 * k, -.6 - .3 * (k % 2), mass=.35, farbe="#6f9a3f")
+        grasbüschel(-3 + 1.5 * k, -.6 - .3 * (k % 2), maß=.35, farbe="#6f9a3f")
     leuchte(-2, -7, 9, 110, (1, .85, .62), 1.5)
 
 
@@ -79,19 +84,21 @@ def merkstein():
     bm = bmesh.new()
     bmesh.ops.create_icosphere(bm, subdivisions=5, radius=1)
     zs = random.Random(2)
-    buckel = [(Vector((zs.gauss(0, 1), zs.gauss(0, 1), zs.gauss(0, 1))).normalized(), zs.uniform(.03, .10)) for _ in range(26)]
+    buckel = [(Vector((zs.gauss(0, 1), zs.gauss(0, 1), zs.gauss(0, 1))).normalized(), zs.uniform(.03, .10))
+              for _ in range(26)]
     for v in bm.verts:
         d = v.co.normalized()
         h = sum(k * max(0, d.dot(q)) ** 6 for q, k in buckel)
         k = (abs(d.x) ** 3.4 + abs(d.z) ** 3.4 + abs(d.y) ** 3.4) ** (-1 / 3.4)
         v.co = Vector((d.x * 4.0 * k * (1 + .4 * h), d.y * 1.1 * k * (1 + h), d.z * 2.35 * k * (1 + .5 * h)))
     aus_bmesh(bm, stein("#b9b2a4"), schub(0, .6, 2.15), glatt=True, name="Stein")
-    quader(.0, -.62, .85, 6.7, .6, 2.9, stoff("#e8ddc6", rau=.65, fleck=.12, fleckmass=.7, korn=.2), .3)
-    lege(zylinder(0, 0, 0, 1.2, .5, stoff("#2b6fb5", rau=.4), rund=.15, seiten=40), schub(-2.0, -.7, 2.3) @ dreh(90, "X"))
+    quader(.0, -.62, .85, 6.7, .6, 2.9, stoff("#e8ddc6", rau=.65, fleck=.12, fleckmaß=.7, korn=.2), .3)
+    lege(zylinder(0, 0, 0, 1.2, .5, stoff("#2b6fb5", rau=.4), rund=.15, seiten=40), schub(-2.0, -.7, 2.3)
+         @ dreh(90, "X"))
     schrift("i", -2.0, -1.26, 2.30, 2.0, stoff("#fff6dc", rau=.4, leuchten=.4), dick=.08, datei=BUCHMANN)
     schrift("Über", 1.0, -1.0, 2.28, 1.85, stoff("#3a2414", rau=.7, glanz=.1), dick=.03, datei=GOTISCH)
     for px, py, m, f in ((-5.0, .6, .5, "weiß"), (4.7, .9, .45, "#8a5fa8"), (5.9, 2.2, .6, "#f2c23a")):
-        busch(px, py, mass=m, blüten=f)
+        busch(px, py, maß=m, blüten=f)
     for k in range(9):
-        grasbüschel(-4 + 1.0 * k, -.9 + .25 * (k % 3), mass=.30, farbe="#6f9a3f")
+        grasbüschel(-4 + 1.0 * k, -.9 + .25 * (k % 3), maß=.30, farbe="#6f9a3f")
     leuchte(-1, -6, 6, 62, (1, .85, .62), 1.2)

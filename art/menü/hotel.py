@@ -13,7 +13,7 @@ def boden(px, py):
 
 def hotel():
     zufall = random.Random(3)
-    warm = stoff("#ffc46a", rau=.3, fleck=.25, fleckmass=.25, leuchten=1.15)
+    warm = stoff("#ffc46a", rau=.3, fleck=.25, fleckmaß=.25, leuchten=1.15)
     kühl = stoff("#5f7ea0", rau=.1, glanz=.8)
 
     def scheibe():
@@ -56,7 +56,8 @@ def turm(creme, weiß, scheibe):
     with wand(0, 0, 25, 26, "s"):
         for z in (4.0, 13.6, 22.8):
             for x in (-7.4, 0, 7.4):
-                fenster(x, z, 3.6, 6.0, scheibe=scheibe(), bogen=z < 5, sprossen=(2, 2), läden=None if z < 5 else "#4f7f6a")
+                fenster(x, z, 3.6, 6.0, scheibe=scheibe(), bogen=z < 5, sprossen=(2, 2), läden=None if z < 5
+                        else "#4f7f6a")
                 if z > 20:
                     balkon(x, z, 5.6, 1.8)
         quader(0, -.5, 31.6, 23, 1.2, 9.2, stoff("#24506a", rau=.4, glanz=.4), .5)

@@ -40,7 +40,8 @@ def wagen(farbe):
     lackiert = stoff(farbe, rau=.22, glanz=.6, fleck=0)
     chrom, dunkel = metall("#e6e8ea", .18), stoff("#4a6274", rau=.1, glanz=.8, fleck=0)
     creme = stoff("#fbf3df", rau=.25, glanz=.5, fleck=0)
-    querkörper([(-13.4, 2.4), (-13.6, 5.2), (-11.8, 7.0), (-5.5, 7.9), (9.5, 7.9), (12.8, 6.6), (13.6, 4.6), (13.2, 2.4)],
+    querkörper([(-13.4, 2.4), (-13.6, 5.2), (-11.8, 7.0), (-5.5, 7.9), (9.5, 7.9), (12.8, 6.6), (13.6, 4.6),
+                (13.2, 2.4)],
                13.6, lackiert, 1.5, .92)
     for y in (-8.2, 8.2):
         for x in (-6.5, 6.5):

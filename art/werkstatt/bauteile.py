@@ -87,7 +87,7 @@ def pagodendach(x, y, z, b, t, h, stoff_=None, über=4.0, schwung=1.0, oben=0.25
     return o
 
 
-def kuppel(x, y, z, r, stoff_, art="rund", knauf="gold", mass=1.0):
+def kuppel(x, y, z, r, stoff_, art="rund", knauf="gold", maß=1.0):
     """Kuppel; art "rund" oder "zwiebel"."""
     if art == "rund":
         profil = [(r * math.cos(a), r * math.sin(a)) for a in [i * math.pi / 2 / 14 for i in range(14)]] + [(0.02, r)]
@@ -96,14 +96,15 @@ def kuppel(x, y, z, r, stoff_, art="rund", knauf="gold", mass=1.0):
         profil = [(r * q, r * w) for q, w in ((.80, 0), (.93, .12), (1.02, .32), (1.05, .52), (1.0, .74), (.86, .98),
                                               (.64, 1.22), (.40, 1.42), (.20, 1.58), (.08, 1.74), (.02, 1.9))]
         hoch = 1.9 * r
-    drehkörper(x, y, z, profil, stoff_, mass=mass)
+    drehkörper(x, y, z, profil, stoff_, maß=maß)
     if knauf:
-        spitze(x, y, z + hoch * mass - 0.3, 0.16 * r * mass, metall(knauf))
+        spitze(x, y, z + hoch * maß - 0.3, 0.16 * r * maß, metall(knauf))
 
 
 def spitze(x, y, z, r, stoff_):
     """Knauf mit Spitze."""
-    drehkörper(x, y, z, [(r * .5, 0), (r, r * .8), (r * .5, r * 1.6), (r * .8, r * 2.2), (r * .3, r * 3), (0.02, r * 4.6)],
+    drehkörper(x, y, z, [(r * .5, 0), (r, r * .8), (r * .5, r * 1.6), (r * .8, r * 2.2), (r * .3, r * 3),
+                         (0.02, r * 4.6)],
                stoff_, 16)
 
 
@@ -117,15 +118,15 @@ def flachdach(x, y, z, b, t, stoff_, brüstung=None, hoch=1.6, drehung=0.0):
             quader(s * (b / 2 - .5), 0, 0, 1.0, t, hoch, br, 0.3)
 
 
-def zinnen(x, y, z, b, t, stoff_, mass=2.0):
+def zinnen(x, y, z, b, t, stoff_, maß=2.0):
     """Zinnenkranz um ein Rechteck."""
     for achse, lang, quer in ((0, b, t), (1, t, b)):
-        n = max(2, round(lang / (2 * mass)))
+        n = max(2, round(lang / (2 * maß)))
         for i in range(achse, n + 1 - achse):          # die Ecken nur einmal
             a = -lang / 2 + lang * i / n
             for s in (-1, 1):
                 px, py = (a, s * quer / 2) if achse == 0 else (s * quer / 2, a)
-                quader(x + px, y + py, z, mass, mass, mass * 1.1, stoff_, 0.25)
+                quader(x + px, y + py, z, maß, maß, maß * 1.1, stoff_, 0.25)
 
 
 # ---------------------------------------------------------------- Wände
@@ -192,10 +193,12 @@ def fensterreihe(z, breite, zahl, b, h, **wie):
 
 def tür(x, z, b, h, stoff_="dunkelholz", rahmen="weiß", bogen=False, stufen=1):
     """Tür mit Rahmen und Stufen davor, im Rahmen einer Wand."""
-    fenster(x, z, b, h, rahmen=rahmen, scheibe=als_stoff(stoff_), rand=.6, tief=.6, sprossen=(1, 0), sims=False, bogen=bogen)
+    fenster(x, z, b, h, rahmen=rahmen, scheibe=als_stoff(stoff_), rand=.6, tief=.6, sprossen=(1, 0), sims=False,
+            bogen=bogen)
     kugel(x + .45, -.5, z + h * .45, .28, metall())
     for i in range(stufen):
-        quader(x, -1.2 - .8 * (stufen - 1 - i) / 1, z - .8 * (stufen - i) + .05, b + 2.5, 2.4 + 1.6 * (stufen - 1 - i), .8, "stein", .15)
+        quader(x, -1.2 - .8 * (stufen - 1 - i) / 1, z - .8 * (stufen - i) + .05, b + 2.5, 2.4 + 1.6 * (stufen - 1 - i),
+               .8, "stein", .15)
 
 
 def balkon(x, z, b, tief=2.2, platte="weiß", gitter="weiß", hoch=2.0, voll=False):
@@ -224,7 +227,8 @@ def markise(x, z, b, tief=3.0, farben=("rot", "weiß"), streifen=1.2):
 
 def säule(x, y, z, r, h, stoff_="weiß", kapitell=True):
     """Säule mit Fuß und Kopf."""
-    drehkörper(x, y, z, [(r * 1.35, 0), (r * 1.35, r * .5), (r * 1.05, r * .8), (r, r), (r * .88, h - r), (r, h - r * .8),
+    drehkörper(x, y, z, [(r * 1.35, 0), (r * 1.35, r * .5), (r * 1.05, r * .8), (r, r), (r * .88, h - r),
+                         (r, h - r * .8),
                         (r * 1.3, h - r * .5), (r * 1.3, h)] if kapitell else [(r, 0), (r * .95, h)], stoff_, 20)
 
 
@@ -260,8 +264,10 @@ def fahne(x, y, z, hoch, farben=("rot",), b=5.0, h=3.2, drehung=0.0):
     zylinder(x, y, z, .28, hoch, "weiß", oben=.2, rund=0)
     kugel(x, y, z + hoch, .5, metall())
     n, k = 14, len(farben)
-    p = [(b * i / n, .45 * math.sin(i * .8) * i / n, hoch - .4 - h * j / k - .25 * i / n) for j in range(k + 1) for i in range(n + 1)]
-    f = [(j * (n + 1) + i, j * (n + 1) + i + 1, (j + 1) * (n + 1) + i + 1, (j + 1) * (n + 1) + i) for j in range(k) for i in range(n)]
+    p = [(b * i / n, .45 * math.sin(i * .8) * i / n, hoch - .4 - h * j / k - .25 * i / n) for j in range(k + 1)
+         for i in range(n + 1)]
+    f = [(j * (n + 1) + i, j * (n + 1) + i + 1, (j + 1) * (n + 1) + i + 1, (j + 1) * (n + 1) + i) for j in range(k)
+         for i in range(n)]
     me = netz_aus(p, f, "Fahne")
     for s in farben:
         me.materials.append(als_stoff(s))
@@ -280,7 +286,8 @@ def schirm(x, y, z=0.0, r=4.0, hoch=5.5, farben=("rot", "weiß")):
     """Sonnenschirm mit Feldern in zwei Farben."""
     zylinder(x, y, z, .25, hoch, "weiß", rund=0)
     n = 12
-    p = [(0, 0, r * .45)] + [(r * math.cos(2 * math.pi * i / n), r * math.sin(2 * math.pi * i / n), 0) for i in range(n)]
+    p = [(0, 0, r * .45)] + [(r * math.cos(2 * math.pi * i / n), r * math.sin(2 * math.pi * i / n), 0)
+                             for i in range(n)]
     me = netz_aus(p, [(0, 1 + i, 1 + (i + 1) % n) for i in range(n)], "Schirm")
     for s in farben:
         me.materials.append(als_stoff(s))
@@ -316,7 +323,8 @@ def brunnen(x, y, z=0.0, r=6.0, stoff_="weiß"):
     """Runder Springbrunnen mit zwei Schalen."""
     drehkörper(x, y, z, [(r, 0), (r, 1.6), (r - .8, 1.6), (r - .9, .9), (.8, .9)], stoff_, 40, .1)
     zylinder(x, y, z + .9, r - .9, .3, wasser("#55c3dd"), rund=0)
-    drehkörper(x, y, z, [(.9, 0), (.6, 2.5), (r * .5, 3.6), (r * .52, 4.0), (r * .4, 3.9), (.5, 3.6), (.4, 5.4), (r * .26, 6.2),
+    drehkörper(x, y, z, [(.9, 0), (.6, 2.5), (r * .5, 3.6), (r * .52, 4.0), (r * .4, 3.9), (.5, 3.6), (.4, 5.4),
+                         (r * .26, 6.2),
                         (r * .27, 6.5), (.1, 6.5)], stoff_, 32, .1)
     kugel(x, y, z + 7.2, .8, stoff("#dff4ff", rau=.2))
 

@@ -47,8 +47,8 @@ class Baum:
         x = self.neu("SeparateXYZ", {0: vektor})
         return [Wert(self, a) for a in x.ausgang.node.outputs]
 
-    def rauschen(self, ort, mass, stufen, verzerrung=0.0):
-        return self.neu("TexNoise", {"Scale": mass, "Detail": stufen, "Distortion": verzerrung, "Vector": ort}, "Fac")
+    def rauschen(self, ort, maß, stufen, verzerrung=0.0):
+        return self.neu("TexNoise", {"Scale": maß, "Detail": stufen, "Distortion": verzerrung, "Vector": ort}, "Fac")
 
     def spanne(self, wert, von, bis):
         """Bildet `von` (kleinster, größter Wert) auf `bis` ab."""

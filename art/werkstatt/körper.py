@@ -30,19 +30,19 @@ def welt(x, y, z=0.0):
 
 
 @contextmanager
-def bei(x=0.0, y=0.0, z=0.0, drehung=0.0, mass=1.0):
+def bei(x=0.0, y=0.0, z=0.0, drehung=0.0, maß=1.0):
     """Was darin gebaut wird, steht um (x, y, z) verschoben, um `drehung` Grad gedreht."""
     _ORT.append(_ORT[-1] @ schub(x, y, z) @ dreh(drehung, "Z")
-                @ Matrix.Scale(mass, 4))
+                @ Matrix.Scale(maß, 4))
     try:
         yield
     finally:
         _ORT.pop()
 
 
-def am_brett(x, y, z=0.0, drehung=0.0, mass=1.0):
+def am_brett(x, y, z=0.0, drehung=0.0, maß=1.0):
     """Wie `bei`, der Ort als Entwurfspunkt des Brettes."""
-    return bei(*welt(x, y, z), drehung=drehung, mass=mass)
+    return bei(*welt(x, y, z), drehung=drehung, maß=maß)
 
 
 @contextmanager
@@ -55,9 +55,9 @@ def rahmen(matrix):
         _ORT.pop()
 
 
-def lage(x=0.0, y=0.0, z=0.0, drehung=0.0, mass=1.0):
+def lage(x=0.0, y=0.0, z=0.0, drehung=0.0, maß=1.0):
     """Matrix eines Ortes im geltenden Rahmen."""
-    m = mass if isinstance(mass, (tuple, list)) else (mass,) * 3
+    m = maß if isinstance(maß, (tuple, list)) else (maß,) * 3
     return (schub(x, y, z) @ dreh(drehung, "Z")
             @ Matrix.Diagonal((*m, 1)))
 
@@ -165,16 +165,17 @@ def keil(x, y, z, b, t, h, stoff_, rund=0.3, drehung=0.0):
     return objekt("Keil", netz_aus(p, f), stoff_, lage(x, y, z, drehung), rund)
 
 
-def drehkörper(x, y, z, profil, stoff_, seiten=32, rund=0.0, glatt=True, mass=1.0):
+def drehkörper(x, y, z, profil, stoff_, seiten=32, rund=0.0, glatt=True, maß=1.0):
     """Profil [(r, z), ...] von unten nach oben um die Achse gedreht."""
     p, f = [], []
     for r, h in profil:
-        p += [(r * math.cos(2 * math.pi * i / seiten), r * math.sin(2 * math.pi * i / seiten), h) for i in range(seiten)]
+        p += [(r * math.cos(2 * math.pi * i / seiten), r * math.sin(2 * math.pi * i / seiten), h)
+              for i in range(seiten)]
     for k in range(len(profil) - 1):
         f += [(k * seiten + i, k * seiten + (i + 1) % seiten, (k + 1) * seiten + (i + 1) % seiten,
                (k + 1) * seiten + i) for i in range(seiten)]
     f += [tuple(range(seiten - 1, -1, -1)), tuple(range((len(profil) - 1) * seiten, len(profil) * seiten))]
-    return objekt("Drehkörper", netz_aus(p, f), stoff_, lage(x, y, z, 0, mass), rund, glatt)
+    return objekt("Drehkörper", netz_aus(p, f), stoff_, lage(x, y, z, 0, maß), rund, glatt)
 
 
 def zylinder(x, y, z, r, h, stoff_, oben=None, seiten=24, rund=0.3):
@@ -238,7 +239,8 @@ def band(punkte, breite, stoff_, z=0.0, dick=0.4, zu=False, rund=0.15, versatz=0
     f = []
     for i in range(n if zu else n - 1):
         j = (i + 1) % n
-        f += [(2 * n + i, 3 * n + i, 3 * n + j, 2 * n + j), (i, 2 * n + i, 2 * n + j, j), (n + i, n + j, 3 * n + j, 3 * n + i)]
+        f += [(2 * n + i, 3 * n + i, 3 * n + j, 2 * n + j), (i, 2 * n + i, 2 * n + j, j),
+              (n + i, n + j, 3 * n + j, 3 * n + i)]
     if not zu:
         f += [(0, n, 3 * n, 2 * n), (n - 1, 3 * n - 1, 4 * n - 1, 2 * n - 1)]
     bm = bmesh.new()
@@ -256,7 +258,7 @@ def schrift(text, x, y, z, höhe, stoff_, stehend=True, drehung=0.0, dick=0.15, 
     return stelle(bpy.data.objects.new("Schrift", kurve), lage(x, y, z, drehung) @ kipp)
 
 
-def gemeinsam(schlüssel, bauen, x, y, z=0.0, drehung=0.0, mass=1.0):
+def gemeinsam(schlüssel, bauen, x, y, z=0.0, drehung=0.0, maß=1.0):
     """Stellt ein Netz auf, das `bauen()` nur einmal als bmesh mit Stoffen (bm, [stoff, ...]) herstellt."""
     if schlüssel not in _NETZE:
         bm, stoffe = bauen()
@@ -267,14 +269,14 @@ def gemeinsam(schlüssel, bauen, x, y, z=0.0, drehung=0.0, mass=1.0):
         for s in stoffe:
             me.materials.append(als_stoff(s))
         _NETZE[schlüssel] = me
-    return objekt(str(schlüssel), _NETZE[schlüssel], [], lage(x, y, z, drehung, mass), glatt=True)
+    return objekt(str(schlüssel), _NETZE[schlüssel], [], lage(x, y, z, drehung, maß), glatt=True)
 
 
 # ---------------------------------------------------------------- Figuren: frei gestellte, weiche Körper
 
-def platz(ort=(0, 0, 0), drehung=(0, 0, 0), mass=(1, 1, 1)):
+def platz(ort=(0, 0, 0), drehung=(0, 0, 0), maß=(1, 1, 1)):
     """Matrix aus Ort, Drehung um x, y, z im Bogenmaß und Maß."""
-    return Matrix.LocRotScale(Vector(ort), Euler(drehung), Vector(mass))
+    return Matrix.LocRotScale(Vector(ort), Euler(drehung), Vector(maß))
 
 
 def gitter(nu, nv, zu_u=False, zu_v=False):
@@ -309,9 +311,9 @@ def gedreht(profil, stoff_, n=64, matrix=Matrix.Identity(4), verbiegen=None):
     return netz([verbiegen(q) for q in p] if verbiegen else p, gitter(n, len(profil), zu_u=True), stoff_, matrix)
 
 
-def ball(r, ort, stoff_, mass=(1, 1, 1), drehung=(0, 0, 0), n=32):
+def ball(r, ort, stoff_, maß=(1, 1, 1), drehung=(0, 0, 0), n=32):
     profil = [(r * math.sin(math.pi * i / n), -r * math.cos(math.pi * i / n)) for i in range(n + 1)]
-    return gedreht(profil, stoff_, 2 * n, platz(ort, drehung, mass))
+    return gedreht(profil, stoff_, 2 * n, platz(ort, drehung, maß))
 
 
 def schlauch(punkte, radien, stoff_, n=12, flach=1.0, rillen=0, tief=0.0, nach_außen=None, zu=False):

@@ -13,8 +13,9 @@ from befehl import als_jpeg, brauche, rufe, ziel
 
 brauche("librsvg2-bin", "imagemagick", "fonts-urw-base35", "fonts-dejavu-core")
 
-# Palette der Insel: Papier, Tinte
+# Palette der Insel: Papier, Tinte, Messing
 PAPIER, PAPIER_TIEF, TINTE = "#f6ead0", "#e4cfa4", "#4a3320"
+MESSING_HELL, MESSING_TIEF = "#ffe3a0", "#8c5e1c"
 GOLD = "url(#gold)"
 
 SCHRIFT = "URW Gothic"          # klar, rund: Zahlen und Schilder
@@ -65,7 +66,8 @@ def verlauf(name, farben, x1=0, y1=0, x2=0, y2=1):
 
 def kugel(name, farben, cx=0.36, cy=0.3, r=0.75):
     """Runder Verlauf, Licht von links oben."""
-    return f'<radialGradient id="{name}" cx="{cx}" cy="{cy}" r="{r}" fx="{cx}" fy="{cy}">{_stufen(farben)}</radialGradient>'
+    return (f'<radialGradient id="{name}" cx="{cx}" cy="{cy}" r="{r}" fx="{cx}" '
+            f'fy="{cy}">{_stufen(farben)}</radialGradient>')
 
 
 def kurve(punkte, zu=False):

@@ -32,10 +32,10 @@ def heller(farbe, faktor):
     return "#" + "".join("%02x" % min(255, max(0, round(int(h[i:i + 2], 16) * faktor))) for i in (0, 2, 4))
 
 
-def stoff(farbe, rau=0.55, glanz=0.35, metall=0.0, fleck=0.10, fleckmass=0.06, korn=0.0, kornmass=1.2,
+def stoff(farbe, rau=0.55, glanz=0.35, metall=0.0, fleck=0.10, fleckmaß=0.06, korn=0.0, kornmaß=1.2,
           muster=None, musterhub=0.5, leuchten=0.0):
     """Ein Stoff. fleck: Anteil der Helligkeitsflecken; korn: Rauheit der Fläche; muster: siehe _muster."""
-    schlüssel = (farbe, rau, glanz, metall, fleck, fleckmass, korn, kornmass, muster, musterhub, leuchten)
+    schlüssel = (farbe, rau, glanz, metall, fleck, fleckmaß, korn, kornmaß, muster, musterhub, leuchten)
     if schlüssel not in _STOFFE:
         m, baum, p = stoffbaum(str(farbe))
         farbwert = (*rgb(farbe), 1)
@@ -45,40 +45,40 @@ def stoff(farbe, rau=0.55, glanz=0.35, metall=0.0, fleck=0.10, fleckmass=0.06, k
         ort = baum.neu("NewGeometry", aus="Position")
         ton, höhe = farbwert, None
         if fleck:
-            ton = baum.mal(ton, baum.spanne(baum.rauschen(ort, fleckmass, 2), (.3, .7), (1 - fleck, 1 + fleck)))
+            ton = baum.mal(ton, baum.spanne(baum.rauschen(ort, fleckmaß, 2), (.3, .7), (1 - fleck, 1 + fleck)))
         if muster:
             höhe, zeichnung = _muster(baum, *muster)
             ton = baum.mal(ton, zeichnung)
             m["muster"] = True                  # sein Netz braucht eine Flächenlage
         baum.setze(p, {"Base Color": ton})
-        _fläche(baum, p, ort, korn, kornmass, höhe, musterhub)
+        _fläche(baum, p, ort, korn, kornmaß, höhe, musterhub)
         _STOFFE[schlüssel] = m
     return _STOFFE[schlüssel]
 
 
-def _fläche(baum, p, ort, korn, kornmass, höhe=None, hub=0.0):
+def _fläche(baum, p, ort, korn, kornmaß, höhe=None, hub=0.0):
     """Unebenheit aus Korn und Muster."""
     normale = None
     if höhe:
         normale = baum.relief(höhe, hub, 1.0) if korn else baum.relief(höhe, min(1, hub), max(1, hub))
     if korn:
-        normale = baum.relief(baum.rauschen(ort, kornmass, 2), min(1, korn), max(1, korn), normale)
+        normale = baum.relief(baum.rauschen(ort, kornmaß, 2), min(1, korn), max(1, korn), normale)
     if normale:
         baum.setze(p, {"Normal": normale})
 
 
-def punktstoff(name, rau, glanz, korn, kornmass, fleck):
+def punktstoff(name, rau, glanz, korn, kornmaß, fleck):
     """Stoff, der seine Farbe aus den Netzpunkten nimmt (Farbfeld "Farbe")."""
     m, baum, p = stoffbaum(name)
     ort = baum.neu("NewGeometry", aus="Position")
     ton = baum.spanne(baum.rauschen(ort, .45, 3), (.25, .75), (1 - fleck, 1 + fleck))
     farbe = baum.neu("Attribute", aus="Color", attribute_name="Farbe")
     baum.setze(p, {"Roughness": rau, "Specular": glanz, "Base Color": baum.mal(farbe, ton)})
-    _fläche(baum, p, ort, korn, kornmass)
+    _fläche(baum, p, ort, korn, kornmaß)
     return m
 
 
-def matt(farbe, rau=0.55, glanz=0.35, metall=0.0, korn=0.0, kornmass=60.0, leuchten=0.0, deck=1.0, ton=None):
+def matt(farbe, rau=0.55, glanz=0.35, metall=0.0, korn=0.0, kornmaß=60.0, leuchten=0.0, deck=1.0, ton=None):
     """Ebenmäßiger Stoff der Figuren: ohne Flecken, feines Korn. ton: Name eines Farbfelds der Netzpunkte."""
     m, baum, p = stoffbaum(str(farbe))
     farbwert = (*rgb(farbe), 1)
@@ -88,7 +88,7 @@ def matt(farbe, rau=0.55, glanz=0.35, metall=0.0, korn=0.0, kornmass=60.0, leuch
     if ton:
         baum.setze(p, {"Base Color": baum.neu("VertexColor", layer_name=ton)})
     if korn:
-        baum.setze(p, {"Normal": baum.relief(baum.neu("TexNoise", {"Scale": kornmass}), korn, .02)})
+        baum.setze(p, {"Normal": baum.relief(baum.neu("TexNoise", {"Scale": kornmaß}), korn, .02)})
     return m
 
 
@@ -109,8 +109,8 @@ def _muster(baum, art, breite, höhe, spiel=0.18):
         bogen = baum.mathe("SINE", pf * math.pi)
         hub, grund = bogen + (1.0 - qf) * 0.9, 0.72 + bogen * 0.3
     else:
-        def fuge(f, mass):
-            return baum.mathe("MINIMUM", 1.0, baum.mathe("MINIMUM", f, 1.0 - f) * (mass / 0.16))
+        def fuge(f, maß):
+            return baum.mathe("MINIMUM", 1.0, baum.mathe("MINIMUM", f, 1.0 - f) * (maß / 0.16))
         hub = fuge(pf, breite) * fuge(qf, höhe)
         grund = 0.72 + hub * 0.28
     zelle = baum.neu("CombineXYZ", {0: spalte, 1: reihe})
@@ -124,7 +124,7 @@ def lack(farbe):
 
 
 def putz(farbe):
-    return stoff(farbe, rau=0.8, glanz=0.2, fleck=0.06, korn=0.12, kornmass=1.5)
+    return stoff(farbe, rau=0.8, glanz=0.2, fleck=0.06, korn=0.12, kornmaß=1.5)
 
 
 def holz(farbe="holz"):
@@ -132,40 +132,40 @@ def holz(farbe="holz"):
     return stoff(farbe, rau=0.6, glanz=0.25, muster=("brett", 14, 2.2, 0.25), musterhub=0.4)
 
 
-def ziegel(farbe="ziegelrot", mass=2.6):
-    return stoff(farbe, rau=0.6, glanz=0.3, muster=("ziegel", mass, mass * 1.15, 0.30), musterhub=0.9)
+def ziegel(farbe="ziegelrot", maß=2.6):
+    return stoff(farbe, rau=0.6, glanz=0.3, muster=("ziegel", maß, maß * 1.15, 0.30), musterhub=0.9)
 
 
-def mauer(farbe="stein", mass=3.0):
-    return stoff(farbe, rau=0.75, glanz=0.2, muster=("stein", mass * 2, mass, 0.22), musterhub=0.5)
+def mauer(farbe="stein", maß=3.0):
+    return stoff(farbe, rau=0.75, glanz=0.2, muster=("stein", maß * 2, maß, 0.22), musterhub=0.5)
 
 
-def platten(farbe="stein", mass=6.0, spiel=0.10):
-    return stoff(farbe, rau=0.5, glanz=0.35, muster=("platte", mass, mass, spiel), musterhub=0.3)
+def platten(farbe="stein", maß=6.0, spiel=0.10):
+    return stoff(farbe, rau=0.5, glanz=0.35, muster=("platte", maß, maß, spiel), musterhub=0.3)
 
 
 def stroh(farbe="stroh"):
-    return stoff(farbe, rau=0.9, glanz=0.1, muster=("brett", 1.1, 3.2, 0.5), musterhub=0.9, korn=0.4, kornmass=2.0)
+    return stoff(farbe, rau=0.9, glanz=0.1, muster=("brett", 1.1, 3.2, 0.5), musterhub=0.9, korn=0.4, kornmaß=2.0)
 
 
 def stein(farbe="stein"):
-    return stoff(farbe, rau=0.8, glanz=0.2, fleck=0.18, fleckmass=0.2, korn=0.5, kornmass=0.7)
+    return stoff(farbe, rau=0.8, glanz=0.2, fleck=0.18, fleckmaß=0.2, korn=0.5, kornmaß=0.7)
 
 
 def laub(farbe="laub"):
-    return stoff(farbe, rau=0.85, glanz=0.12, fleck=0.22, fleckmass=0.25, korn=0.9, kornmass=0.9)
+    return stoff(farbe, rau=0.85, glanz=0.12, fleck=0.22, fleckmaß=0.25, korn=0.9, kornmaß=0.9)
 
 
 def gras(farbe="gras"):
-    return stoff(farbe, rau=0.9, glanz=0.1, fleck=0.14, fleckmass=0.05, korn=0.7, kornmass=1.4)
+    return stoff(farbe, rau=0.9, glanz=0.1, fleck=0.14, fleckmaß=0.05, korn=0.7, kornmaß=1.4)
 
 
 def glas(farbe="glas"):
-    return stoff(farbe, rau=0.08, glanz=0.9, fleck=0.15, fleckmass=0.04)
+    return stoff(farbe, rau=0.08, glanz=0.9, fleck=0.15, fleckmaß=0.04)
 
 
 def wasser(farbe="wasser"):
-    return stoff(farbe, rau=0.06, glanz=0.7, fleck=0.12, fleckmass=0.08, korn=0.10, kornmass=0.35)
+    return stoff(farbe, rau=0.06, glanz=0.7, fleck=0.12, fleckmaß=0.08, korn=0.10, kornmaß=0.35)
 
 
 def metall(farbe="gold", rau=0.3):
