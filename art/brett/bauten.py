@@ -81,7 +81,7 @@ def parkplatz():
         quader(0, 0, .1, rechts - links - 4, 35 * TIEFE - 4, .65, stoff("#66686e", rau=.85, fleck=.08, korn=.3), .2)
         for x in [orte[0][0] - 15] + [px + 15 for px, _ in orte]:
             quader(x - (links + rechts) / 2, 0, .72, .8, 30, .12, "#f4efe2", 0)
-        for nr, (px, _) in enumerate(orte):
+        for px, _ in orte:
             with rahmen(schub(px - (links + rechts) / 2, 0, .74) @ Matrix.Diagonal((1, TIEFE, 1, 1))):
                 schrift("P", 0, 0, 0, 15, stoff("#f4efe2", fleck=0), stehend=False, dick=.05, datei=DEJAVU % "Sans")
 

@@ -169,7 +169,6 @@ def royal():
     umriss = GÄRTEN["Royal"]
     flach([(p[0], -p[1] / TIEFE) for p in weich(umriss)], -.1, .6, stoff("#e8dab4", rau=.9, korn=.4, kornmaß=2), .2)
     innen = weich([(x + (212 - x) * .055, y + (174 - y) * .09) for x, y in umriss])
-    unten, oben = min(p[1] for p in innen), max(p[1] for p in innen)
     flach([(p[0], -p[1] / TIEFE) for p in innen], -.1, .85,
           stoff("#74ad48", rau=.9, muster=("brett", 4000, 11, .34), musterhub=.05, korn=.5, kornmaß=1.6), .2)
     with am_brett(212, 176):

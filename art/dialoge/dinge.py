@@ -4,7 +4,7 @@ from zeichenteile import *
 
 
 def scheine(wert, n=3):
-    grund, tief, zwei, hell = NOTEN[wert][:4]
+    grund, tief, _, hell = NOTEN[wert][:4]
     s = ""
     for k in range(n):
         s += (f'<g transform="translate({-6 + 7 * k} {14 - 11 * k}) rotate({-5 + 2 * k})">'

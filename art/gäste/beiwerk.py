@@ -14,7 +14,6 @@ def strohhut(k, art, tuch, bandstoff, _):
     b = k.g["breit"]
     groß = art == "sonnenhut"
     R = 1.62 if groß else 1.30
-    n = 40
     krone = ([(0.985 - 0.06 * (t ** 2), 0.0 + 0.62 * t) for t in np.linspace(0, 0.72, 14)]
              + [(0.95 * math.cos(t), 0.45 + 0.22 * math.sin(t)) for t in np.linspace(0.1, math.pi / 2, 14)])
     krempe = [(0.97 + (R - 0.97) * t, 0.0 - 0.05 * t ** 2 + 0.0) for t in np.linspace(0, 1, 14)]
@@ -67,7 +66,6 @@ def mütze(k, art, tuch, bandstoff, _):
 def kopftuch(k, art, tuch, bandstoff, f2):
     d, f = k.richtung(64)
     X, Y, Z = d[:, 0], d[:, 1], d[:, 2]
-    phi = np.abs(np.arctan2(X, -Y))
     gesicht = np.hypot(X / 0.69, (Z - 0.03) / 0.84)
     mk = np.where(Y < 0.1, gesicht - 1, 1.0)
     falten = 0.022 * np.sin(9 * np.arctan2(Z + 1.2, np.abs(X) + 0.4) * 2 + 3 * Y) * weich(0.05, 0.5, mk)

@@ -34,8 +34,7 @@ class Haarkopf(Kopf):
                  streuung=0.25, spitze=0.15, seite=None, saat=1):
         """n Strähnen, deren Wurzeln über die Kopfhaut verteilt sind und die dem Feld fluss(p, zufall) folgen."""
         z = random.Random(self.g["nr"] * 31 + saat)
-        k, i = 0, 0
-        gold = math.pi * (3 - math.sqrt(5))
+        i, gold = 0, math.pi * (3 - math.sqrt(5))
         while i < n * 3:
             i += 1
             hz = 1 - 2 * (i - 0.5) / (n * 3)
@@ -44,37 +43,36 @@ class Haarkopf(Kopf):
             mm = self.maske(d[None])[0]
             if not ab < mm < bis or (seite and not seite(d)):
                 continue
-            punkte, aus, l = [], [], länge * z.uniform(0.8, 1.15)
-            schritte = max(5, int(l / schritt))
-            ablenk = Vector([z.gauss(0, streuung) for _ in range(3)])
-            frei = None
-            for q in range(schritte):
-                u = q / (schritte - 1)
-                if frei is None:
-                    h = 0.02 + höhe * math.sin(math.pi * min(1, 0.25 + 0.75 * u)) ** 0.7
-                    p = Vector(self.hülle(d[None], h)[0])
-                    r = Vector(d).normalized()
-                    F = Vector(fluss(Vector(d), z)) + ablenk * 0.5
-                    F = F - r * F.dot(r)
-                    F = F.normalized() if F.length > 1e-6 else Vector((0, 0, -1))
-                    if fall is not None and d[2] < fall:
-                        frei = p.copy()
-                    nd = np.array(Vector(d) + F * schritt * 1.15)
-                    d = nd / np.linalg.norm(nd)
-                else:
-                    frei = (frei
-                            + Vector((ablenk.x * 0.02 - frei.x * 0.018, (0.25 - frei.y) * 0.02
-                                      + 0.012 * math.sin(u * 9 + i), -schritt * 0.9)))
-                    p = frei.copy()
-                    r = Vector((p.x, p.y, 0)).normalized()
-                punkte.append(p)
-                aus.append(r)
+            schritte = max(5, int(länge * z.uniform(0.8, 1.15) / schritt))
+            punkte, aus = self.bahn(d, fluss, z, höhe, fall, schritt, schritte, streuung, i)
             anteile = [q / (schritte - 1) for q in range(schritte)]
             rad = [breite * min(1, 0.55 + 3 * t) * (1 - (1 - spitze) * max(0, (t - 0.45) / 0.55) ** 1.6)
                    for t in anteile]
             schlauch(punkte, rad, z.choice(materialien), n=14, flach=0.55, rillen=6, tief=0.10, nach_außen=aus)
-            k += 1
-        return k
+
+    def bahn(self, d, fluss, z, höhe, fall, schritt, schritte, streuung, i):
+        """Punkte und Außenrichtungen einer Strähne: auf der Kopfhaut dem Feld nach, unter `fall` frei hängend."""
+        punkte, aus, frei = [], [], None
+        ablenk = Vector([z.gauss(0, streuung) for _ in range(3)])
+        for q in range(schritte):
+            u = q / (schritte - 1)
+            if frei is None:
+                p = Vector(self.hülle(d[None], 0.02 + höhe * math.sin(math.pi * min(1, 0.25 + 0.75 * u)) ** 0.7)[0])
+                r = Vector(d).normalized()
+                F = Vector(fluss(Vector(d), z)) + ablenk * 0.5
+                F = F - r * F.dot(r)
+                F = F.normalized() if F.length > 1e-6 else Vector((0, 0, -1))
+                if fall is not None and d[2] < fall:
+                    frei = p.copy()
+                nd = np.array(Vector(d) + F * schritt * 1.15)
+                d = nd / np.linalg.norm(nd)
+            else:
+                wehen = (0.25 - frei.y) * 0.02 + 0.012 * math.sin(u * 9 + i)
+                frei = frei + Vector((ablenk.x * 0.02 - frei.x * 0.018, wehen, -schritt * 0.9))
+                p, r = frei.copy(), Vector((frei.x, frei.y, 0)).normalized()
+            punkte.append(p)
+            aus.append(r)
+        return punkte, aus
 
     def locken(self, n, größe, materialien, höhe=0.12, ab=0.0, windung=1.6, saat=2):
         """Ringellocken: flache Schnecken über der Kopfhaut."""
@@ -129,85 +127,102 @@ class Haarkopf(Kopf):
                        material)
 
 
+# ---------------------------------------------------------------- Frisuren
+
+def rückwärts(schräg, quer, hinauf, hinab):
+    """Feld, das nach hinten kämmt: über der Stirn hinauf, dahinter hinab."""
+    return lambda p, z: (schräg * p.x + quer, 1.0, hinauf if p.y < -0.2 else hinab)
+
+
+def seitwärts(xp):
+    """Feld, das vom Scheitel bei xp nach beiden Seiten fällt."""
+    return lambda p, z: ((1 if p.x > xp else -1) * (1.0 if p.z > 0.2 else 0.25), 0.35 if p.y < 0.1 else 0.05,
+                         -0.45 if p.z > 0.4 else -1.0)
+
+
+# Dicke der Kappe, Zahl, Feld, Länge, Breite, Höhe, Streuung der Strähnen
+GEKÄMMT = {"zurück": (0.10, 230, rückwärts(0.5, 0, 0.45, -0.5), 0.85, 0.062, 0.15, 0.14),
+           "pomade": (0.11, 230, rückwärts(0.35, 0.25, 0.5, -0.6), 0.95, 0.060, 0.17, 0.06),
+           "strubbel": (0.12, 150, lambda p, z: (0.9 * p.x + 0.5, -0.5, 0.5), 0.5, 0.085, 0.20, 0.5),
+           "kurz": (0.08, 120, lambda p, z: (0.2 * p.x, 0.3, -1), 0.30, 0.08, 0.10, 0.2)}
+# Scheitel, Zahl, Länge, Breite, Fall, Streuung, Spitze
+OFFEN = {"lang": (0.0, 190, 2.3, 0.105, -0.12, 0.12, 0.12), "wellen": (0.22, 190, 1.9, 0.105, -0.12, 0.35, 0.12),
+         "surfer": (-0.15, 150, 1.0, 0.105, -0.12, 0.35, 0.12),
+         "pagenkopf": (0.0, 190, 1.15, 0.10, -0.35, 0.05, 0.5)}
+
+
 def frisieren(k):
-    g, f = k.g, k.g["frisur"]
+    f = k.g["frisur"]
     if f in ("keine", "glatze"):
         return
     st = k.haarstoffe()
-    scheitel = lambda xp, runter=-0.55, vor=0.0: (lambda p,
-                                                  z: ((1 if p.x > xp else -1) * 1.0, -vor if p.y < 0 else 0.5, runter))
-    if f == "zurück":
-        k.kappe(0.10, st[0])
-        k.strähnen(230, lambda p, z: (0.5 * p.x, 1.0, 0.45 if p.y < -0.2 else -0.5), 0.85, 0.062, st, 0.15,
-                   streuung=0.14)
-    elif f == "pomade":
-        k.kappe(0.11, st[0], tief=0.0)
-        k.strähnen(230, lambda p, z: (0.35 * p.x + 0.25, 1.0, 0.5 if p.y < -0.2 else -0.6), 0.95, 0.060, st, 0.17,
-                   streuung=0.06)
-    elif f == "afro":
-        k.kappe(0.30, st[0])
-        k.locken(250, 0.15, st, höhe=0.42, ab=0.06)
-        k.locken(160, 0.14, st, höhe=0.24, ab=0.0, saat=3)
-    elif f == "krauskurz":
-        k.kappe(0.07, st[0])
-        k.locken(260, 0.075, st, höhe=0.08, ab=0.02)
-    elif f == "strubbel":
-        k.kappe(0.12, st[0])
-        k.strähnen(150, lambda p, z: (0.9 * p.x + 0.5, -0.5, 0.5), 0.5, 0.085, st, 0.20, streuung=0.5)
-    elif f == "kurz":
-        k.kappe(0.08, st[0])
-        k.strähnen(120, lambda p, z: (0.2 * p.x, 0.3, -1), 0.30, 0.08, st, 0.10, streuung=0.2)
-    elif f == "stachel":
-        k.kappe(0.10, st[0])
-        z = random.Random(5)
-        k.strähnen(130, lambda p, z: (0.5 * p.x + 0.15, 0.25, -0.9), 0.32, 0.085, st, 0.09, bis=0.55, streuung=0.2)
-        for i in range(64):
-            a, q = i * 2.39996, math.sqrt((i + 0.5) / 64) * 0.92
-            d = Vector((q * math.sin(a) * 0.95, -q * math.cos(a) * 0.95 + 0.02,
-                        math.sqrt(max(0.05, 1 - q * q)))).normalized()
-            if k.maske(np.array(d)[None])[0] < 0.02:
-                continue
+    if f in GEKÄMMT:
+        kappe, zahl, feld, länge, breite, höhe, streuung = GEKÄMMT[f]
+        k.kappe(kappe, st[0], tief=0.0 if f == "pomade" else 0.012)
+        k.strähnen(zahl, feld, länge, breite, st, höhe, streuung=streuung)
+    elif f in OFFEN:
+        offen(k, st, f)
+    else:
+        {"afro": afro, "krauskurz": krauskurz, "stachel": stachel, "dutt": dutt, "zopf": zopf}[f](k, st)
+
+
+def afro(k, st):
+    k.kappe(0.30, st[0])
+    k.locken(250, 0.15, st, höhe=0.42, ab=0.06)
+    k.locken(160, 0.14, st, höhe=0.24, ab=0.0, saat=3)
+
+
+def krauskurz(k, st):
+    k.kappe(0.07, st[0])
+    k.locken(260, 0.075, st, höhe=0.08, ab=0.02)
+
+
+def stachel(k, st):
+    k.kappe(0.10, st[0])
+    k.strähnen(130, lambda p, z: (0.5 * p.x + 0.15, 0.25, -0.9), 0.32, 0.085, st, 0.09, bis=0.55, streuung=0.2)
+    z, t = random.Random(5), np.linspace(0, 1, 8)
+    for i in range(64):
+        a, q = i * 2.39996, math.sqrt((i + 0.5) / 64) * 0.92
+        d = Vector((q * math.sin(a) * 0.95, -q * math.cos(a) * 0.95 + 0.02, math.sqrt(max(0.05, 1 - q * q))))
+        d.normalize()
+        if k.maske(np.array(d)[None])[0] >= 0.02:
             o = Vector(k.hülle(np.array(d)[None], 0.04)[0])
             hin = (d + Vector((0.25, -0.55, 0.35)) + Vector((z.gauss(0, .16), z.gauss(0, .12), 0))).normalized()
-            pk = [o + d * 0.10 * t + hin * 0.34 * t ** 1.2 for t in np.linspace(0, 1, 8)]
-            schlauch(pk, [0.125 * (1 - t) ** 0.75 + 0.004 for t in np.linspace(0, 1, 8)], z.choice(st), n=12,
-                     flach=0.7, rillen=5, tief=0.10)
-    elif f == "dutt":
-        k.kappe(0.13, st[0])
-        ziel = Vector((0, 0.10, 1.15))
-        k.strähnen(130, lambda p, z: (ziel - p), 1.0, 0.095, st, 0.17, streuung=0.08)
-        for i in range(9):
-            w = i * 2 * math.pi / 9
-            pk = [Vector((0.24 * math.cos(w + 2.4 * t) * math.sin(math.pi * (0.18 + 0.8 * t)),
-                          0.10 + 0.24 * math.sin(w + 2.4 * t) * math.sin(math.pi * (0.18 + 0.8 * t)),
-                          1.10 + 0.36 * t)) * 1.0 for t in np.linspace(0, 1, 14)]
-            schlauch(pk, [0.12 * (1 - 0.5 * abs(2 * t - 1)) for t in np.linspace(0, 1, 14)], st[i % 3], n=12, rillen=5,
-                     tief=0.08, flach=0.8)
-        ball(0.27, (0, 0.10, 1.25), st[0])
-    elif f in ("lang", "wellen", "surfer", "zopf", "pagenkopf"):
-        xp = {"lang": 0.0, "wellen": 0.22, "surfer": -0.15, "zopf": 0.0, "pagenkopf": 0.0}[f]
-        k.kappe(0.13, st[0])
-        länge = {"lang": 2.3, "wellen": 1.9, "surfer": 1.0, "zopf": 1.0, "pagenkopf": 1.15}[f]
-        fluss = lambda p, z: ((1 if p.x > xp else -1) * (1.0 if p.z > 0.2 else 0.25), 0.35 if p.y < 0.1 else 0.05,
-                              -0.45 if p.z > 0.4 else -1.0)
-        if f == "zopf":
-            k.strähnen(130, lambda p, z: ((1 if p.x > 0 else -1) * (0.9 if p.z > 0.3 else 0.1), 0.75, -0.45), 1.25,
-                       0.095, st, 0.13, streuung=0.06)
-            for i in range(9):      # geflochten über die Schulter
-                for s in (-1, 1):
-                    ball(0.15,
-                         (0.62 + 0.05 * math.sin(i) + s * 0.055, -0.18 - 0.05 * i + 0.02,
-                          -0.62 - 0.17 * i - (0.085 if s > 0 else 0)), st[(i + (s > 0)) % 3], maß=(0.72, 0.8, 0.95),
-                         drehung=(0, s * 0.7, 0), n=16)
-            ball(0.13, (0.66, -0.64, -2.16), matt("#f0b83c", 0.5), maß=(0.8, 0.8, 0.5), n=16)
-        else:
-            k.strähnen(190 if f != "surfer" else 150, fluss, länge, 0.105 if f != "pagenkopf" else 0.10, st, 0.16,
-                       fall=-0.12 if f != "pagenkopf" else -0.35,
-                       streuung={"lang": 0.12, "wellen": 0.35, "surfer": 0.35, "pagenkopf": 0.05}[f], spitze=0.12
-                       if f != "pagenkopf" else 0.5)
-        if f == "pagenkopf":
-            k.strähnen(60, lambda p, z: (0.05 * p.x, -1.0, -0.5), 0.62, 0.09, st, 0.15, seite=lambda d: d[1] < 0.1
-                       and d[2] > 0.45, streuung=0.05, spitze=0.45, saat=7)
-        if f in ("wellen", "lang"):
-            k.strähnen(34, lambda p, z: ((1 if p.x > xp else -1) * 1.0, -0.35, -0.35), 0.95, 0.10, st, 0.18,
-                       seite=lambda d: d[1] < -0.15 and d[2] > 0.40, streuung=0.15, saat=9)
+            schlauch([o + d * 0.10 * q + hin * 0.34 * q ** 1.2 for q in t], 0.125 * (1 - t) ** 0.75 + 0.004,
+                     z.choice(st), flach=0.7, rillen=5, tief=0.10)
+
+
+def dutt(k, st):
+    k.kappe(0.13, st[0])
+    ziel, t = Vector((0, 0.10, 1.15)), np.linspace(0, 1, 14)
+    k.strähnen(130, lambda p, z: ziel - p, 1.0, 0.095, st, 0.17, streuung=0.08)
+    for i in range(9):
+        w, weit = i * 2 * math.pi / 9, 0.24 * np.sin(math.pi * (0.18 + 0.8 * t))
+        schlauch(np.c_[weit * np.cos(w + 2.4 * t), 0.10 + weit * np.sin(w + 2.4 * t), 1.10 + 0.36 * t],
+                 0.12 * (1 - 0.5 * abs(2 * t - 1)), st[i % 3], flach=0.8, rillen=5, tief=0.08)
+    ball(0.27, (0, 0.10, 1.25), st[0])
+
+
+def zopf(k, st):
+    """Geflochten über die Schulter."""
+    k.kappe(0.13, st[0])
+    k.strähnen(130, lambda p, z: ((1 if p.x > 0 else -1) * (0.9 if p.z > 0.3 else 0.1), 0.75, -0.45), 1.25, 0.095, st,
+               0.13, streuung=0.06)
+    for i in range(9):
+        for s in (-1, 1):
+            ort = (0.62 + 0.05 * math.sin(i) + s * 0.055, -0.16 - 0.05 * i, -0.62 - 0.17 * i - (0.085 if s > 0 else 0))
+            ball(0.15, ort, st[(i + (s > 0)) % 3], (0.72, 0.8, 0.95), (0, s * 0.7, 0), 16)
+    ball(0.13, (0.66, -0.64, -2.16), matt("#f0b83c", 0.5), (0.8, 0.8, 0.5), n=16)
+
+
+def offen(k, st, f):
+    """Offenes Haar, das von der Kopfhaut fällt; dazu Pony oder Stirnsträhnen."""
+    xp, zahl, länge, breite, fall, streuung, spitze = OFFEN[f]
+    k.kappe(0.13, st[0])
+    k.strähnen(zahl, seitwärts(xp), länge, breite, st, 0.16, fall=fall, streuung=streuung, spitze=spitze)
+    if f == "pagenkopf":
+        k.strähnen(60, lambda p, z: (0.05 * p.x, -1.0, -0.5), 0.62, 0.09, st, 0.15, streuung=0.05, spitze=0.45, saat=7,
+                   seite=lambda d: d[1] < 0.1 and d[2] > 0.45)
+    if f in ("wellen", "lang"):
+        k.strähnen(34, lambda p, z: (1.0 if p.x > xp else -1.0, -0.35, -0.35), 0.95, 0.10, st, 0.18, streuung=0.15,
+                   saat=9, seite=lambda d: d[1] < -0.15 and d[2] > 0.40)

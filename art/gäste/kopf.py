@@ -241,7 +241,7 @@ class Kopf:
 
     def mund(self):
         g = self.g
-        art, breit, lächeln, farbe, voll = g["mund"]
+        art, _, lächeln, farbe, voll = g["mund"]
         z0, b = self.mund_z, self.mund_b
         lippe = matt(farbe, 0.38, 0.45)
         u = np.linspace(-1, 1, 31)

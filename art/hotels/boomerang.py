@@ -74,7 +74,20 @@ def boom():
     eukalyptus(-23, 90, maß=1.5)
     eukalyptus(43, 92, maß=1.1)
     eukalyptus(-44, 62, maß=1.0)
-    # Deck und Veranda
+    veranda()
+    obergeschoss()
+    for x, y, m in ((-46, 10, 1.0), (47, 8, 1.1), (-30, 6, .8)):
+        grasbüschel(x, y, maß=1.4 * m, farbe="#b9a347")
+    busch(38, 8, maß=1.1, farbe="#8a9a4a", blüten="gelb")
+    busch(-38, 7, maß=1.2, farbe="#8a9a4a", blüten="rot")
+    steine(-20, 5, 5, 5, 1.8, FELS)
+    steine(24, 6, 5, 5, 1.8, FELS)
+    schirm(-27, 9, 0, 6, 8, ("#f6b52a", "#c8392f"))
+    liege(-24, 5.5, 0, 0)
+
+
+def veranda():
+    """Deck, Erdgeschoss und Vordach auf Pfosten."""
     quader(0, 42, 0, 88, 54, 4, holz("#c08a52"), .5)
     for i in range(3):
         quader(0, 13.4 - 2.4 * i, 0, 22 + 2 * i, 3.4, 3.4 - 1.1 * i, holz("#b07c48"), .3)
@@ -87,7 +100,10 @@ def boom():
         quader(-42 + 12 * i, 15.5, 4, 1.7, 1.7, 13.5, "weiß", .3)
     for a, e in ((-42, -12), (12, 42)):
         zaun([(a, 15.5), (e, 15.5)], "weiß", 4.6, 3.0, 4, latten=2)
-    # Obergeschoss mit Giebel
+
+
+def obergeschoss():
+    """Giebel und Gauben, der Bumerang auf dem Dach."""
     haus(0, 48, 22, 46, 26, 19, putz("#e8b968"), ((10.5, 9.5, 5.2, 6.2, dict(rahmen="weiß")),))
     walmdach(0, 48, 41, 46, 26, 13, wellblech("#5fb3a4", 2.6), über=4, first=22, dick=1.4)
     for s in (-1, 1):                          # Gauben der Veranda
@@ -98,15 +114,6 @@ def boom():
             satteldach(0, 0, 7, 12, 13, 4, wellblech("#5fb3a4", 2.0), drehung=90, giebel=putz(WAND))
     bumerang(0, 33, 47, 46, 3)
     wimpel(-30, 50, 30, 20, ("#20408a", "weiß", "rot"), 8, 5)
-    # Vorplatz
-    for x, y, m in ((-46, 10, 1.0), (47, 8, 1.1), (-30, 6, .8)):
-        grasbüschel(x, y, maß=1.4 * m, farbe="#b9a347")
-    busch(38, 8, maß=1.1, farbe="#8a9a4a", blüten="gelb")
-    busch(-38, 7, maß=1.2, farbe="#8a9a4a", blüten="rot")
-    steine(-20, 5, 5, 5, 1.8, FELS)
-    steine(24, 6, 5, 5, 1.8, FELS)
-    schirm(-27, 9, 0, 6, 8, ("#f6b52a", "#c8392f"))
-    liege(-24, 5.5, 0, 0)
 
 
 def boomp():

@@ -77,10 +77,9 @@ def wellengrund(farbe, zweite):
     return s
 
 
-def schein(wert):
-    """Ein Schein als Gruppe von 292 mal 404 Punkten samt seinen Verläufen."""
-    grund, tief, zwei, papier, bild, wort = NOTEN[wert]
-    defs = (verlauf("papier", [(0, mischen(papier, "#ffffff", .35)), (.45, papier), (1, mischen(papier, grund, .42))],
+def schmuck(grund, tief, papier):
+    """Verläufe und Umrisse eines Scheins."""
+    return (verlauf("papier", [(0, mischen(papier, "#ffffff", .35)), (.45, papier), (1, mischen(papier, grund, .42))],
                     0, 0, 1, 1)
             + kugel("mitte", [(0, "#fffdf2"), (.62, mischen(papier, "#ffffff", .4)), (1, mischen(papier, grund, .6))],
                     .42, .36, .72)
@@ -94,6 +93,12 @@ def schein(wert):
             + verlauf("silber", [(0, "#8d99a3"), (.35, "#f4f8fa"), (.6, "#a9b6be"), (1, "#eef4f6")], 0, 0, .2, 1)
             + f'<clipPath id="blatt"><rect width="{B}" height="{H}" rx="12"/></clipPath>'
             + '<clipPath id="oval"><ellipse cx="146" cy="232" rx="98" ry="104"/></clipPath>')
+
+
+def schein(wert):
+    """Ein Schein als Gruppe von 292 mal 404 Punkten samt seinen Verläufen."""
+    grund, tief, zwei, papier, bild, wort = NOTEN[wert]
+    defs = schmuck(grund, tief, papier)
     ziffer = {2: 112, 3: 108, 4: 88}[len(str(wert))]
     schraffur = "".join(f'<path d="M40 {y}q54 {6 * math.sin(y):.1f} 106 0t106 0" stroke="{tief}" stroke-width=".9" '
                         f'opacity=".3" fill="none"/>' for y in range(126, 340, 5))

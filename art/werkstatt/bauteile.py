@@ -108,16 +108,6 @@ def spitze(x, y, z, r, stoff_):
                stoff_, 16)
 
 
-def flachdach(x, y, z, b, t, stoff_, brüstung=None, hoch=1.6, drehung=0.0):
-    """Dachplatte mit umlaufender Brüstung."""
-    with bei(x, y, z, drehung):
-        quader(0, 0, 0, b, t, 0.6, stoff_, 0.2)
-        br = brüstung or stoff_
-        for s in (-1, 1):
-            quader(0, s * (t / 2 - .5), 0, b, 1.0, hoch, br, 0.3)
-            quader(s * (b / 2 - .5), 0, 0, 1.0, t, hoch, br, 0.3)
-
-
 def zinnen(x, y, z, b, t, stoff_, maß=2.0):
     """Zinnenkranz um ein Rechteck."""
     for achse, lang, quer in ((0, b, t), (1, t, b)):
@@ -230,11 +220,6 @@ def säule(x, y, z, r, h, stoff_="weiß", kapitell=True):
     drehkörper(x, y, z, [(r * 1.35, 0), (r * 1.35, r * .5), (r * 1.05, r * .8), (r, r), (r * .88, h - r),
                          (r, h - r * .8),
                         (r * 1.3, h - r * .5), (r * 1.3, h)] if kapitell else [(r, 0), (r * .95, h)], stoff_, 20)
-
-
-def geländer(punkte, stoff_="weiß", hoch=2.2, abstand=1.6, z=0.0):
-    """Geländer längs einer Linie."""
-    zaun(punkte, stoff_, hoch, abstand, z, latten=1, dick=.3)
 
 
 # ---------------------------------------------------------------- Garten, Straße
