@@ -32,7 +32,7 @@ def lese(argumente):
     lese.add_argument("--skript", help=argparse.SUPPRESS)
     auftrag = lese.parse_args(argumente)
     auftrag.ziel = auftrag.ziel.resolve()
-    if auftrag.ziel == WURZEL and (auftrag.vorschau or auftrag.fein or auftrag.proben):
+    if auftrag.ziel == WURZEL and not auftrag.skript and (auftrag.vorschau or auftrag.fein or auftrag.proben):
         lese.error("ausgeliefert wird nur in voller Güte")
     auftrag.fein = auftrag.fein or (VORSCHAU if auftrag.vorschau else FEIN)
     vars(AUFTRAG).update(vars(auftrag))
@@ -46,9 +46,9 @@ def liste():
 
 def gemeint(wort, alle):
     """Die Dateien, die ein Wort der Zeile nennt: eine Datei, ein Ordner oder ein Skript."""
-    pfad = os.path.relpath(os.path.abspath(wort), WURZEL)
-    dateien = [d for d, skript in alle.items() if d == pfad or d.startswith(pfad + "/")
-               or ("art/" + skript) == pfad or ("art/" + skript).startswith(pfad + "/")]
+    pfade = os.path.normpath(wort), os.path.relpath(wort, WURZEL)      # vom Wurzelordner aus oder von hier
+    dateien = [d for d, skript in alle.items() for pfad in pfade
+               if any((name + "/").startswith(pfad + "/") for name in (d, "art/" + skript))]
     return dateien or sys.exit(f"{wort}: davon weiß art/liste nichts")
 
 
