@@ -71,8 +71,7 @@ def landschaft(linie):
             elif art < .24:
                 nadelbaum(0, 0, maß=zufall.uniform(.6, .8))
             else:
-                kugelbaum(0, 0, maß=zufall.uniform(.6, .85),
-                          farbe=("#5d9a3a", "#6fa63f", "#4d8c43")[int(art * 97) % 3])
+                kugelbaum(0, 0, maß=zufall.uniform(.6, .85), farbe=("#5d9a3a", "#6fa63f", "#4d8c43")[int(art * 97) % 3])
 
 
 def mache(datei):

@@ -294,8 +294,7 @@ def mache(datei):
     brauche("ffmpeg")
     insel, teile, rand = Insel(), Teile(), rahmen()
     packen = subprocess.Popen(["ffmpeg", "-v", "error", "-y", "-f", "image2pipe", "-c:v", "mjpeg", "-framerate",
-                               str(TAKT),
-                               "-i", "-", "-c", "copy", "-fflags", "+bitexact", "-f", "avi", ziel(datei)],
+                               str(TAKT), "-i", "-", "-c", "copy", "-fflags", "+bitexact", "-f", "avi", ziel(datei)],
                               stdin=subprocess.PIPE)
     for nr in range(round(DAUER * TAKT)):
         packen.stdin.write(jpeg(einzelbild(nr / TAKT, insel, teile, rand)))

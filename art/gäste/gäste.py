@@ -7,8 +7,7 @@ from gäste.rumpf import Rumpf
 from knoten import Baum
 
 GRUND = dict(breit=1.0, lang=1.0, kiefer=0.06, wangen=1.0, kinn=0.6, brauenwulst=0.6, augab=0.315, augen=1.0,
-             alter=0.0, rot=0.8,
-             nase=(1.0, 1.0, 1.0), mund=("zu", 1.0, 1.0, "#b5584f", 0.8), lid=(34, 44), wimpern=0.3,
+             alter=0.0, rot=0.8, nase=(1.0, 1.0, 1.0), mund=("zu", 1.0, 1.0, "#b5584f", 0.8), lid=(34, 44), wimpern=0.3,
              braue=(0.7, 0.8, 0.0, 0.0),
              iris="#6b4426", irisrand="#2e1a0c", ansatz=(0.55, 0.42, 0.05, -0.45), schulter=1.0, drehung=(0, 0, 8),
              hals=1.0)
@@ -74,8 +73,7 @@ GÄSTE = dict([
          hals=1.15),
     gast(150, haut="#efbf9c", haarfarbe="#7a3f1f", breit=0.97, lang=0.95, kiefer=0.03, wangen=1.2, kinn=0.3,
          brauenwulst=0.2, rot=1.2, nase=(0.75, 0.9, 0.75), mund=("offen", 1.05, 1.25, "#cf746c", 0.7), lid=(38, 46),
-         augen=1.10,
-         wimpern=0.55, braue=(0.55, 0.9, 0.2, 0.5), iris="#6d8a3a", irisrand="#39491c", frisur="pagenkopf",
+         augen=1.10, wimpern=0.55, braue=(0.55, 0.9, 0.2, 0.5), iris="#6d8a3a", irisrand="#39491c", frisur="pagenkopf",
          ansatz=(0.55, 0.42, 0.05, -0.45), sprossen=True, schulter=0.78, kleid=("ringel", "#f6f1e4", "#2c4f8f"),
          grund=("#c6e6b6", "#5c9c5a"), drehung=(0, -6, -12), hals=0.78),
     gast(151, haut="#c48a5c", haarfarbe="#221714", breit=0.98, lang=1.03, kiefer=0.09, kinn=0.95, brauenwulst=0.9,
