@@ -18,17 +18,17 @@ constexpr Zeit Würfelzeit = 150; // ms, die der Würfel rollt
 constexpr int Reserve = 1500;    // DM, die er nach einem Kauf behalten will
 constexpr int Unvernunft = 3;    // in so vielen von hundert Fällen kauft er, ohne zu rechnen
 
-Punkt mitte(const VisualControl &c) {
-    const Punkt ecke = Eingabe::ort(c);
-    // Ein Stapel ragt unten aus der Anzeige: gedrückt wird sein Knopf oben.
-    return {ecke.x + c.Width / 2, ecke.y + std::min<double>(c.Height, 600) / 2};
-}
-
 bool endetMit(const std::string &text, const std::string &ende) {
     return text.size() >= ende.size() && text.compare(text.size() - ende.size(), ende.size(), ende) == 0;
 }
 
 } // namespace
+
+Punkt mitte(const VisualControl &c) {
+    const Punkt ecke = Eingabe::ort(c);
+    // Ein Stapel ragt unten aus der Anzeige.
+    return {ecke.x + c.Width / 2, ecke.y + std::min<double>(c.Height, 600) / 2};
+}
 
 template <class C> C &Mitspieler::element(Formularname form, const std::string &name) const {
     auto *c = dynamic_cast<C *>(p.geladene(form)->control(name));
@@ -45,6 +45,7 @@ Form *Mitspieler::offen(Formularname form) const {
 bool Mitspieler::klicke(VisualControl &c) {
     const Punkt ort = mitte(c);
     if (p.eingabe.trifft(ort).control != &c) return false;
+    drückt(c);
     p.eingabe.bewege(ort);
     p.eingabe.drücke(Maustaste::Links, ort);
     p.eingabe.löse(Maustaste::Links, ort);
@@ -58,6 +59,11 @@ bool Mitspieler::ruhig() const {
         const std::string name = t->Name;
         return name != "Midi" && name != "pfeilTimer" && std::string(t->form.Name) != "Gewinn";
     });
+}
+
+bool Mitspieler::vorDemMenü() const {
+    const auto &knopf = element<VisualControl>(formular::Menu, "Spieln");
+    return p.eingabe.trifft(mitte(knopf)).control == &knopf;
 }
 
 void Mitspieler::beginneSpiel() {
@@ -212,7 +218,7 @@ bool Mitspieler::wechsle(int rest) {
             const bool erlaubt = gegeben / note >= 2 && gegeben / note <= 10;
             if (erlaubt && (gewünscht == 0 || note <= rest)) gewünscht = note;
         }
-        if (!offen(formular::Exchange)) klicke(brett(p).SSCommand2);
+        if (!offen(formular::Exchange) && !klicke(brett(p).SSCommand2)) return false;
         auto &von = element<ComboBox>(formular::Exchange, "Combo1");
         auto &in = element<ComboBox>(formular::Exchange, "Combo2");
         const auto zeile = [](const ComboBox &liste, int note) {

@@ -3,14 +3,19 @@
 // Noten und zahlt, alles mit Maus und Auswahl an den wirklichen Formularen.
 #include "include/Programm.h"
 
+#include <functional>
 #include <random>
 #include <string>
 
 namespace velmo {
 
+/// Wo ein Spieler das Element drückt: seine Mitte, bei einem Notenstapel sein Knopf oben.
+Punkt mitte(const VisualControl &);
+
 class Mitspieler {
   public:
-    Mitspieler(Programm &p, unsigned saat) : p(p), laune(saat) {}
+    Mitspieler(Programm &p, unsigned saat, std::function<void(const VisualControl &)> drückt)
+        : p(p), laune(saat), drückt(std::move(drückt)) {}
 
     /// Tut den nächsten Schritt; falsch, wenn es für ihn gerade nichts zu tun gibt.
     bool handle();
@@ -19,8 +24,12 @@ class Mitspieler {
     /// Richtet im Assistenten ein Spiel ein und beginnt es.
     void beginneSpiel();
 
-  private:
+    /// Nichts verdeckt ihm das Menü.
+    bool vorDemMenü() const;
+    /// Es läuft nichts mehr, worauf er warten könnte.
     bool ruhig() const;
+
+  private:
     bool imDialog();
     bool stoppeWürfel();
     bool amBrett();
@@ -43,6 +52,7 @@ class Mitspieler {
 
     Programm &p;
     std::mt19937 laune;
+    std::function<void(const VisualControl &)> drückt; // erfährt von jedem Druck, ehe er geschieht
     Zeit würfeltSeit = 0;
     int hotelsGesehen = 0;
 };
