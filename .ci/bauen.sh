@@ -6,6 +6,9 @@ Baupakete="g++ cmake ninja-build qt6-base-dev libsdl2-dev libsdl2-mixer-dev"
 Schriftpakete="fonts-comic-neue fonts-lato fonts-urw-base35 fonts-dejavu-core"
 Spielpakete="$Schriftpakete timgm6mb-soundfont"
 
+# Die Prüfungen legen viele kleine Dateien an; im Arbeitsspeicher geht das viermal so schnell.
+[ ! -w /dev/shm ] || export TMPDIR=/dev/shm
+
 # Als Verwalter, ohne Rückfrage.
 alsVerwalter() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo -n "$@"; fi
