@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 
 constexpr int Abtastrate = 44100, Spuren = 2, Puffer = 1024;
 constexpr int BytesJeSekunde = Abtastrate * Spuren * 2;
-constexpr int Musikstärke = MIX_MAX_VOLUME * 3 / 8;         // die Musik liegt etwa 10 dB unter den Klängen
+constexpr int Musikstärke = MIX_MAX_VOLUME * 5 / 8;         // die Musik liegt hörbar unter den Klängen
 constexpr auto Blick = 200ms;                               // so oft, solange das Gerät offen ist
 constexpr auto Nachklang = 2s;                              // danach schließt es
 constexpr long Gerätezeit = 2 * 1000 * Puffer / Abtastrate; // ms, bis Gemischtes auch gehört ist

@@ -8,6 +8,8 @@ import wave
 
 import numpy as np
 
+import messen
+
 RATE = 44100
 
 # Eigenschwingungen: (Verhältnis zum Grundton, Stärke, Abklingzeit im Verhältnis).
@@ -203,18 +205,30 @@ def note(nummer):
     return halbton(440, nummer - 69)
 
 
-def schreiben(pfad, x, spitze, ein=.0008, aus=.02, rate=RATE):
-    """Gleichanteil weg, Ränder auf null, auf die Spitze (dB) bringen, 16 Bit schreiben."""
+def begrenzen(x, grenze):
+    """Nimmt Spitzen über der Grenze weich zurück, 2 ms im Voraus."""
+    weite = anzahl(.002)
+    hülle = np.pad(np.abs(x).max(axis=1), weite)
+    schritt = 1
+    while schritt <= weite:  # das Größte der nächsten und letzten 2 ms
+        hülle = np.maximum(hülle, np.maximum(np.roll(hülle, schritt), np.roll(hülle, -schritt)))
+        schritt *= 2
+    glatt = np.hanning(weite + 2)[1:-1]
+    return x * np.convolve(np.minimum(1, grenze / np.maximum(hülle, 1e-9)), glatt / glatt.sum(), "same")[weite:-weite, None]
+
+
+def schreiben(pfad, x, laut, grenze, ein=.0008, aus=.02):
+    """Gleichanteil weg, Ränder auf null, auf die Lautheit bringen (lauteste 0,4 s in LUFS, Spitzen bis `grenze` dB), 16 Bit schreiben."""
     x = filtern(x, ("hoch", 30, .7))
-    if rate != RATE:
-        x = filtern(x, ("tief", .42 * rate, .54), ("tief", .42 * rate, 1.31))[::RATE // rate]
-    rand = bogen(len(x) / RATE, ein * rate / RATE, aus * rate / RATE)[:len(x)]
-    x = x * (rand[:, None] if x.ndim == 2 else rand)
-    x = x - x.mean(axis=0) * (rand[:, None] if x.ndim == 2 else rand) / rand.mean()
-    x = x * 10 ** (spitze / 20) / np.abs(x).max()
+    x = x[:, None] if x.ndim == 1 else x
+    rand = bogen(len(x) / RATE, ein, aus)[:len(x), None]
+    x = x * rand
+    x = x - x.mean(axis=0) * rand / rand.mean()
+    for _ in range(4):
+        x = begrenzen(x * 10 ** ((laut - messen.gipfel(x, RATE)) / 20), 10 ** (grenze / 20))
     x[0] = x[-1] = 0
     with wave.open(str(pfad), "wb") as w:
-        w.setnchannels(1 if x.ndim == 1 else 2)
+        w.setnchannels(x.shape[1])
         w.setsampwidth(2)
-        w.setframerate(rate)
+        w.setframerate(RATE)
         w.writeframes(np.round(x * 32767).astype("<i2").tobytes())

@@ -23,6 +23,8 @@ from harmonie import Akkord
 TÖNE = {"c": 0, "d": 2, "e": 4, "f": 5, "g": 7, "a": 9, "h": 11, "b": 10}
 KRAFT = {"X": 1.18, "x": 1.0, "o": .78, ",": .55, "v": 1.1}
 
+FÜLLKRAFT = 1.3  # so viel kräftiger ist die Füllung am Ende eines Teils
+
 # Schlagzeug auf Kanal 10 (General MIDI)
 TROMMEL = {"bass": 36, "rand": 37, "schnarr": 38, "klatsch": 39, "fell": 40, "hihat": 42, "fuß": 44, "offen": 46,
            "tomtief": 43, "tommitte": 47, "tomhoch": 50, "becken": 49, "ride": 51, "glocke": 53, "tamburin": 54,
@@ -56,12 +58,14 @@ class Note:
 
 
 class Stimme:
-    def __init__(self, name, kanal, programm, kraft, laut, ort, hall, chor, spät, vibrato):
+    def __init__(self, name, kanal, programm, kraft, laut, ort, hall, chor, spät, vibrato, ausdruck=100, pedal=False):
         self.name, self.kanal, self.programm = name, kanal, programm
         self.kraft = kraft      # mittlere Anschlagstärke
         self.laut, self.ort, self.hall, self.chor = laut, ort, hall, chor  # Regler 7, 10, 91, 93
         self.spät = spät        # Millisekunden, die die Stimme hinter dem Schlag liegt
         self.vibrato = vibrato  # Modulation langer Töne
+        self.ausdruck = ausdruck  # Regler 11, solange keine Schwelle läuft
+        self.pedal = pedal      # klingt weiter, bis ein Ton in Schrittweite folgt oder der Akkord wechselt
         self.noten, self.schwellen = [], []
         self.griff = self.letzter_bass = None
 
@@ -75,9 +79,9 @@ class Stück:
         self.taktlänge = Fraction(takt[0] * 4, takt[1])
         self.ende = Fraction(0)
 
-    def stimme(self, name, programm, kraft=70, laut=90, ort=64, hall=40, chor=0, spät=0, vibrato=0):
+    def stimme(self, name, programm, kraft=70, laut=90, ort=64, hall=40, chor=0, spät=0, vibrato=0, ausdruck=100, pedal=False):
         kanal = [k for k in range(16) if k != 9][sum(s.kanal != 9 for s in self.stimmen)]
-        self.stimmen.append(Stimme(name, kanal, programm, kraft, laut, ort, hall, chor, spät, vibrato))
+        self.stimmen.append(Stimme(name, kanal, programm, kraft, laut, ort, hall, chor, spät, vibrato, ausdruck, pedal))
         return self.stimmen[-1]
 
     def schlagzeug(self, programm, kraft=70, laut=90, hall=30):
@@ -110,6 +114,11 @@ class Stück:
         """Schläge je Minute zur Zeit."""
         return [t for ab, t in self.tempi if ab <= max(wann, 0)][-1]
 
+    def sekunden(self, wann):
+        """Zeit seit dem Anfang."""
+        grenzen = [ab for ab, _ in self.tempi] + [max(wann, self.tempi[-1][0])]
+        return float(sum((min(b, wann) - min(a, wann)) * 60 / t for (a, b), (_, t) in zip(zip(grenzen, grenzen[1:]), self.tempi)))
+
     def schreiben(self, pfad):
         vortrag.schreiben(self, pfad)
 
@@ -121,6 +130,7 @@ class Teil:
         self.stück, self.name, self.kraft, self.versatz = stück, name, kraft, versatz
         self.anfang, self.takt = stück.ende, stück.taktlänge
         self.akkorde = []  # (Beginn, Ende, Akkord)
+        self.füllt = False  # führt das Schlagzeug im letzten Takt in den nächsten Teil?
         takte = [t.split() for t in harmonie.split("|")]
         for nummer, takt in enumerate(takte):
             dauer = self.takt / len(takt)
@@ -341,14 +351,22 @@ class Teil:
     def trommle(self, stimme, muster, füllungen=None, von=1, bis=None, kraft=1.):
         """`muster`: Instrument zu Muster. `füllungen`: Takt (ab eins) zu einem solchen Muster, das ihn ersetzt."""
         füllungen = füllungen or {}
+        self.füllt |= self.takte in füllungen
         for instrument, zeile in muster.items():
             stumm = {takt: "." for takt in füllungen}
             self._schläge(stimme, instrument, zeile, (von, bis or self.takte), stumm, kraft)
         for takt, füllung in füllungen.items():
+            stärker = FÜLLKRAFT if takt == self.takte else 1
             for instrument, zeile in füllung.items():
-                self._schläge(stimme, instrument, zeile, (takt, takt), None, kraft)
+                self._schläge(stimme, instrument, zeile, (takt, takt), None, kraft * stärker)
+
+    def tusch(self, stimme, takt=1):
+        """Beckenschlag auf der Eins."""
+        stimme.noten.append(Note(self.bei(takt), Fraction(1), TROMMEL["becken"], stimme.kraft * 1.25, "schlag"))
 
     def _schläge(self, stimme, instrument, zeile, takte, stumm, kraft):
+        if not set(zeile) & set(KRAFT):
+            raise ValueError(f"{self.stück.name} {self.name}: {instrument} schlägt nie: {zeile}")
         for wann, dauer, z in self._raster(zeile, takte, stumm):
             stimme.noten.append(Note(wann, min(dauer, Fraction(1, 4)), TROMMEL[instrument],
                                      stimme.kraft * self.kraft * kraft * KRAFT[z], "schlag"))

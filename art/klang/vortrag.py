@@ -3,6 +3,8 @@ from fractions import Fraction
 
 import midi
 
+AUSKLANG = 1.6  # s nach dem letzten Ereignis: am Ende der Datei bricht das Spiel den Nachhall ab
+
 
 def _glocke(stück):
     """Glockenförmig, Streuung eins."""
@@ -25,13 +27,13 @@ def schreiben(stück, pfad):
         kopf.tempo(_zähler(stück, wann), tempo)
     spuren = [kopf] + [_spur(stück, s) for s in stück.stimmen]
     letzter = max(e[0] for s in spuren for e in s.ereignisse)
-    midi.schreiben(pfad, spuren, letzter + 2 * midi.VIERTEL)
+    midi.schreiben(pfad, spuren, letzter + round(AUSKLANG * stück.tempi[-1][1] / 60 * midi.VIERTEL))
 
 
 def _spur(stück, stimme):
     spur, kanal = midi.Spur(stimme.name), stimme.kanal
     spur.programm(0, kanal, stimme.programm)
-    for nummer, wert in ((7, stimme.laut), (10, stimme.ort), (11, 100), (91, stimme.hall), (93, stimme.chor), (1, 0)):
+    for nummer, wert in ((7, stimme.laut), (10, stimme.ort), (11, stimme.ausdruck), (91, stimme.hall), (93, stimme.chor), (1, 0)):
         spur.regler(0, kanal, nummer, wert)
     for von, bis, a, b in stimme.schwellen:
         schritte = int((bis - von) * 2)
@@ -44,7 +46,23 @@ def _spur(stück, stimme):
         aus = max(an + 20, min(aus, wieder - 4))
         spur.note(an, aus, kanal, note.höhe, kraft)
         _verzieren(spur, stimme, note, an, aus)
+    if stimme.pedal:
+        _pedal(spur, stück, stimme, gespielt)
     return spur
+
+
+def _pedal(spur, stück, stimme, gespielt):
+    """Das Pedal wechselt mit dem Akkord und vor jedem Ton, der neben einem klingenden liegt: Brechungen klingen ineinander."""
+    klingend, akkord = set(), None
+    for an, _, note, _ in gespielt:
+        gilt = stück.akkord(note.wann)
+        if gilt is not akkord or any(0 < abs(h - note.höhe) <= 2 for h in klingend):
+            spur.regler(max(0, an - 6), stimme.kanal, 64, 0)
+            spur.regler(an + 24, stimme.kanal, 64, 127)
+            klingend = set()
+        klingend.add(note.höhe)
+        akkord = gilt
+    spur.regler(_zähler(stück, stück.ende), stimme.kanal, 64, 0)
 
 
 def _gespielt(stück, stimme, note):

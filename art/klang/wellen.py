@@ -64,19 +64,28 @@ def menuback():
 
 # Brett
 
+def ticken(saat):
+    """Der helle Anteil eines Holzstoßes."""
+    y = filtern(rauschen(.03, saat), ("hoch", 2600, .8), ("tief", 9000, .7)) * np.exp(-zeit(.03) / .004)
+    return y / np.abs(y).max()
+
+
 def haus():
     """Ein Haus steigt: Klötze rücken auf Klötze, jeder höher, dann sitzt das Dach."""
     bild = leinwand(1.15, 2)
     for k, (wann, schritt) in enumerate(((.0, 0), (.105, 3), (.2, 5), (.285, 7), (.362, 10), (.432, 12))):
-        legen(bild, .004 + wann, holz(.2, halbton(330, schritt), .03, .0007), .5 + .05 * k, -.35 + .12 * k)
+        legen(bild, .004 + wann, holz(.2, halbton(392, schritt), .03, .0003), .5 + .05 * k, -.35 + .12 * k)
+        legen(bild, .004 + wann, ticken(33 + k), .34, -.35 + .12 * k)
         legen(bild, .004 + wann, marimba(64 + schritt, .5, .6), .34, -.35 + .12 * k)
-        legen(bild, .004 + wann, filzstoß(.1, 170, 31 + k), .3, -.35 + .12 * k)
-    reiben = gleitband(rauschen(.48, 38), verlauf(.48, (0, 500), (.48, 1900)), 1.4) * bogen(.48, .06, .08)
-    legen(bild, .0, reiben / np.abs(reiben).max(), .13)
-    legen(bild, .555, holz(.25, 245, .045, .0022, BRETT), .9, .1)
-    legen(bild, .555, filzstoß(.2, 105, 39), .8)
+        legen(bild, .004 + wann, filzstoß(.1, 170, 31 + k), .16, -.35 + .12 * k)
+    reiben = gleitband(rauschen(.48, 38), verlauf(.48, (0, 900), (.48, 3600)), 1.2) * bogen(.48, .06, .08)
+    legen(bild, .0, reiben / np.abs(reiben).max(), .18)
+    legen(bild, .555, holz(.25, 294, .045, .0012, BRETT), .8, .1)
+    legen(bild, .555, filzstoß(.2, 120, 39), .4)
+    legen(bild, .555, ticken(40), .5, .1)
     for schritt, stärke in ((12, .5), (19, .32)):
         legen(bild, .565, marimba(64 + schritt, .55, .75), stärke, .15)
+        legen(bild, .565, glockenspiel(88 + schritt, .55), .4 * stärke, .15)
     return raum(bild, .22, .8)
 
 
@@ -107,12 +116,24 @@ def motor(dauer, drehzahl, lauter, saat):
     return filtern(mischung, ("tief", 5200, .6)) * lauter
 
 
+def rasseln(dauer, rate, lauter, saat):
+    """Sperrklinke und lose Räder: einzelne Stöße auf Blech und Holz, keiner wie der andere."""
+    y = np.zeros(anzahl(dauer))
+    for k, (grund, moden, kontakt, stärke) in enumerate(((620, BRETT, .001, .8), (1450, BLECH, .0004, .6), (380, BRETT, .0016, .9))):
+        stöße = impulse(dauer, rate * (1, 1.31, .77)[k], saat + k, .009, .6)
+        körper = schlag(.06, grund, moden, (.010, .007, .014)[k], kontakt)
+        y += stärke * falten(stöße, körper / np.abs(körper).max())[:len(y)]
+    zischen = filtern(rauschen(.02, saat + 3), ("hoch", 2200, .7), ("tief", 8000, .7)) * np.exp(-zeit(.02) / .004)
+    y += .5 * falten(impulse(dauer, rate * 1.31, saat + 1, .009, .6), zischen / np.abs(zischen).max())[:len(y)]
+    return y / np.abs(y).max() * lauter
+
+
 def car():
     dauer = .78
     drehzahl = verlauf(dauer, (0, 34), (.12, 52), (.34, 88), (.52, 96), (.78, 46))
     lauter = verlauf(dauer, (0, 0), (.04, .75), (.3, 1), (.52, .9), (.7, .25), (.78, 0))
-    bild = orten(motor(dauer, drehzahl, lauter, 51), verlauf(dauer, (0, -.35), (.78, .35)))
-    return raum(bild, .12, .5)
+    fahrt = .5 * motor(dauer, drehzahl, lauter, 51) + rasseln(dauer, drehzahl * .42, lauter, 55)
+    return raum(orten(fahrt, verlauf(dauer, (0, -.35), (.78, .35))), .12, .5)
 
 
 def tromm():
@@ -140,19 +161,20 @@ def tromm():
 
 def kasse():
     """Ladenkasse: Hebel, Glocke, Schublade, ein paar Münzen."""
-    bild = leinwand(1.25, 2)
+    bild = leinwand(1.45, 2)
     for wann, grund, stärke in ((.002, 520, .7), (.028, 760, .5), (.052, 610, .45)):
         legen(bild, wann, holz(.09, grund, .012, .0007, BLECH), stärke, -.2)
-    legen(bild, .05, filzstoß(.14, 120, 71), .5, -.1)
-    glocke = schlag(1.1, 2093, GLOCKE, .26, .0002)
-    legen(bild, .085, glocke / np.abs(glocke).max(), .62, .15)
+    legen(bild, .05, filzstoß(.14, 190, 71), .14, -.1)
+    glocke = schlag(1.35, 2093, GLOCKE, .5, .00012)
+    legen(bild, .085, glocke / np.abs(glocke).max(), .8, .15)
     lauf = gleitband(rauschen(.26, 72), verlauf(.26, (0, 700), (.26, 1500)), 1.2) * bogen(.26, .05, .05)
     legen(bild, .1, lauf / np.abs(lauf).max(), .16, .1)
-    legen(bild, .335, holz(.2, 205, .035, .002, BRETT), .6, .15)
+    legen(bild, .335, holz(.2, 310, .03, .001, BRETT), .26, .15)
+    legen(bild, .335, ticken(74), .25, .15)
     w = würfel(73)
     for k in range(7):
         münze = schlag(.16, 3300 + 2400 * w.random_sample(), GLAS, .03, .0002)
-        legen(bild, .35 + .03 * k + .022 * w.random_sample(), münze / np.abs(münze).max(), .22 * .85 ** k, .3 - .1 * k)
+        legen(bild, .35 + .03 * k + .022 * w.random_sample(), münze / np.abs(münze).max(), .34 * .85 ** k, .3 - .1 * k)
     return raum(bild, .2, .6)
 
 
@@ -169,12 +191,12 @@ def command_click():
 
 def kback():
     """Die Karte fällt herein: Luft, dann ein flaches Blatt auf dem Tisch, das einmal nachfedert."""
-    dauer = .85
+    dauer = .6
     bild = leinwand(dauer, 2)
-    luft = gleitband(rauschen(.6, 91), verlauf(.6, (0, 450), (.4, 1500), (.6, 700)), .9)
-    luft *= verlauf(.6, (0, 0), (.12, .25), (.42, 1), (.5, .35), (.6, 0))
+    luft = gleitband(rauschen(.34, 91), verlauf(.34, (0, 600), (.19, 1800), (.34, 800)), .9)
+    luft *= verlauf(.34, (0, 0), (.05, .3), (.19, 1), (.25, .35), (.34, 0))
     legen(bild, 0, luft / np.abs(luft).max(), .4)
-    for wann, stärke in ((.47, 1), (.565, .3), (.615, .12)):
+    for wann, stärke in ((.22, 1), (.315, .3), (.365, .12)):  # nach 0,22 s liegt sie
         klatsch = filtern(rauschen(.08, 92), ("hoch", 500, .7), ("tief", 3600, .7)) * np.exp(-zeit(.08) / .011) * bogen(.08, .001, .01)
         legen(bild, wann, klatsch / np.abs(klatsch).max(), .6 * stärke, .05)
         legen(bild, wann, holz(.18, 190, .03, .003, BRETT), .75 * stärke, -.05)
@@ -280,9 +302,13 @@ def intro():
     for seite, saat in ((-.8, 121), (.8, 122)):  # Brandung, die zum Namen hin zurückweicht
         see = filtern(rauschen(dauer, saat), ("tief", 1100, .5), ("hoch", 180, .6))
         see *= verlauf(dauer, (0, 0), (.5, .5), (1.6, 1), (3.0, .35), (4.1, .75), (5.4, .22), (9.4, .1))
-        legen(bild, 0, see / np.abs(see).max(), .17, seite)
+        legen(bild, 0, see / np.abs(see).max(), .15, seite)
+        gischt = filtern(rauschen(dauer, saat + 6), ("hoch", 2600, .6), ("tief", 9000, .6))
+        gischt *= verlauf(dauer, (0, 0), (.6, .4), (1.7, 1), (2.8, .25), (4.2, .6), (5.2, .15), (9.4, .1))
+        legen(bild, 0, gischt / np.abs(gischt).max(), .10, seite)
     for schlagzahl, höhe, stärke in WEISE:
         legen(bild, schlagzahl * SCHLAG, marimba(höhe, 1.2, stärke), .5, -.15)
+        legen(bild, schlagzahl * SCHLAG, glockenspiel(höhe + 12, 1.), .07 * stärke, .1)
         if schlagzahl >= 8:
             legen(bild, schlagzahl * SCHLAG, marimba(höhe - 12, 1.2, stärke), .34, -.3)
     for schlagzahl, höhe in BASS:
@@ -290,15 +316,15 @@ def intro():
     for beginn, *griff in UKULELE:
         for achtel in ((0, 1.5) if beginn < 12 else (0,)):
             for k, höhe in enumerate(griff):
-                legen(bild, (beginn + achtel) * SCHLAG + .011 * k, saite(.7, note(höhe + 12 * (höhe < 60)), .22, .2, helle=.9), .08, .4)
+                legen(bild, (beginn + achtel) * SCHLAG + .011 * k, saite(.7, note(höhe + 12 * (höhe < 60)), .22, .2, helle=.45), .10, .4)
     besen = filtern(rauschen(.07, 123), ("hoch", 4500, .8)) * np.exp(-zeit(.07) / .016) * bogen(.07, .006, .02)
     for achtel in range(8, 26):
-        legen(bild, achtel / 2 * SCHLAG + .008 * (achtel % 2), besen / np.abs(besen).max(), .05 + .035 * (achtel % 2), .3)
+        legen(bild, achtel / 2 * SCHLAG + .008 * (achtel % 2), besen / np.abs(besen).max(), .12 + .07 * (achtel % 2), .3)
     # Der Name: Becken schwillt an, Glockenspiel und Holz zugleich
     becken = filtern(rauschen(1.4, 124), ("hoch", 3800, .7)) * verlauf(1.4, (0, 0), (.9, .8), (.94, .5), (1.4, 0)) ** 2
-    legen(bild, 5 - .92, becken / np.abs(becken).max(), .13)
+    legen(bild, 5 - .92, becken / np.abs(becken).max(), .22)
     for k, höhe in enumerate((72, 76, 79, 83, 86, 91)):
-        legen(bild, 5 + .035 * k, glockenspiel(höhe + 12 * (höhe < 84)), .13, -.5 + .2 * k)
+        legen(bild, 5 + .035 * k, glockenspiel(höhe + 12 * (höhe < 84)), .2, -.5 + .2 * k)
     legen(bild, 5, filzstoß(.5, 70, 125), .35)
     # Das Auto: von links heran, hupt auf Schlag dreizehn, bremst, steht
     fahrt = 2.05
@@ -317,24 +343,27 @@ def intro():
     return raum(bild, .4, .6)
 
 
-TAFEL = (  # Datei, Welle, Spitze in dB, Ausklang in s
-    ("intro.wav", intro, -3.0, .35),
-    ("click2.wav", click2, -9.0, .03),
-    ("click1.wav", click1, -4.0, .05),
-    ("menuback.wav", menuback, -5.0, .08),
-    ("haus.wav", haus, -3.0, .2),
-    ("money_click.wav", money_click, -5.0, .05),
-    ("car.wav", car, -8.0, .06),
-    ("tromm.wav", tromm, -5.0, .15),
-    ("kasse.wav", kasse, -4.0, .25),
-    ("command_click.wav", command_click, -5.0, .04),
-    ("kback.wav", kback, -4.0, .12),
-    ("kbf.wav", kbf, -5.0, .05),
-    ("glass.wav", glass, -6.0, .25),
-    ("laugh.wav", laugh, -5.0, .12),
+MIT_MUSIK = -10.5  # dB: zwei Geräusche am Brett und die Musik übersteuern zusammen nicht
+IM_GARTEN = -6.5   # im Menü spielt keine Musik
+ALLEIN = -3.0
+TAFEL = (  # Datei, Welle, lauteste 0,4 s in LUFS, höchste Spitze in dB, Ausklang in s
+    ("intro.wav", intro, -17.5, ALLEIN, .35),
+    ("click2.wav", click2, -25.0, IM_GARTEN, .03),
+    ("click1.wav", click1, -22.5, IM_GARTEN, .05),
+    ("menuback.wav", menuback, -20.0, IM_GARTEN, .08),
+    ("haus.wav", haus, -18.5, MIT_MUSIK, .2),
+    ("money_click.wav", money_click, -23.0, MIT_MUSIK, .05),
+    ("car.wav", car, -20.5, MIT_MUSIK, .06),
+    ("tromm.wav", tromm, -18.5, MIT_MUSIK, .15),
+    ("kasse.wav", kasse, -19.0, MIT_MUSIK, .25),
+    ("command_click.wav", command_click, -24.5, MIT_MUSIK, .04),
+    ("kback.wav", kback, -20.5, MIT_MUSIK, .12),
+    ("kbf.wav", kbf, -22.5, MIT_MUSIK, .05),
+    ("glass.wav", glass, -18.5, MIT_MUSIK, .25),
+    ("laugh.wav", laugh, -18.5, MIT_MUSIK, .12),
 )
 
 
 def schreibe_alle(ordner):
-    for datei, welle, spitze, ausklang in TAFEL:
-        schreiben(ordner / datei, welle(), spitze, aus=ausklang)
+    for datei, welle, laut, spitze, ausklang in TAFEL:
+        schreiben(ordner / datei, welle(), laut, spitze, aus=ausklang)

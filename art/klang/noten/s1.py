@@ -10,12 +10,12 @@ A_ENDE = "Esmaj9 | Cm9 | Fm9 | B13sus B13 | Gm7 | C7b9b13 | Fm9 B13 | Es69 C7b9"
 B = "Asmaj9 | Asm69 | Gm7 | C9sus C7b9 | Fm9 | Dm7b5 G7b9b13 | Cm9 F13 | Fm9 B13b9"
 
 # Der Einfall: vom Quintton in Achteln hinauf, oben hängen bleiben, in den Leitton sinken.
-THEMA = """r:8 b4 es5 f5 g5:4. d5:8 | es5:2 r:8 d5 es5 g5 | as5:4. g5:8 es5:4 c5 | f5:4. es5:8 d5:2
-         | r:8 d5 f5 g5 b5:4. g5:8 | as5:2 r:8 g5 f5 e5 | g5:4. f5:8 d5:4 ces5 | b4:2. r:4"""
+THEMA = """r:8 b4 es5 f5 g5:4. d5:8 | es5:2 r:8 b4 es5 g5 | as5:4. g5:8 es5:4 c5 | f5:4. es5:8 d5:2
+         | r:8 d5 f5 g5 c6:4. b5:8 | as5:2 r:8 g5 f5 e5 | g5:4. f5:8 d5:4 ces5 | b4:2. r:4"""
 THEMA_2 = """r:8 b4 es5 f5 g5:4. d5:8 | es5:4 g5:8 b5 c6:4. b5:8 | as5:4. g5:8 es5:4 c5:8 es5 | f5:8 g5 f5 es5 d5:2
            | r:8 d5 g5 b5 d6:4. c6:8 | b5:4 as5:8 g5 e5:4 des5 | c5:4. es5:8 d5:8 c5 b4 f4 | g4:2~8 r:8 r:4"""
-MITTE = """c6:2. b5:4 | ces6:2 b5:4 as5 | b5:2. f5:4 | g5:4. f5:8 e5:4. r:8
-         | as5:2. g5:4 | f5:4. as5:8 g5:4. es5:8 | d5:4 es5 g5 a5 | as5:4. g5:8 f5:8 d5 ces5 as4"""
+MITTE = """c6:2. b5:4 | ces6:2 b5:4 as5 | c6:4 b5:2 f5:4 | g5:4. f5:8 e5:4. r:8
+         | as5:2. es5:4 | f5:4. as5:8 g5:4. es5:8 | d5:4 es5 g5 a5 | as5:4. g5:8 f5:8 d5 ces5 as4"""
 SOLO = """g5:8 f5 d5 b4 c5 d5 f5:4 | es5:8 g5 b5 d6 c6:4. r:8 | r:8 c6 as5 g5 f5 es5 c5 as4 | g4:8 b4 c5 es5 d5:4. r:8
         | r:4 d6:8 c6 b5:8t g5 f5 d5:4 | e5:8 g5 as5 b5 des6:4 b5:8 as5 | g5:8 as5 c6 g5 f5 d5 c5 g4 | b4:4. c5:8 b4:2"""
 SOLO_FLÖTE = """r:4 b5:8 g5 f5 d5 es5 f5 | g5:4. es5:8 d5:8t c5 b4 c5:4 | r:8 as5 c6 es6 d6 c6 as5 g5 | c6:4 b5:8 g5 f5:4. d5:8
@@ -33,13 +33,13 @@ PIANO_GEBROCHEN = "1.3.2.4.|.1324.3."
 BASS = "1--.5-a-|1--15-a-|1-.15--a|1--.5-3a"
 BESEN = {"fell": "o---o---", "schnarr": "..x...x.", "fuß": "..o...o.", "bass": "o......,|o..,o..."}
 RIDE = {"ride": "x.xox.xo", "fuß": "..o...o.", "schnarr": "..,..,o.|..o..,o,", "bass": "o......,|o..,,..."}
-FÜLLUNG = {"schnarr": "..x.oxox", "bass": "o.....o.", "fuß": "..o...o."}
-FÜLLUNG_2 = {"schnarr": "o...,.o.........", "tomhoch": "........,.,.....", "tommitte": "..........o.,...", "tomtief": "............o.,.", "bass": "o......."}
+FÜLLUNG = {"schnarr": "o.,oo.oox.oo....", "tommitte": "..........,oo...", "tomtief": "....,.......o.ox", "bass": "o...o...o...o.o.", "fuß": "..o...o."}
+FÜLLUNG_2 = {"schnarr": "o..,o.,o........", "tomhoch": "....,...o,o.....", "tommitte": "...........ooo..", "tomtief": "..............oo", "bass": "o.....o.o..oo.o.", "fuß": "..o...o."}
 
 
 def stück():
-    st = Stück("s1", "Liegestuhl", tempo=104, saat=1, swing=.59)
-    vibra = st.stimme("Vibraphon", 11, kraft=88, laut=110, ort=50, hall=52)
+    st = Stück("s1", "Liegestuhl", tempo=105.8, saat=1, swing=.59)
+    vibra = st.stimme("Vibraphon", 11, kraft=88, laut=110, ort=50, hall=52, pedal=True)
     flöte = st.stimme("Flöte", 73, kraft=80, laut=98, ort=82, hall=60, spät=6, vibrato=18)
     piano = st.stimme("E-Piano", 4, kraft=64, laut=98, ort=40, hall=40, chor=35, spät=4)
     geigen = st.stimme("Streicher", 49, kraft=66, laut=98, ort=70, hall=70)

@@ -14,18 +14,22 @@ THEMA = """h4:4. c5:8~4 e5 | d5:4. h4:8~2 | c5:4. d5:8~4 f5 | e5:4. d5:8 h4:4. r
          | r:8 g4 h4 d5 e5:4. h4:8 | a4:4. e5:8~4 h4 | r:8 d5 f5 a5 g5:4. f5:8 | e5:4. d5:8 gis4:2
          | e5:4. g5:8~4 h5 | g5:4. e5:8~2 | a5:4. e5:8~4 c5 | g5:4. e5:8~8 c5 d5 e5
          | f5:4. e5:8~4 d5 | c5:4. h4:8~4 gis4 | a4:4. h4:8~4 e5 | h4:2 r"""
-THEMA_2 = """r:8 h4 c5 e5:8~4 g5:4 | fis5:4. e5:8~2 | r:8 c5 d5 f5:8~4 a5:4 | g5:4. e5:8 d5:4 h4
+THEMA_2 = """r:8 h4 c5 e5:8~4 g5:4 | fis5:4. e5:8~2 | r:8 c5 d5 f5:8~4 a5:4 | g5:4. f5:8 e5:4 d5
            | r:8 g4 h4 d5 g5:4. e5:8 | h5:4. a5:8~4 e5 | r:8 d5 f5 a5 d6:4. a5:8 | gis5:4. f5:8 e5 d5 h4 gis4
-           | e5:4. g5:8~4 h5 | c6:4. g5:8~4 e5 | a5:4. e5:8~8 c5 e5 a5 | a5:4. g5:8~8 e5 c5 g5
-           | f5:8t e5 d5 c5:4 d5:4. f5:8 | e5:4. c5:8~4 gis4 | a4:4. h4:8 c5:8 e5 h5:4 | e5:2 r"""
-MITTE_1 = """a4:2~8 g4:8 e4 c4 | as4:2~8 g4:8 f4 d4 | g4:2. h3:4 | cis4:4. b4:8~4 g4
-         | f4:2~8 e4:8 c4 a3 | e4:4. d4:8 es4:4. d4:8 | h3:4. d4:8~2 | e4:4. g4:8~4 r"""
-MITTE_2 = """r:8 c5 a4 e4 fis4:2 | dis4:4. a4:8~4 c5 | h4:2~8 a4:8 g4 fis4 | g4:4 e4 fis4 cis5
-           | c5:2~8 h4:8 a4 f4 | a4:4. g4:8~4 d4 | e4:2~8 a4:8 h4 d5 | d5:4. h4:8 gis4:4. r:8"""
-SOLO = """r:4 e4:8 g4 h4:4. c5:8 | h4:8 a4 g4 e4 fis4:4 r | r:8 f4 a4 c5 e5:4 d5:8 c5 | a4:4. e5:8 d5 h4 g4 a4
-        | h4:8 g4 e4 d4 e4:4. g4:8 | h4:4. a4:8~4 c5:8 e5 | d5:8 h4 a4 f4 a4 h4 d5 f5 | e5:8t d5 h4 gis4:4 r:8 h4 d5 f5
-        | e5:4. c5:8 h4 g4 e4 g4 | <e4 g4>:8 <g4 c5> r <g4 c5> <e4 g4>:4 r | <e4 a4>:8 <fis4 c5> r <g4 c5> <a4 e5>:4. r:8 | <g4 e5>:8 <f4 c5> r <e4 a4> <g4 c5>:4 r
-        | f4:8 a4 c5 e5 f5:4. e5:8 | gis4:8 h4 d5 c5 h4 gis4 e4 d4 | c4:8 e4 a4 h4 fis4:4. e4:8 | e4:2 r"""
+           | e5:4. g5:8~4 h5 | a5:4. g5:8~4 e5 | g5:4. fis5:8~8 e5 c5 e5 | a5:4. g5:8~8 e5 c5 g5
+           | f5:8t e5 d5 c5:4 d5:4. f5:8 | e5:4. d5:8~4 gis4 | a4:4. h4:8 c5:8 e5 d5:4 | c5:4. h4:8~4 r"""
+THEMA_3 = """h4:8 a4 h4 c5:8~8 d5 e5:4 | d5:8t e5 d5 c5:8 h4:8~2 | c5:8 h4 c5 d5:8~8 e5 f5:4 | e5:8 f5 e5 d5 h4:4. r:8
+           | r:8 g4 h4 d5 e5:4. h4:8 | a4:4. e5:8~4 h4 | r:8 d5 f5 a5 g5:8 f5 e5 f5 | e5:4. d5:8 gis4:2
+           | e5:4. g5:8~8 a5 h5:4 | g5:4. e5:8~2 | a5:4. e5:8~8 d5 c5:4 | g5:8 a5 g5 e5~ e5 c5 d5 e5
+           | f5:8 g5 f5 e5~ e5 d5 c5 d5 | c5:4. h4:8~8 a4 gis4:4 | a4:4. h4:8~4 e5 | h4:2 r"""
+MITTE_1 = """a4:2~8 g4:8 f4 c4 | as4:2~8 g4:8 f4 d4 | a4:4. g4:8~4 h3 | cis4:4. b4:8~4 a4
+           | g4:4. f4:8~8 e4 d4 a3 | e4:4. d4:8 es4:4. d4:8 | h3:4. d4:8~2 | e4:4. g4:8~4 r"""
+MITTE_2 = """r:8 c5 a4 e4 fis4:2 | e4:4. dis4:8~4 a4 | h4:2~8 a4:8 g4 fis4 | g4:4 e4 fis4 cis5
+           | c5:2~8 h4:8 a4 f4 | a4:4. g4:8~4 d4 | e4:2~8 a4:8 h4 d5 | c5:4. h4:8 gis4:4. r:8"""
+SOLO = """r:4 e4:8 g4 h4:4. c5:8 | d5:8 c5 h4 g4 a4:4 r | r:8 f4 a4 c5 e5:4 d5:8 c5 | g4:4 a4:8 h4~ h4 a4 g4 f4
+        | e4:8 g4 h4 d5 c5:4. h4:8 | a4:4 e5:8 d5~ d5 c5 h4 a4 | f4:8 a4 h4 d5 c5 h4 a4 f4 | gis4:8t a4 h4 d5:4 r:8 f5 e5 d5
+        | c5:4. h4:8 a4 g4 e4 g4 | <e4 c5>:8 <g4 h4> r <e4 a4> <c4 g4>:4 r | <e4 a4>:8 <fis4 h4> r <a4 c5> <a4 e5>:4. r:8 | <g4 e5>:8 <f4 d5> r <e4 c5> <c4 g4>:4 r
+        | f4:8 a4 c5 e5 f5:4. e5:8 | gis4:8 d5 c5 gis4 f4 e4 d4 e4 | c4:8 e4 a4 h4 fis4:4. e4:8 | e4:2 r"""
 
 # Gegenstimmen
 ANTWORT = """r:1 | r:2 r:8 a4 h4 c5 | a4:2. r:4 | r:2 f5:4 e5 | d5:2 r | e5:4. c5:8~4 g5 | f5:2 d5 | h4:2. r:4
@@ -42,8 +46,8 @@ GITARRE_DICHT = "x.xx-.xv|-.x-.xx-|x.x-.x-v|-.xx-.x-"
 BASS = "1--.5--5|1--.5--a"
 LEISE = {"schüttel": ",o,o,o,o", "rand": "x..x..x.|..x..x..", "bass": "x..ox..o", "fuß": "..o...o."}
 MEHR = {"hihat": "o,xoo,xo", "rand": "x..x..x.|..x..x..", "bass": "x..ox..o", "schüttel": ",o,o,o,o", "fuß": "..o...o."}
-FÜLLUNG = {"schüttel": ",o,o,o,o", "rand": "x..x....", "conga": "....o...", "congahoch": "......o.", "congatief": ".......x", "bass": "x..ox..."}
-FÜLLUNG_2 = {"hihat": "o,xo....", "rand": "x..x....", "tomhoch": "....o,..", "tommitte": "......o.", "tomtief": ".......o", "bass": "x..ox..o"}
+FÜLLUNG = {"schüttel": ",o,o,o,o", "rand": "x..x..x.", "congahoch": "....x.xx....x...", "conga": "..x.......xx....", "congatief": "x..x....x....xXX", "bass": "x..xx.xx"}
+FÜLLUNG_2 = {"hihat": "o,xo....", "rand": "x..x....", "schnarr": "....x.o.x.......", "tomhoch": "......x..xx.....", "tommitte": "..........xXx...", "tomtief": "x...........xxXX", "bass": "x..xx.xx"}
 
 
 def stück():
@@ -66,7 +70,7 @@ def stück():
     schluss = st.teil("Schluss", "Am9 | Fmaj9 | Am9 | Fmaj9 | Dm9 | E7b9b13 | Am69 | %", kraft=.86)
 
     # Melodien
-    vorspiel.spiele(flöte, "r:1 | r | r | r | r:8 h4 c5 e5:8~4 g5:4 | e5:4. c5:8~2 | r:8 a4 c5 e5:8~4 f5:4 | e5:4. c5:8 gis4:2", kraft=.9)
+    vorspiel.spiele(flöte, "r:1 | r | r | r | r:8 h4 c5 e5:8~4 d5:8 c5 | a4:4. c5:8~2 | r:8 a4 c5 e5:8~4 d5:8 c5 | e5:4. d5:8 gis4:2", kraft=.9)
     a1.spiele(flöte, THEMA)
     a2.spiele(flöte, THEMA_2)
     a2.spiele(sax, ANTWORT, kraft=.75, rolle="gegen", oktave=-1)
@@ -74,10 +78,10 @@ def stück():
     s.spiele(solo, SOLO)
     b2.spiele(sax, MITTE_2)
     b2.spiele(flöte, MITTE_2, oktave=1, kraft=.85)
-    a3.spiele(flöte, THEMA)
+    a3.spiele(flöte, THEMA_3)
     a3.spiele(sax, ZWEITE, kraft=.85, rolle="gegen")
-    schluss.spiele(flöte, "h4:4. c5:8~4 e5 | g5:4. e5:8~2 | h4:4. c5:8~4 e5 | a5:4. e5:8~2 | f5:4. e5:8~4 c5 | e5:4. c5:8 gis4:2 | h4:1~ | h4:2. r:4")
-    schluss.spiele(sax, "r:1 | r:2 c4:8 e4 g4 a4 | g4:2 r | r:2 g4:8 a4 c5 e5 | a4:2. r:4 | r:1 | fis4:1~ | fis4:2. r:4", kraft=.75, rolle="gegen")
+    schluss.spiele(flöte, "h4:4. c5:8~4 e5 | a5:8 g5 f5 e5~ e5:2 | h4:4. c5:8~4 e5 | a5:4. g5:8~4 e5 | f5:4. e5:8~4 c5 | e5:4. d5:8 gis4:2 | h4:1~ | h4:2. r:4")
+    schluss.spiele(sax, "r:1 | r:2 c4:8 e4 g4 a4 | g4:2 r | r:2 g4:8 a4 h4 c5 | a4:2. r:4 | r:1 | fis4:1~ | fis4:2. r:4", kraft=.75, rolle="gegen")
     schluss.spiele(solo, "r:1 | r | r | r | r | r | r:8 e4 a4 h4 c5 e5 fis5 h5~ | h5:2 r", kraft=.8)
 
     # Begleitung
@@ -94,6 +98,8 @@ def stück():
         teil.bass(bass, BASS, füllungen={8: "1-35-6-a", 16: "1--.5-3a"})
         füllungen = {8: FÜLLUNG_2} if teil is b2 else {8: FÜLLUNG, 16: FÜLLUNG_2}
         teil.trommle(trommel, MEHR if teil in (b1, b2, a3) else LEISE, füllungen)
+    for teil in (b1, b2, a3):
+        teil.tusch(trommel)
     a2.fläche(geigen, (55, 74), von=9, töne=3, kraft=.9)
     a2.schwelle(geigen, (9, 40), (13, 96), (17, 60))
     b1.fläche(geigen, (55, 76), töne=3)

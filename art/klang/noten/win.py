@@ -5,13 +5,13 @@ Form: Ruf, Marsch, Steigerung, Schluss.
 from satz import Stück
 
 RUF = "b4:4! f4:8t' f4' f4' b4:4 d5 | f5:2~8 r:8 d5 es5 | ges5:4! des5:8t' des5' des5' ges5:4 as5 | b5:2 a5:4. r:8"
-MARSCH = """f5:4. d5:8 b4:4' d5' | g5:4. f5:8 d5:2 | es5:4. d5:8 c5:4' es5' | a5:4. g5:8 f5:2
-          | f5:4. a5:8 c6:4' a5' | as5:4. g5:8 f5:4 h4 | c5:8 es5 g5 b5 a5:4' f5' | b5:4. r:8 r f5 g5 a5"""
+MARSCH = """f5:4. d5:8 b4:4' f5' | a5:4. g5:8 f5:4 d5 | es5:4. d5:8 c5:4' g5' | b5:4. a5:8 g5:4 f5
+          | f5:4. g5:8 a5:4' c6' | h5:4. as5:8 g5:4 f5 | es5:8 f5 g5 b5 a5:4' f5' | b5:4. r:8 r f5 g5 a5"""
 STEIGERUNG = "b5:4! es5:8t' g5' b5' es6:4 d6 | c6:4. a5:8 f5:2 | f5:8 a5 d6:4 b5:8 a5 g5 f5 | es5:4' g5' a5:8 b5 c6 d6"
 SCHLUSS = "d6:2! b5:8t' b5' b5' f5:4 | b5:2 c6:2 | d6:1~ | d6:4 r:4 b5:4!' r"
 
 WIRBEL = {"schnarr": "x..oooo.x...o.o.", "bass": "x.......x......."}
-ZUG = {"schnarr": "o.x.o.xo|o.xoo.xo", "bass": "x...x...", "becken": "........"}
+ZUG = {"schnarr": "o.x.o.xo|o.xoo.xo", "bass": "x...x..."}
 FÜLLUNG = {"schnarr": "o.ooo.ooxoxoxxxx", "bass": "x.......x......."}
 TUSCH = {"becken": "x.......", "bass": "x...x...", "schnarr": "x.x.o.xo"}
 
@@ -25,7 +25,7 @@ def stück():
     tuba = st.stimme("Tuba", 58, kraft=90, laut=116, ort=84, hall=40)
     pauke = st.stimme("Pauken", 47, kraft=84, laut=104, ort=64, hall=56)
     geigen = st.stimme("Streicher", 48, kraft=62, laut=66, ort=60, hall=60)
-    glocken = st.stimme("Glockenspiel", 9, kraft=100, laut=122, ort=44, hall=50)
+    glocken = st.stimme("Glockenspiel", 9, kraft=100, laut=122, ort=44, hall=50, ausdruck=127)
     trommel = st.schlagzeug(48, kraft=72, laut=104, hall=50)
 
     ruf = st.teil("Ruf", "B | % | Gesadd9 | Fsus4 F7")
