@@ -10,7 +10,7 @@ B_1 = "Fmaj9 | Fm6 B9 | Em7 | A7b9 | Dm9 | G13 G7b13 | Cmaj9 | C69"
 B_2 = "Fism7b5 | H7b9 | Em9 | Em7 A13 | Dm9 | G9sus | E7sus | E7b9"
 
 # Zwei punktierte Viertel und ein Ausklang: der Einfall bleibt im Takt hängen und sinkt nach.
-THEMA = """h4:4. c5:8~4 e5 | d5:4. h4:8~2 | c5:4. d5:8~4 f5 | e5:4. d5:8 h4:4. r:8
+THEMA = """h4:4. c5:8~4 e5 | c5:4. h4:8~2 | c5:4. d5:8~4 f5 | e5:4. d5:8 h4:4. r:8
          | r:8 g4 h4 d5 e5:4. h4:8 | a4:4. e5:8~4 h4 | r:8 d5 f5 a5 g5:4. f5:8 | e5:4. d5:8 gis4:2
          | e5:4. g5:8~4 h5 | g5:4. e5:8~2 | a5:4. e5:8~4 c5 | g5:4. e5:8~8 c5 d5 e5
          | f5:4. e5:8~4 d5 | c5:4. h4:8~4 gis4 | a4:4. h4:8~4 e5 | h4:2 r"""
@@ -24,7 +24,7 @@ THEMA_3 = """h4:8 a4 h4 c5:8~8 d5 e5:4 | d5:8t e5 d5 c5:8 h4:8~2 | c5:8 h4 c5 d5
            | f5:8 g5 f5 e5~ e5 d5 c5 d5 | c5:4. h4:8~8 a4 gis4:4 | a4:4. h4:8~4 e5 | h4:2 r"""
 MITTE_1 = """a4:2~8 g4:8 f4 c4 | as4:2~8 g4:8 f4 d4 | a4:4. g4:8~4 h3 | cis4:4. b4:8~4 a4
            | g4:4. f4:8~8 e4 d4 a3 | e4:4. d4:8 es4:4. d4:8 | h3:4. d4:8~2 | e4:4. g4:8~4 r"""
-MITTE_2 = """r:8 c5 a4 e4 fis4:2 | e4:4. dis4:8~4 a4 | h4:2~8 a4:8 g4 fis4 | g4:4 e4 fis4 cis5
+MITTE_2 = """r:8 c5 a4 e4 fis4:2 | e4:4. dis4:8~4 a4 | h4:2~8 g4:8 e4 fis4 | g4:4 e4 fis4 cis5
            | c5:2~8 h4:8 a4 f4 | a4:4. g4:8~4 d4 | e4:2~8 a4:8 h4 d5 | c5:4. h4:8 gis4:4. r:8"""
 SOLO = """r:4 e4:8 g4 h4:4. c5:8 | d5:8 c5 h4 g4 a4:4 r | r:8 f4 a4 c5 e5:4 d5:8 c5 | g4:4 a4:8 h4~ h4 a4 g4 f4
         | e4:8 g4 h4 d5 c5:4. h4:8 | a4:4 e5:8 d5~ d5 c5 h4 a4 | f4:8 a4 h4 d5 c5 h4 a4 f4 | gis4:8t a4 h4 d5:4 r:8 f5 e5 d5

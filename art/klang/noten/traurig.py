@@ -16,7 +16,7 @@ KLAGE = """a4:4, d5:4. e5:8 f5:4 | g5:4. f5:8 e5:4 d5:8 r | b4:4 d5:4. f5:8 e5:4
 TROST = """a3:4. c4:8 f4:4. g4:8 | e4:2. d4:8 c4 | d4:4. f4:8 a4:4. g4:8 | e4:2. r:8 d4
          | g3:4. b3:8 d4:4 f4 | e4:2_ cis4:4. r:8"""
 # Im Zwiegespräch antwortet das Cello der Oboe, zuletzt gehen sie zusammen.
-FRAGE = """f5:4. d5:8 b4:4 f5 | b5:4 a5:4. g5:8 f5 r | r:1 | r | g5:4. f5:8 es5:4 b4 | es5:4 d5:4. c5:8 b4 r | e5:4. f5:8 g5:4 b5 | a5:4. g5:8 e5:4 cis5:8 r"""
+FRAGE = """f5:4. d5:8 b4:4 f5 | b5:4 a5:4. g5:8 f5 r | r:1 | r | g5:4. f5:8 es5:4 b4 | d5:4 f5:4. es5:8 d5 r | e5:4. f5:8 g5:4 b5 | a5:4. g5:8 e5:4 cis5:8 r"""
 RAT = """r:1 | r | b3:4. c4:8 d4:4 g4 | g4:4 f4:4. e4:8 d4 r | r:1 | r | r:4 d4:4. e4:8 g4:4 | e4:2 a3:4. r:8"""
 KLAGE_2 = """a4:4 d5:4. e5:8 f5:4 | f5:4. e5:8 a5:4. r:8 | g5:4. f5:8 e5:4 d5 | b5:4. g5:8 f5 e5 cis5:4
            | d5:4 f5 a5:4. f5:8 | e5:4. d5:8 b4:4. r:8 | a4:4 f5 e5:4. cis5:8 | d5:2. r:4"""
