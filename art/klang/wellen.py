@@ -343,7 +343,7 @@ def intro():
     return raum(bild, .4, .6)
 
 
-MIT_MUSIK = -10.5  # dB: zwei Geräusche am Brett und die Musik übersteuern zusammen nicht
+MIT_MUSIK = -12.0  # dB: zwei Geräusche am Brett und die Musik übersteuern zusammen nicht
 IM_GARTEN = -6.5   # im Menü spielt keine Musik
 ALLEIN = -3.0
 TAFEL = (  # Datei, Welle, lauteste 0,4 s in LUFS, höchste Spitze in dB, Ausklang in s
@@ -351,16 +351,16 @@ TAFEL = (  # Datei, Welle, lauteste 0,4 s in LUFS, höchste Spitze in dB, Auskla
     ("click2.wav", click2, -25.0, IM_GARTEN, .03),
     ("click1.wav", click1, -22.5, IM_GARTEN, .05),
     ("menuback.wav", menuback, -20.0, IM_GARTEN, .08),
-    ("haus.wav", haus, -18.5, MIT_MUSIK, .2),
-    ("money_click.wav", money_click, -23.0, MIT_MUSIK, .05),
-    ("car.wav", car, -20.5, MIT_MUSIK, .06),
-    ("tromm.wav", tromm, -18.5, MIT_MUSIK, .15),
-    ("kasse.wav", kasse, -19.0, MIT_MUSIK, .25),
+    ("haus.wav", haus, -19.5, MIT_MUSIK, .2),
+    ("money_click.wav", money_click, -23.5, MIT_MUSIK, .05),
+    ("car.wav", car, -21.0, MIT_MUSIK, .06),
+    ("tromm.wav", tromm, -19.5, MIT_MUSIK, .15),
+    ("kasse.wav", kasse, -19.5, MIT_MUSIK, .25),
     ("command_click.wav", command_click, -24.5, MIT_MUSIK, .04),
-    ("kback.wav", kback, -20.5, MIT_MUSIK, .12),
-    ("kbf.wav", kbf, -22.5, MIT_MUSIK, .05),
-    ("glass.wav", glass, -18.5, MIT_MUSIK, .25),
-    ("laugh.wav", laugh, -18.5, MIT_MUSIK, .12),
+    ("kback.wav", kback, -21.5, MIT_MUSIK, .12),
+    ("kbf.wav", kbf, -23.0, MIT_MUSIK, .05),
+    ("glass.wav", glass, -19.5, MIT_MUSIK, .25),
+    ("laugh.wav", laugh, -19.5, MIT_MUSIK, .12),
 )
 
 
