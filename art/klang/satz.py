@@ -23,7 +23,7 @@ from harmonie import Akkord
 TÖNE = {"c": 0, "d": 2, "e": 4, "f": 5, "g": 7, "a": 9, "h": 11, "b": 10}
 KRAFT = {"X": 1.18, "x": 1.0, "o": .78, ",": .55, "v": 1.1}
 
-FÜLLKRAFT = 1.15  # so viel kräftiger ist die Füllung am Ende eines Teils
+FÜLLKRAFT = 1.25  # so viel kräftiger ist die Füllung am Ende eines Teils
 
 # Schlagzeug auf Kanal 10 (General MIDI)
 TROMMEL = {"bass": 36, "rand": 37, "schnarr": 38, "klatsch": 39, "fell": 40, "hihat": 42, "fuß": 44, "offen": 46,

@@ -47,7 +47,7 @@ BASS = "1--.5--5|1--.5--a"
 LEISE = {"schüttel": ",o,o,o,o", "rand": "x..x..x.|..x..x..", "bass": "x..ox..o", "fuß": "..o...o."}
 MEHR = {"hihat": "o,xoo,xo", "rand": "x..x..x.|..x..x..", "bass": "x..ox..o", "schüttel": ",o,o,o,o", "fuß": "..o...o."}
 FÜLLUNG = {"schüttel": ",o,o,o,o", "rand": "x..x..x.", "congahoch": "....x.xx....x...", "conga": "..x.......xx....", "congatief": "x..x....x....xXX", "bass": "x..xx.xx"}
-FÜLLUNG_2 = {"hihat": "o,xo....", "rand": "x..x....", "schnarr": "....x.o.x.......", "tomhoch": "......x..xx.....", "tommitte": "..........xXx...", "tomtief": "x...........xxXX", "bass": "x..xx.xx"}
+FÜLLUNG_2 = {"hihat": "o,xo....", "rand": "x..x....", "schnarr": "....x.o.x.......", "tomhoch": "......x..xx.....", "tommitte": "..........xxx...", "tomtief": "x...........xxxx", "bass": "x..xx.xx"}
 
 
 def stück():

@@ -47,7 +47,7 @@ KOMP_SATT = "x..x..v.|-..x.x..|..x..x.v|-..x..x."
 BECKEN = {"ride": "x.xox.xo", "fuß": "..x...x.", "bass": "o.,.o.,."}
 LEISE = {"hihat": "o.xoo.xo", "fuß": "..,...,.", "bass": "o...o...", "rand": "......o.|..o....."}
 LAUT = {"ride": "x.xox.xo", "fuß": "..x...x.", "bass": "x.o.x.o.", "schnarr": ".....,..|...o...,|.,....o.|...,.o.."}
-FÜLLUNG = {"ride": "x.xo....", "schnarr": "....xoxX", "tomtief": "..x...xX", "bass": "x...x.xX", "fuß": "..x...x."}
+FÜLLUNG = {"ride": "x.xo....", "schnarr": "....xoxX", "tomtief": "..x...xx", "bass": "x...x.xX", "fuß": "..x...x."}
 FÜLLUNG_2 = {"schnarr": "x.oxx.......", "tomhoch": "......xox...", "tomtief": "x........xXX", "bass": "x..x..x..x.x", "fuß": "...x.....x.."}
 WIRBEL_1 = {"schnarr": "x.oxo.xo|x.o.....", "tomhoch": "........|...xoxo.", "tomtief": "...x....|.......X", "bass": "x...x..x|x..x..x.", "fuß": "..x...x."}
 WIRBEL_2 = {"schnarr": "xooxooXooxoX|x..x........", "tomhoch": "............|....xoX.....", "tomtief": "...x.....x..|.......xXxXX", "bass": "x.....x.....|x..x..x..x..", "becken": "x...........|............"}
@@ -139,8 +139,10 @@ def stück():
         teil.trommle(trommel, LEISE, {8: FÜLLUNG})
     for teil in (b1, t1, sax_1, b2):
         teil.trommle(trommel, BECKEN, {8: FÜLLUNG})
-    for teil in (t2, satz, sax_2, a4):
-        teil.trommle(trommel, LAUT, {4: dict(LAUT, schnarr=".o.....x"), teil.takte: FÜLLUNG if teil is a4 else FÜLLUNG_2})
+    for teil in (t2, satz):  # danach wird es leiser: keine Füllung
+        teil.trommle(trommel, LAUT, {4: dict(LAUT, schnarr=".o.....x")})
+    for teil, füllung in ((sax_2, FÜLLUNG_2), (a4, FÜLLUNG)):
+        teil.trommle(trommel, LAUT, {4: dict(LAUT, schnarr=".o.....x"), teil.takte: füllung})
     a3.trommle(trommel, LAUT, {4: dict(LAUT, schnarr=".o.....x")}, bis=7)
     a3.trommle(trommel, {"bass": PAUSE, "ride": PAUSE}, von=8)
     zwischen.trommle(trommel, LEISE, {4: FÜLLUNG})
