@@ -2,9 +2,8 @@
 
 Maße: der Schädel ist 2 hoch, sein Mittelpunkt der Ursprung; x nach rechts, y nach hinten, z nach oben.
 """
+from kasten import *            # zuerst: er führt nach Blender, wo es mathutils gibt
 from mathutils.bvhtree import BVHTree
-
-from kasten import *
 
 
 def glocke(x, s):

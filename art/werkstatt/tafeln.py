@@ -4,7 +4,7 @@ import subprocess
 
 from befehl import WURZEL, brauche
 
-BAUORDNER = WURZEL / "build" / "tafeln"
+BAUORDNER = WURZEL / "build-werkstatt"
 
 
 def lies():
