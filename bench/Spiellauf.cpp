@@ -86,7 +86,7 @@ void Spiellauf::verwirf() {
 void Spiellauf::beginne() {
     fläche.Töne.clear();
     unruhig = spiel % 2 == 0;
-    verlassen = verneint = false;
+    verlassen = gefragt = false;
     räumeAuf();
     spieler->beginneSpiel();
     schreibeMit();
@@ -142,10 +142,11 @@ bool Spiellauf::handle() {
 
 bool Spiellauf::stört() { return (fläche.Uhr - regung > Geduld && unruhe->gibtAuf()) || unruhe->stört(); }
 
-/// Ist das Beenden verneint, bleibt das Brett gesperrt; sonst kommt ein Spieler immer weiter oder hinaus.
+/// Ist das Beenden verneint oder die Frage von einem anderen Satz verdrängt, bleibt das Brett gesperrt; sonst kommt ein
+/// Spieler immer weiter oder hinaus.
 void Spiellauf::prüfeFortgang() {
     if (fläche.Uhr - regung <= Stillstand) return;
-    if (verneint) throw Schluss{};
+    if (gefragt) throw Schluss{};
     throw Befund(std::string(wartende ? "eine Routine wartet ohne Ende: " : "das Spiel hängt: ") + lage());
 }
 
@@ -178,7 +179,7 @@ void Spiellauf::imWarten() {
 void Spiellauf::drückt(const VisualControl &c) {
     const std::string name = vollerName(c);
     if (name == "Sprech.Command1") verlassen = true;
-    if (name == "Sprech.Command2") verneint = true;
+    if (name == "Form1.SSCommand1") gefragt = true;
     richter->drückt(c, wartende > 0);
 }
 

@@ -16,7 +16,8 @@
 
 namespace velmo {
 
-/// Wie ein Spiel endet; verlassen hat es der Spieler, gesperrt ist es, wenn er das Beenden verneint hat.
+/// Wie ein Spiel endet; verlassen hat es der Spieler, gesperrt bleibt es nach einer Frage, die er
+/// nicht bejaht hat.
 enum class Ausgang { Sieg, Niederlage, Überlauf, Umwandlung, Verlassen, Gesperrt };
 
 class Spiellauf {
@@ -59,11 +60,11 @@ class Spiellauf {
     std::map<std::string, std::string> anfang; // der Stand am Anfang des ersten Spiels
     unsigned saat;
     int spiel = 0, runden = 0, zugZuvor = 0;
-    int wartende = 0;     // Routinen, die gerade warten
-    bool unruhig = false; // in diesem Spiel
-    bool verlassen = false, verneint = false;
-    Zeit beginn = 0; // des Spiels
-    Zeit regung = 0; // die letzte des Spielers, in einem unruhigen Spiel der letzte Zug
+    int wartende = 0;                        // Routinen, die gerade warten
+    bool unruhig = false;                    // in diesem Spiel
+    bool verlassen = false, gefragt = false; // nach dem Beenden
+    Zeit beginn = 0;                         // des Spiels
+    Zeit regung = 0;                         // die letzte des Spielers, in einem unruhigen Spiel der letzte Zug
 };
 
 } // namespace velmo

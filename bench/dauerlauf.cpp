@@ -63,7 +63,7 @@ void berichte(Ergebnis &e, double sekunden, const std::string &signatur) {
     std::cout << spiele << " Spiele: " << e.ausgänge[Ausgang::Sieg] << " Siege, " << e.ausgänge[Ausgang::Niederlage]
               << " Niederlagen, " << e.ausgänge[Ausgang::Überlauf] << " Überläufe, " << e.ausgänge[Ausgang::Umwandlung]
               << " Umwandlungsfehler bei Safari, " << e.ausgänge[Ausgang::Verlassen] << " verlassen, "
-              << e.ausgänge[Ausgang::Gesperrt] << " nach \"Nein\" gesperrt\n"
+              << e.ausgänge[Ausgang::Gesperrt] << " gesperrt\n"
               << "Runden je Spiel: Median " << e.runden[e.runden.size() / 2] << ", längstes " << e.runden.back() << '\n'
               << static_cast<int>(spiele / sekunden) << " Spiele je Sekunde\n"
               << "Signatur " << signatur << '\n';
