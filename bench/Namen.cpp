@@ -36,6 +36,20 @@ template <class T> Zugang aufgezählt(T &von, const std::string &gesucht, const 
     return zugang;
 }
 
+/// "Zeichnung(N)": das N-te Quadrat, das die Form über sich malt, als "LINKS OBEN BREITE HÖHE RRGGBB"; leer ohne.
+Zugang quadrat(const Form &form, const std::string &Name) {
+    const auto stelle = static_cast<std::size_t>(liesGanzzahl({Name.substr(10, Name.size() - 11)})) - 1;
+    return nurLesbar([&form, stelle]() -> Wert {
+        const auto *bild = form.Zeichnung();
+        if (!bild || stelle >= bild->size()) return Leer{};
+        const auto &[ort, farbe] = (*bild)[stelle];
+        std::string text;
+        for (const double maß : {ort.Left, ort.Top, ort.Width, ort.Height})
+            text += Zahltext(maß) + " ";
+        return text + alsText(alsWert(farbe));
+    });
+}
+
 } // namespace
 
 Namen::Namen(Programm &programm, Prüffläche &fläche) : p(programm) {
@@ -65,6 +79,7 @@ Zugang Namen::eigenschaft(const std::string &Form, const std::string &Rest) {
     const bool geladen = p.geladene(benannt);
     if (Rest == "Loaded") return nurLesbar([this, benannt] { return p.geladene(benannt) != nullptr; });
     if (Rest == "Visible" && !geladen) return nurLesbar([] { return false; });
+    if (Rest.starts_with("Zeichnung(")) return quadrat(form(Form), Rest);
     const auto punkt = Rest.substr(0, Rest.find('(')).find('.');
     if (punkt == std::string::npos) return aufgezählt(form(Form), Rest, Form + "." + Rest);
     const std::string name = Form + "." + Rest.substr(0, punkt), eigenschaft = Rest.substr(punkt + 1);

@@ -3,6 +3,7 @@
 #include "bench/Programmordner.h"
 #include "bench/Prüffläche.h"
 #include "include/Programm.h"
+#include "platform/Zeichenliste.h"
 #include "shell/Formtafel.h"
 #include "tests/Prüfung.h"
 
@@ -14,11 +15,11 @@ using namespace velmo;
 namespace {
 
 const std::map<std::string, std::uint32_t> Entwürfe = {
-    {"Form1", 2303980006},    {"Baufeld", 3541179059}, {"Bauphase", 4107431448}, {"Exchange", 2651753337},
-    {"Karten", 3586425710},   {"eingang", 3464345809}, {"geldfeld", 1562193207}, {"Bezahlen", 2733933050},
-    {"Verloren", 3351919215}, {"Gewinn", 272155792},   {"HoF", 3389840027},      {"Assistent", 1854234060},
-    {"Sprech", 1350948121},   {"Intro", 3790150884},   {"Menu", 312556406},      {"Menu2", 2157152298},
-    {"frmHilfe", 454743722},  {"Überf", 609595035},    {"Dank", 2129810421},
+    {"Form1", 3454314521},    {"Baufeld", 2320897887}, {"Bauphase", 3402272201}, {"Exchange", 1354425760},
+    {"Karten", 3522906824},   {"eingang", 134259359},  {"geldfeld", 2744400131}, {"Bezahlen", 315639588},
+    {"Verloren", 1822796178}, {"Gewinn", 4128664492},  {"HoF", 3859453},         {"Assistent", 806231121},
+    {"Sprech", 2712180336},   {"Intro", 1737451433},   {"Menu", 3428257786},     {"Menu2", 76962643},
+    {"frmHilfe", 4226977602}, {"Überf", 3210803664},   {"Dank", 1395079134},
 };
 
 /// Alles, was nicht leer, 0 oder falsch ist.
@@ -36,6 +37,8 @@ std::string entwurf(Form &form) {
         if (const auto *rahmen = dynamic_cast<Shape *>(c))
             text += std::to_string(static_cast<int>(rahmen->gestalt)) + "\n";
     }
+    for (const Stück &s : zeichenliste(form)) // von hinten nach vorn
+        text += std::string(s.control->Name) + "\n";
     return text;
 }
 
