@@ -4,6 +4,8 @@
 #include "computer/Computer.h"
 #include "property/Bauen.h"
 
+#include <algorithm>
+
 namespace velmo {
 
 namespace {
@@ -12,16 +14,10 @@ using H = Hotelkürzel;
 
 constexpr H Reihenfolge[] = {H::p, H::l, H::w, H::r, H::f, H::b, H::s, H::t};
 
-/// Die erste Stufe, die nicht steht, während die davor steht; das Hauptgebäude braucht nichts davor.
+/// Die erste Stufe, die nicht steht.
 const Stufe *nächsteStufe(const Spielzustand &z, H k) {
-    bool davor = true;
-    for (const Stufe &s : Stufen) {
-        if (s.Hotel != k) continue;
-        const bool da = steht(z, k, s.Stand);
-        if (davor && !da) return &s;
-        davor = da;
-    }
-    return nullptr;
+    const auto s = std::ranges::find_if(Stufen, [&](const Stufe &s) { return s.Hotel == k && !steht(z, k, s.Stand); });
+    return s == Stufen.end() ? nullptr : &*s;
 }
 
 } // namespace
