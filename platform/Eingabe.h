@@ -3,6 +3,7 @@
 // auf der Anzeige.
 #include "platform/Control.h"
 
+#include <optional>
 #include <string>
 
 namespace velmo {
@@ -41,6 +42,13 @@ class Eingabe {
 
     /// Was ein Druck an diesem Ort erreicht. Eine gesperrte Form nimmt nichts, verdeckt aber, was hinter ihr liegt.
     Treffer trifft(Punkt) const;
+    /// Bewirkt ein Druck mit der linken Taste etwas: einen Klick, ein Ziehen, eine Ansicht, solange er hält?
+    static bool bewirktEtwas(const VisualControl &);
+    /// Wo ein Druck dieses Element erreicht, möglichst in seiner Mitte; ohne Wert, wenn er es nirgends erreicht: es ist
+    /// verborgen, gesperrt oder verdeckt.
+    std::optional<Punkt> druckort(const VisualControl &) const;
+    /// Wo ein Gezogenes auf dieses Element abgelegt wird; ebenso.
+    std::optional<Punkt> ablageort(const VisualControl &) const;
     /// Die linke obere Ecke des Elements auf der Anzeige.
     static Punkt ort(const VisualControl &);
 
