@@ -45,6 +45,22 @@ Form *vordersteForm(const Laufzeit &laufzeit, Punkt p) {
     return nullptr;
 }
 
+/// Ein Ort auf dem Element und der Anzeige, an dem die Frage gilt: die Mitte, sonst der erste eines Gitters.
+template <class Frage>
+std::optional<Punkt> ortAuf(const Laufzeit &laufzeit, const VisualControl &c, const Frage &frage) {
+    constexpr int Gitter = 9;
+    const Bildschirm schirm = laufzeit.Screen();
+    const auto gilt = [&](Punkt p) { return darin(p, 0, 0, schirm.Width, schirm.Height) && frage(p); };
+    const Punkt ecke = Eingabe::ort(c), mitte{ecke.x + c.Width / 2, ecke.y + c.Height / 2};
+    if (gilt(mitte)) return mitte;
+    for (int zeile = 0; zeile < Gitter; ++zeile)
+        for (int spalte = 0; spalte < Gitter; ++spalte) {
+            const Punkt hier{ecke.x + c.Width * (spalte + 0.5) / Gitter, ecke.y + c.Height * (zeile + 0.5) / Gitter};
+            if (gilt(hier)) return hier;
+        }
+    return std::nullopt;
+}
+
 Punkt aufForm(const Form &f, Punkt p) { return {p.x - f.Left, p.y - f.Top}; }
 
 /// Ruft den Handler der Form oder des Elements mit dem Ort, bezogen auf das Getroffene.
@@ -65,6 +81,20 @@ Treffer Eingabe::trifft(Punkt p) const {
     Form *form = vordersteForm(laufzeit, p);
     if (!form || !form->Enabled) return {};
     return {form, vorderstes(form->Kinder, aufForm(*form, p), nimmtMaus)};
+}
+
+bool Eingabe::bewirktEtwas(const VisualControl &c) {
+    return c.Click || c.DblClick || c.DragMode || (c.MouseDown && c.MouseUp);
+}
+
+std::optional<Punkt> Eingabe::druckort(const VisualControl &c) const {
+    if (!kannBedienen(c)) return std::nullopt;
+    return ortAuf(laufzeit, c, [&](Punkt p) { return trifft(p).control == &c; });
+}
+
+std::optional<Punkt> Eingabe::ablageort(const VisualControl &c) const {
+    if (!kannBedienen(c) || !nimmtAblage(c)) return std::nullopt;
+    return ortAuf(laufzeit, c, [&](Punkt p) { return ziel(p) == &c; });
 }
 
 void Eingabe::bewege(Punkt p) {

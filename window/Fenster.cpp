@@ -5,10 +5,10 @@
 #include "window/Gestaltung.h"
 #include "window/Schrift.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QPainter>
 #include <QScreen>
 #include <QShortcut>
@@ -59,7 +59,9 @@ class Fenster::Ziehbild : public QWidget {
 };
 
 Fenster::Fenster(Umgebung &u, std::function<void()> schließt)
-    : u(u), schließt(std::move(schließt)), anzeige(this), ziehbild(new Ziehbild(&anzeige)) {
+    : u(u), schließt(std::move(schließt)), anzeige(this), ziehbild(new Ziehbild(&anzeige)),
+      tastenfokus(u.p, u.bearbeite), tasten(u.p, tastenfokus, u.bearbeite), ring(new Fokusring(&anzeige)),
+      blatt(new Tastenblatt(&anzeige)), zettel(new Zettel(this)) {
     setWindowTitle("Velmo");
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
@@ -69,6 +71,10 @@ Fenster::Fenster(Umgebung &u, std::function<void()> schließt)
     resize(anfangsgröße(QGuiApplication::primaryScreen()->availableSize()));
     for (const char *taste : {"F11", "Alt+Return", "Alt+Enter"})
         connect(new QShortcut(QKeySequence(taste), this), &QShortcut::activated, this, [this] { wechsleVollbild(); });
+    connect(new QShortcut(QKeySequence("F1"), this), &QShortcut::activated, this,
+            [this] { blatt->isVisible() ? blatt->hide() : blatt->zeige(maß); });
+    tastenfokus.beiWechsel([this] { folgeFokus(); });
+    connect(qApp, &QApplication::focusChanged, this, &Fenster::nimmFokus, Qt::QueuedConnection);
     beruhigt.setSingleShot(true);
     beruhigt.setInterval(Ruhezeit);
     beruhigt.callOnTimeout([this] {
@@ -116,8 +122,10 @@ void Fenster::folge() {
         fläche->folge(*form, maß, u.p.eingabe.gezogen());
     }
     folgeReihenfolge(formen);
-    folgeVorderster(formen);
     folgeGezogenem();
+    tastenfokus.folge();
+    folgeRing();
+    blatt->folge(maß);
 }
 
 void Fenster::folgeReihenfolge(const std::vector<Form *> &formen) {
@@ -130,15 +138,44 @@ void Fenster::folgeReihenfolge(const std::vector<Form *> &formen) {
         flächen[nummer]->raise();
 }
 
-/// Eine Form, die nach vorn kommt, nimmt die Tastatur: ihr erstes Textfeld, sonst das Fenster.
-void Fenster::folgeVorderster(const std::vector<Form *> &formen) {
-    const auto vorn = std::ranges::find_if(formen | std::views::reverse,
-                                           [](const Form *f) { return f->Visible() && f->Enabled() && !f->Topmost(); });
-    const std::uint64_t nummer = vorn == std::ranges::rend(formen) ? 0 : (*vorn)->Nummer;
-    if (nummer == vorderste) return;
-    vorderste = nummer;
-    QWidget *feld = nummer ? flächen[nummer]->findChild<QLineEdit *>() : nullptr;
-    (feld ? feld : this)->setFocus();
+/// Die Tasten gehören dem Bedienelement des Systems, das den Fokus hat, sonst dem Fenster.
+void Fenster::folgeFokus() {
+    const VisualControl *c = tastenfokus.control();
+    const Formfläche *wo = c ? fläche(c->form) : nullptr;
+    QWidget *feld = wo ? wo->feld(*c) : nullptr;
+    QWidget *nimmt = feld ? feld : this;
+    if (!nimmt->hasFocus() && focusWidget() != nimmt) nimmt->setFocus(Qt::OtherFocusReason);
+    folgeRing();
+}
+
+void Fenster::folgeRing() {
+    const VisualControl *frei = tastenfokus.control(), *c = frei ? frei : tastenfokus.stelle();
+    const Formfläche *wo = c ? fläche(c->form) : nullptr;
+    const Stück *s = wo ? wo->stück(*c) : nullptr;
+    if (!s || !s->sichtbar || !tastenfokus.sichtbar()) return ring->hide();
+    const QRect punkte = maß.rechteck({c->form.Left + s->Left, c->form.Top + s->Top, s->Width, s->Height});
+    using enum Fokusring::Lage;
+    ring->zeige(maß.fensterrechteck(punkte), maß, !frei ? Gesperrt : c == tastenfokus.gehalten() ? Gedrückt : Frei);
+}
+
+/// Ein Klick in ein Textfeld oder eine Liste bringt den Fokus dorthin.
+void Fenster::nimmFokus() {
+    QWidget *feld = QApplication::focusWidget();
+    if (!feld || !isAncestorOf(feld)) return;
+    for (const auto &[nummer, fläche] : flächen)
+        if (VisualControl *c = fläche->zu(*feld)) {
+            feld->installEventFilter(this);
+            tastenfokus.setze(*c);
+            return;
+        }
+}
+
+/// Die Tabulatortaste führt auch aus den Bedienelementen des Systems den Fokus des Fensters weiter.
+bool Fenster::eventFilter(QObject *feld, QEvent *e) {
+    const int taste = e->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(e)->key() : 0;
+    if (taste != Qt::Key_Tab && taste != Qt::Key_Backtab) return QWidget::eventFilter(feld, e);
+    keyPressEvent(static_cast<QKeyEvent *>(e));
+    return true;
 }
 
 void Fenster::folgeGezogenem() {
@@ -195,11 +232,20 @@ void Fenster::closeEvent(QCloseEvent *e) {
     schließt();
 }
 
+void Fenster::changeEvent(QEvent *e) {
+    if (e->type() == QEvent::ActivationChange && !isActiveWindow()) tastenfokus.verliere();
+    QWidget::changeEvent(e);
+}
+
 void Fenster::keyPressEvent(QKeyEvent *e) {
-    const auto formen = u.p.Formen();
-    const auto vorn = std::ranges::find_if(formen | std::views::reverse, [](const Form *f) { return f->Visible(); });
-    if (e->text().isEmpty() || vorn == std::ranges::rend(formen)) return QWidget::keyPressEvent(e);
-    u.bearbeite([&] { u.p.eingabe.taste(**vorn, e->text().toStdString()); });
+    if (blatt->isVisible())
+        blatt->hide();
+    else if (!tasten.drücke(*e))
+        QWidget::keyPressEvent(e);
+}
+
+void Fenster::keyReleaseEvent(QKeyEvent *e) {
+    if (!tasten.löse(*e)) QWidget::keyReleaseEvent(e);
 }
 
 void Fenster::mouseMoveEvent(QMouseEvent *e) {
@@ -221,6 +267,8 @@ std::optional<Maustaste> maustaste(const QMouseEvent &e) {
 } // namespace
 
 void Fenster::mousePressEvent(QMouseEvent *e) {
+    tastenfokus.verliere();
+    tastenfokus.setzeSichtbar(false);
     // Ist sonst keine Taste unten, hält auch keine: ihr Loslassen kann an einen Kasten gegangen sein.
     if (e->buttons() == e->button()) u.p.eingabe.gibFrei();
     if (const auto taste = maustaste(*e)) u.bearbeite([&] { u.p.eingabe.drücke(*taste, ort(*e)); });

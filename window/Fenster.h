@@ -2,7 +2,11 @@
 // Das Fenster des Programms: darin die Anzeige von 800 mal 600 Bildpunkten des Entwurfs, auf das Fenster gestreckt, mit
 // einer Fläche je geladener Form.
 #include "platform/Eingabe.h"
+#include "window/Fokusring.h"
 #include "window/Formfläche.h"
+#include "window/Tasten.h"
+#include "window/Tastenblatt.h"
+#include "window/Zettel.h"
 
 #include <QPixmap>
 #include <QTimer>
@@ -25,12 +29,19 @@ class Fenster : public QWidget {
     Formfläche *fläche(const Form &) const;
     /// Längen des Fensters je Bildpunkt des Entwurfs.
     double vergrößerung() const { return maß.jeTwip * 12 / maß.dichte; }
+    Fokus &fokus() { return tastenfokus; }
+    /// Eine kurze Notiz am unteren Rand.
+    void notiere(const QString &t) { zettel->zeige(t, vergrößerung()); }
 
   protected:
     void paintEvent(QPaintEvent *) override;
     void resizeEvent(QResizeEvent *) override;
     void closeEvent(QCloseEvent *) override;
+    void changeEvent(QEvent *) override;
+    bool eventFilter(QObject *, QEvent *) override;
+    bool focusNextPrevChild(bool) override { return false; } // die Tabulatortaste ist eine von Tasten
     void keyPressEvent(QKeyEvent *) override;
+    void keyReleaseEvent(QKeyEvent *) override;
     void mouseMoveEvent(QMouseEvent *) override;
     void mousePressEvent(QMouseEvent *) override;
     void mouseReleaseEvent(QMouseEvent *) override;
@@ -40,7 +51,9 @@ class Fenster : public QWidget {
     void messe();
     void wechsleVollbild();
     void folgeReihenfolge(const std::vector<Form *> &);
-    void folgeVorderster(const std::vector<Form *> &);
+    void folgeFokus();
+    void folgeRing();
+    void nimmFokus();
     void folgeGezogenem();
     void folgeZeiger(Punkt);
     void setzeZeiger(const Picture &);
@@ -52,9 +65,13 @@ class Fenster : public QWidget {
     Maß maß;
     std::map<std::uint64_t, Formfläche *> flächen; // nach der Nummer der Form
     std::vector<std::uint64_t> reihenfolge;
-    std::uint64_t vorderste = 0;
     class Ziehbild;
     Ziehbild *ziehbild;
+    Fokus tastenfokus;
+    Tasten tasten;
+    Fokusring *ring;
+    Tastenblatt *blatt;
+    Zettel *zettel;
     QTimer beruhigt; // der Spieler zieht nicht mehr am Fenster
 };
 

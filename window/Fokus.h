@@ -26,6 +26,8 @@ class Fokus {
     std::vector<VisualControl *> reihe() const;
     /// Das Steuerelement, das den Fokus hat und gerade zu erreichen ist; sonst null.
     VisualControl *control() const;
+    /// Wo der Fokus steht, auch wenn dort gerade nichts zu drücken ist.
+    VisualControl *stelle() const;
     /// Hat der Spieler zuletzt die Tasten benutzt? Dann ist der Fokus zu sehen.
     bool sichtbar() const { return zeigt; }
     void setzeSichtbar(bool);
@@ -48,7 +50,7 @@ class Fokus {
     /// einen solchen.
     bool brichAb();
     /// Was die Tasten gerade halten; sonst null.
-    const VisualControl *gehalten() const;
+    const VisualControl *gehalten() const { return gehaltenes; }
 
     /// Wird nach jedem Wechsel gerufen: des Elements, der Form, der Sichtbarkeit, des Gehaltenen.
     void beiWechsel(std::function<void()>);
@@ -56,20 +58,29 @@ class Fokus {
     void folge();
 
   private:
-    void meldeWechsel();
-    void merke(VisualControl *);
+    struct Stand {
+        std::uint64_t form;
+        const VisualControl *control;
+        bool operator==(const Stand &) const = default;
+    };
+    bool erreichbar(const VisualControl &) const;
+    std::vector<VisualControl *> stellen() const;
     VisualControl *anfang(const Form &) const;
+    void merke(VisualControl &);
+    bool zeigeErst();
     bool druckAn(VisualControl &);
+    void legeAb(const VisualControl *auf);
+    void meldeWechsel();
+    void vergissEntladenes();
 
     Programm &p;
     Bearbeiter bearbeite;
     std::vector<std::function<void()>> empfänger;
-    std::uint64_t formnummer = 0;                     // der Form, der die Tasten gelten
-    std::map<std::uint64_t, VisualControl *> zuletzt; // der Fokus jeder geladenen Form
+    std::map<std::uint64_t, VisualControl *> zuletzt; // der Fokus jeder geladenen Form, nach ihrer Nummer
     VisualControl *ablage = nullptr;                  // worüber das Gezogene schwebt
-    VisualControl *gemeldet = nullptr;                // was control() beim letzten Melden war
-    VisualControl *gehaltenes = nullptr;
+    const VisualControl *gehaltenes = nullptr;
     Punkt haltort{0, 0};
+    Stand stand{0, nullptr}; // der zuletzt gemeldete
     bool zeigt = false;
 };
 

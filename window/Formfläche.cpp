@@ -5,9 +5,9 @@
 #include "window/Knopf.h"
 #include "window/Malen.h"
 #include "window/Schrift.h"
+#include "window/Tasten.h"
 #include "window/Umriss.h"
 
-#include <QApplication>
 #include <QHelpEvent>
 #include <QPaintEvent>
 #include <QToolTip>
@@ -78,6 +78,8 @@ void Formfläche::folgePlatz(const Form &form) {
 void Formfläche::folgeListe(const Form &form, const VisualControl *gezogen) {
     Zeichenliste neu = zeichenliste(form);
     if (gezogen) blendeVerdeckendes(neu, gezogen);
+    for (Stück &s : neu)
+        s.hinweis = mitTaste(s.hinweis, form.Name, s.control->Name);
     std::swap(neu, liste);
     const Zeichenliste &alt = neu;
     for (std::size_t i = 0; i < std::max(alt.size(), liste.size()); ++i) {
@@ -255,18 +257,15 @@ bool Formfläche::event(QEvent *e) {
     return true;
 }
 
-/// Die Tabulatortaste bleibt in der Form.
-bool Formfläche::focusNextPrevChild(bool weiter) {
-    const auto alle = findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
-    QList<QWidget *> erreichbar;
-    for (QWidget *w : alle)
-        if (w->isVisible() && w->isEnabled() && (w->focusPolicy() & Qt::TabFocus)) erreichbar << w;
-    if (erreichbar.isEmpty()) return false;
-    const auto jetzt = erreichbar.indexOf(QApplication::focusWidget());
-    const auto n = erreichbar.size();
-    const auto nächstes = jetzt < 0 ? (weiter ? 0 : n - 1) : (jetzt + (weiter ? 1 : n - 1)) % n;
-    erreichbar[nächstes]->setFocus(weiter ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-    return true;
+QWidget *Formfläche::feld(const Control &c) const {
+    const auto hier = bedienelemente.find(&c);
+    return hier == bedienelemente.end() ? nullptr : hier->second.widget;
+}
+
+VisualControl *Formfläche::zu(const QWidget &w) const {
+    const auto hier = std::ranges::find(bedienelemente, &w, [](const auto &eintrag) { return eintrag.second.widget; });
+    return hier == bedienelemente.end() ? nullptr
+                                        : const_cast<VisualControl *>(static_cast<const VisualControl *>(hier->first));
 }
 
 } // namespace velmo

@@ -38,13 +38,15 @@ class Formfläche : public QWidget {
     const Stück *stück(const Control &) const;
     /// Zeigt es um dx, dy Twips verschoben.
     void versetze(const Control &, double dx, double dy);
+    /// Das Bedienelement des Systems zum Steuerelement, und umgekehrt; sonst null.
+    QWidget *feld(const Control &) const;
+    VisualControl *zu(const QWidget &) const;
     /// Zeichnet das Steuerelement neu.
     void erneuere(const Control &);
 
   protected:
     void paintEvent(QPaintEvent *) override;
     bool event(QEvent *) override;
-    bool focusNextPrevChild(bool weiter) override;
 
   private:
     struct Grund {

@@ -95,4 +95,12 @@ QString kastengestalt(double v) {
                      v);
 }
 
+QString zettelgestalt(double v) {
+    return mitLängen(R"(
+        QLabel {
+            background: #F4EBDC; color: #2E2114; font-size: %8; border: %2 solid #8A663E; border-radius: %6;
+            padding: %4 %7 })",
+                     v);
+}
+
 } // namespace velmo

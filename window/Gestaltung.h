@@ -11,5 +11,7 @@ void gestalteProgramm();
 QString feldgestalt(double vergrößerung);
 /// Meldungen und Fragen.
 QString kastengestalt(double vergrößerung);
+/// Die kurzen Notizen des Fensters.
+QString zettelgestalt(double vergrößerung);
 
 } // namespace velmo

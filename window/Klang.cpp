@@ -18,6 +18,7 @@ Klang::Klang() : werk(std::make_unique<Tonwerk>()) {}
 Klang::~Klang() = default;
 
 void Klang::beginne() { werk->beginne(); }
+void Klang::stelleLautstärke(double neue) { werk->stelleLautstärke(neue); }
 
 const Stimme *Klang::stimme(const Control &c) const {
     const auto hier = stimmen.find(&c);

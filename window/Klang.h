@@ -18,6 +18,8 @@ class Klang {
     /// Von nun an klingt, was gespielt wird; was bis dahin befohlen war, wird nachgeholt.
     void beginne();
     void befehl(const MMControl &, Befehl);
+    /// Von 0 bis 1. Auch ohne Lautstärke dauert jeder Ton so lang wie er ist.
+    void stelleLautstärke(double);
     /// Klingt das Element noch? Ein Gerät, das hängt, verlängert das um höchstens eine halbe Sekunde.
     bool klingt(const MMControl &) const;
     /// Ort und Ende in ms; ohne Ton beide 0.

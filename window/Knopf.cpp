@@ -4,8 +4,6 @@
 #include "window/Malen.h"
 #include "window/Schrift.h"
 
-#include <QFocusEvent>
-#include <QKeyEvent>
 #include <QMouseEvent>
 
 namespace velmo {
@@ -38,7 +36,7 @@ QImage gestreckt(const QImage &bild, const QSize &größe) {
 
 Knopf::Knopf(QWidget *form, Bildspeicher &bilder, std::string ordner)
     : QAbstractButton(form), bilder(bilder), ordner(std::move(ordner)) {
-    setFocusPolicy(Qt::TabFocus);
+    setFocusPolicy(Qt::NoFocus);
     setMouseTracking(true);
 }
 
@@ -116,11 +114,6 @@ void Knopf::paintEvent(QPaintEvent *) {
         fertigIn = z;
     }
     p.drawPixmap(0, 0, fertig);
-    if (zeigtFokus && hasFocus()) {
-        const double strich = maß.strich(2);
-        p.setPen(QPen(farbton::Messing.darker(115), strich));
-        p.drawRoundedRect(QRectF(ganz).adjusted(strich, strich, -strich, -strich), strich * 3, strich * 3);
-    }
     const int rand = static_cast<int>(maß.strich(3));
     const int tiefer = isDown() ? static_cast<int>(maß.strich(1)) : 0;
     maleInhalt(p, ganz.adjusted(rand, rand, -rand, -rand).translated(0, tiefer));
@@ -138,19 +131,7 @@ void Knopf::mouseMoveEvent(QMouseEvent *e) {
 }
 void Knopf::mouseReleaseEvent(QMouseEvent *e) { mousePressEvent(e); }
 
-void Knopf::keyPressEvent(QKeyEvent *e) {
-    if (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter)
-        click();
-    else
-        QAbstractButton::keyPressEvent(e);
-}
-
 void Knopf::enterEvent(QEnterEvent *) { update(); }
 void Knopf::leaveEvent(QEvent *) { update(); }
-
-void Knopf::focusInEvent(QFocusEvent *e) {
-    zeigtFokus = e->reason() == Qt::TabFocusReason || e->reason() == Qt::BacktabFocusReason;
-    QAbstractButton::focusInEvent(e);
-}
 
 } // namespace velmo

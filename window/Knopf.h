@@ -1,6 +1,6 @@
 #pragma once
-// Die Knöpfe des Spiels: ein Schalter des Systems (Tastatur, Vorlesen) in eigener Gestalt. Mit der Maus drückt ihn
-// die Eingabe des Spiels; mit der Tastatur meldet er sich über clicked.
+// Die Knöpfe des Spiels: ein Schalter des Systems in eigener Gestalt. Maus und Tasten drücken ihn durch die Eingabe des
+// Spiels; clicked meldet nur, wer ihn vorgelesen bekam.
 #include "platform/Zeichenliste.h"
 #include "window/Bildspeicher.h"
 #include "window/Maß.h"
@@ -21,10 +21,8 @@ class Knopf : public QAbstractButton {
     void mouseReleaseEvent(QMouseEvent *) override;
     void mouseDoubleClickEvent(QMouseEvent *) override;
     void mouseMoveEvent(QMouseEvent *) override;
-    void keyPressEvent(QKeyEvent *) override;
     void enterEvent(QEnterEvent *) override;
     void leaveEvent(QEvent *) override;
-    void focusInEvent(QFocusEvent *) override;
 
   private:
     enum class Zustand { Ruhe, Überfahren, Gedrückt, Gesperrt };
@@ -36,7 +34,6 @@ class Knopf : public QAbstractButton {
     const std::string ordner;
     Stück stück;
     Maß maß;
-    bool zeigtFokus = false;
     QPixmap fertig; // der Körper in seinem letzten Zustand
     Zustand fertigIn = Zustand::Ruhe;
 };

@@ -7,6 +7,7 @@
 #include "window/Schrift.h"
 
 #include <QApplication>
+#include <QShortcut>
 #include <QTime>
 
 #include <algorithm>
@@ -35,7 +36,7 @@ class Halt {
 
 } // namespace
 
-QtOberfläche::QtOberfläche() : würfel(std::random_device{}()) {
+QtOberfläche::QtOberfläche(QString merkdatei) : würfel(std::random_device{}()), gedächtnis(std::move(merkdatei)) {
     uhr.start();
     takt.setSingleShot(true);
     takt.setTimerType(Qt::PreciseTimer);
@@ -53,13 +54,39 @@ int QtOberfläche::laufe(Programm &p, const Handler &beginn) {
                                     return film == filme.end() ? nullptr : &film->second->bild();
                                 }});
     fenster = std::make_unique<Fenster>(*umgebung, [this] { schließe(); });
+    if (!gedächtnis.Fenster.isEmpty()) fenster->restoreGeometry(gedächtnis.Fenster);
+    richteLautstärkeEin();
     fenster->show();
     QTimer::singleShot(0, fenster.get(), [&] {
         bearbeite(beginn);
         QTimer::singleShot(0, fenster.get(), [this] { töne.beginne(); }); // nach dem ersten Bild
     });
     QApplication::exec();
+    merkeFenster();
     return endstand();
+}
+
+/// Null ändert nichts an der Stufe, sondern macht stumm oder wieder laut; jede andere Änderung macht laut.
+void QtOberfläche::stelleLautstärke(int um) {
+    gedächtnis.Stumm = um == 0 && !gedächtnis.Stumm;
+    gedächtnis.Lautstärke = std::clamp(gedächtnis.Lautstärke + um, 0, Gedächtnis::Stufen);
+    töne.stelleLautstärke(gedächtnis.anteil());
+    fenster->notiere(gedächtnis.Stumm ? "Ton aus"
+                                      : "Lautstärke " + QString::number(gedächtnis.Lautstärke) + " von " +
+                                            QString::number(Gedächtnis::Stufen));
+    gedächtnis.schreibe();
+}
+
+void QtOberfläche::richteLautstärkeEin() {
+    töne.stelleLautstärke(gedächtnis.anteil());
+    for (const auto &[taste, um] : {std::pair{Qt::Key_F6, 0}, {Qt::Key_F7, -1}, {Qt::Key_F8, 1}})
+        QObject::connect(new QShortcut(QKeySequence(taste), fenster.get()), &QShortcut::activated, fenster.get(),
+                         [this, um = um] { stelleLautstärke(um); });
+}
+
+void QtOberfläche::merkeFenster() {
+    gedächtnis.Fenster = fenster->saveGeometry();
+    gedächtnis.schreibe();
 }
 
 int QtOberfläche::endstand() {

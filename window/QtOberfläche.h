@@ -3,6 +3,7 @@
 #include "platform/Oberfläche.h"
 #include "window/Film.h"
 #include "window/Formfläche.h"
+#include "window/Gedächtnis.h"
 #include "window/Klang.h"
 
 #include <QElapsedTimer>
@@ -19,7 +20,8 @@ class Fenster;
 
 class QtOberfläche : public Oberfläche {
   public:
-    QtOberfläche();
+    /// gedächtnis: die Datei, in der sich das Fenster merkt, was bleibt; leer: es merkt sich nichts.
+    explicit QtOberfläche(QString gedächtnis = {});
     ~QtOberfläche() override;
     /// Zeigt das Fenster, beginnt das Programm und läuft bis zu seinem Ende; gibt den Endstand.
     int laufe(Programm &, const Handler &beginn);
@@ -51,6 +53,9 @@ class QtOberfläche : public Oberfläche {
     void plane();
     void takte();
     void schließe();
+    void richteLautstärkeEin();
+    void stelleLautstärke(int um);
+    void merkeFenster();
     bool beginneSchritt(double ms, double &beginn);
     void zeigeBild();
     int endstand();
@@ -60,6 +65,7 @@ class QtOberfläche : public Oberfläche {
     Anzeige gemerkteAnzeige;
     std::unique_ptr<Umgebung> umgebung;
     std::unique_ptr<Fenster> fenster;
+    Gedächtnis gedächtnis;
     Klang töne;
     std::map<const Control *, std::unique_ptr<Film>> filme;
 

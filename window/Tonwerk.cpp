@@ -61,6 +61,13 @@ void Tonwerk::schließe(std::shared_ptr<Stimme> s) {
     gib([this, s = std::move(s)] { lass(*s); });
 }
 
+void Tonwerk::stelleLautstärke(double neue) {
+    gib([this, neue] {
+        lautstärke = neue;
+        if (offen) wendeLautstärkeAn();
+    });
+}
+
 void Tonwerk::laufe() {
     std::unique_lock sperre(schloss);
     const auto gefragt = [this] { return ende || !aufträge.empty(); };
@@ -97,8 +104,13 @@ bool Tonwerk::öffneGerät() {
             Mix_SetSoundFonts(satz);
             break;
         }
-    Mix_VolumeMusic(Musikstärke);
+    wendeLautstärkeAn();
     return true;
+}
+
+void Tonwerk::wendeLautstärkeAn() {
+    Mix_VolumeMusic(static_cast<int>(Musikstärke * lautstärke));
+    Mix_MasterVolume(static_cast<int>(MIX_MAX_VOLUME * lautstärke));
 }
 
 void Tonwerk::schließeGerät() {

@@ -46,6 +46,8 @@ class Tonwerk {
     void beginne();
     void spiele(std::shared_ptr<Stimme>);
     void schließe(std::shared_ptr<Stimme>);
+    /// Von 0 bis 1; auch für das, was schon klingt.
+    void stelleLautstärke(double);
 
   private:
     void gib(std::function<void()> auftrag);
@@ -55,6 +57,7 @@ class Tonwerk {
     void führeAus(const std::shared_ptr<Stimme> &);
     void lass(Stimme &);
     void sieNach();
+    void wendeLautstärkeAn();
 
     std::mutex schloss;
     std::condition_variable bedarf;
@@ -67,6 +70,7 @@ class Tonwerk {
     Tonuhr::time_point zuletzt; // hat etwas geklungen
     bool offen = false;
     bool stumm = false; // das Gerät ließ sich nicht öffnen
+    double lautstärke = 1;
 };
 
 } // namespace velmo

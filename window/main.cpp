@@ -4,6 +4,7 @@
 #include "window/QtOberfläche.h"
 
 #include <QApplication>
+#include <QStandardPaths>
 
 #include <iostream>
 
@@ -28,7 +29,8 @@ int main(int argc, char **argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     velmo::gestalteProgramm();
 
-    velmo::QtOberfläche oberfläche;
+    velmo::QtOberfläche oberfläche(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
+                                   "/fenster.ini");
     velmo::Programm programm(oberfläche, velmo::Formtafel(), QApplication::applicationDirPath().toStdString());
     return oberfläche.laufe(programm, [&] { velmo::starte(programm); });
 }

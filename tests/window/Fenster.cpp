@@ -1,9 +1,7 @@
 // Was nur am Fenster zu sehen ist: Größe, Schleife, Schließen, Fehler. Läuft ohne Bildschirm und ohne Lautsprecher.
-#include "bench/Programmordner.h"
-#include "shell/Formtafel.h"
 #include "tests/Prüfung.h"
+#include "tests/window/Lauf.h"
 #include "window/Gestaltung.h"
-#include "window/QtOberfläche.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
@@ -19,43 +17,6 @@
 using namespace velmo;
 
 namespace {
-
-/// Ein Programm im Fenster und was nacheinander mit ihm geschieht; jeder Schritt wartet, bis er gelingt.
-class Lauf {
-  public:
-    using Schritt = std::function<bool()>; // falsch: noch nicht so weit
-
-    Programmordner ordner;
-    QtOberfläche oberfläche;
-    Programm p{oberfläche, Formtafel(), ordner.Pfad()};
-    std::vector<Schritt> schritte;
-
-    /// Läuft bis zum Ende des Programms; -1, wenn ein Schritt hängen blieb.
-    int laufe(const Handler &beginn) {
-        bool hängt = false;
-        int versuche = 0;
-        QTimer antrieb;
-        antrieb.callOnTimeout([&] {
-            if (!schritte.empty() && schritte.front()()) {
-                schritte.erase(schritte.begin());
-                versuche = 0;
-            } else if (++versuche > 600) {
-                hängt = true;
-                QCoreApplication::exit();
-            }
-        });
-        antrieb.start(10);
-        const int stand = oberfläche.laufe(p, beginn);
-        return hängt ? -1 : stand;
-    }
-};
-
-QWidget *fenster() {
-    const auto alle = QApplication::topLevelWidgets();
-    for (QWidget *w : alle)
-        if (w->windowTitle() == "Velmo" && !w->isModal()) return w;
-    return nullptr;
-}
 
 double strecke() { return std::min(fenster()->width() / 800.0, fenster()->height() / 600.0); }
 
@@ -87,7 +48,7 @@ QCursor zeigerBei(double x, double y) {
 bool sichtbar(const Programm &p, Formularname form) { return p.geladene(form) && p.geladene(form)->Visible; }
 
 void prüfeWegDurchsMenü(Prüfung &t) {
-    Lauf l;
+    Lauf<> l;
     l.schritte = {
         [&] {
             if (QWidget *kasten = QApplication::activeModalWidget()) kasten->close(); // ohne Film
@@ -108,7 +69,7 @@ void prüfeWegDurchsMenü(Prüfung &t) {
 }
 
 void prüfeKlickBeiJederGröße(Prüfung &t) {
-    Lauf l;
+    Lauf<> l;
     int getroffen = 0;
     for (const QSize größe : {QSize(800, 600), QSize(1600, 1200), QSize(1900, 700), QSize(500, 900)}) {
         l.schritte.push_back([größe] {
@@ -128,7 +89,7 @@ void prüfeKlickBeiJederGröße(Prüfung &t) {
 }
 
 void prüfeZweiteTaste(Prüfung &t) {
-    Lauf l;
+    Lauf<> l;
     l.schritte = {[&] {
         auto &haus = dynamic_cast<VisualControl &>(*l.p.geladene(formular::Form1)->control("royn2"));
         const Punkt ecke = Eingabe::ort(haus);
@@ -152,7 +113,7 @@ void prüfeZweiteTaste(Prüfung &t) {
 }
 
 void prüfeSchließenImWarten(Prüfung &t) {
-    Lauf l;
+    Lauf<> l;
     l.schritte = {[&] { return sichtbar(l.p, formular::Form1); }, [] { return fenster()->close() || true; }};
     t.gleich("Schließen mitten in einem Warten endet", l.laufe([&] {
         l.p.zeige(formular::Form1);
@@ -162,7 +123,7 @@ void prüfeSchließenImWarten(Prüfung &t) {
 }
 
 void prüfeLaufzeitfehler(Prüfung &t) {
-    Lauf l;
+    Lauf<> l;
     l.schritte = {[&] { // der Kasten kommt nach dem Ende der Schleife
         QWidget *kasten = QApplication::activeModalWidget();
         return kasten && kasten->close();
@@ -175,7 +136,7 @@ void prüfeLaufzeitfehler(Prüfung &t) {
 }
 
 void prüfeRuhe(Prüfung &t) {
-    Lauf l;
+    Lauf<> l;
     int erwacht = 0;
     auto *schleife = QAbstractEventDispatcher::instance();
     QTimer::singleShot(700, [&] { // alles ist gezeichnet
@@ -190,7 +151,7 @@ void prüfeRuhe(Prüfung &t) {
 }
 
 void prüfeSchritte(Prüfung &t) {
-    Lauf l;
+    Lauf<> l;
     Zeit dauer = 0;
     bool getickt = false;
     l.schritte = {[&] { return dauer > 0 && (fenster()->close() || true); }};
@@ -216,7 +177,7 @@ void prüfeSchritte(Prüfung &t) {
 }
 
 void prüfeMeldungsarten(Prüfung &t) {
-    Lauf l;
+    Lauf<> l;
     std::vector<bool> mitZeichen;
     const auto schließeKasten = [&] {
         QWidget *kasten = QApplication::activeModalWidget();
@@ -236,7 +197,7 @@ void prüfeMeldungsarten(Prüfung &t) {
 }
 
 void prüfeZeiger(Prüfung &t) {
-    Lauf l;
+    Lauf<> l;
     QCursor figur, brett;
     int breite = 0;
     l.schritte = {[] {

@@ -1,0 +1,52 @@
+#pragma once
+// Ein Programm im wirklichen Fenster, das eine Prüfung Schritt für Schritt bedient.
+#include "bench/Programmordner.h"
+#include "shell/Formtafel.h"
+#include "window/QtOberfläche.h"
+
+#include <QApplication>
+#include <QTimer>
+
+#include <functional>
+#include <vector>
+
+namespace velmo {
+
+/// Ein Programm im Fenster und was nacheinander mit ihm geschieht; jeder Schritt wartet, bis er gelingt.
+template <class Art = QtOberfläche> class Lauf {
+  public:
+    using Schritt = std::function<bool()>; // falsch: noch nicht so weit
+
+    Programmordner ordner;
+    Art oberfläche;
+    Programm p{oberfläche, Formtafel(), ordner.Pfad()};
+    std::vector<Schritt> schritte;
+
+    /// Läuft bis zum Ende des Programms; -1, wenn ein Schritt hängen blieb.
+    int laufe(const Handler &beginn) {
+        bool hängt = false;
+        int versuche = 0;
+        QTimer antrieb;
+        antrieb.callOnTimeout([&] {
+            if (!schritte.empty() && schritte.front()()) {
+                schritte.erase(schritte.begin());
+                versuche = 0;
+            } else if (++versuche > 600) {
+                hängt = true;
+                QCoreApplication::exit();
+            }
+        });
+        antrieb.start(10);
+        const int stand = oberfläche.laufe(p, beginn);
+        return hängt ? -1 : stand;
+    }
+};
+
+inline QWidget *fenster() {
+    const auto alle = QApplication::topLevelWidgets();
+    for (QWidget *w : alle)
+        if (w->windowTitle() == "Velmo" && !w->isModal()) return w;
+    return nullptr;
+}
+
+} // namespace velmo
