@@ -144,6 +144,7 @@ void Fenster::folgeFokus() {
     const Formfläche *wo = c ? fläche(c->form) : nullptr;
     QWidget *feld = wo ? wo->feld(*c) : nullptr;
     QWidget *nimmt = feld ? feld : this;
+    if (feld) feld->installEventFilter(this);
     if (!nimmt->hasFocus() && focusWidget() != nimmt) nimmt->setFocus(Qt::OtherFocusReason);
     folgeRing();
 }

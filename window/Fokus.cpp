@@ -54,14 +54,16 @@ Platz platz(const VisualControl &c) {
             std::min(schirm.Height, ecke.y + c.Height)};
 }
 
-/// Zeilen von oben nach unten, in jeder von links nach rechts. In eine Zeile gehört, wessen Mitte neben ihrem Ersten
-/// liegt.
+/// Zeilen von oben nach unten, in jeder von links nach rechts. In eine Zeile gehört, was über der Mitte ihres Ersten
+/// beginnt.
 void ordne(std::vector<VisualControl *> &alle) {
     std::ranges::stable_sort(alle, {}, [](const VisualControl *c) { return platz(*c).oben; });
     for (auto zeile = alle.begin(); zeile != alle.end();) {
-        const double unten = platz(**zeile).unten;
-        const auto ende = std::stable_partition(
-            zeile, alle.end(), [&](const VisualControl *c) { return c == *zeile || platz(*c).mitteY() < unten; });
+        const VisualControl *erster = *zeile;
+        const auto ende =
+            std::stable_partition(zeile, alle.end(), [erster, mitte = platz(*erster).mitteY()](const VisualControl *c) {
+                return c == erster || platz(*c).oben < mitte;
+            });
         std::ranges::stable_sort(zeile, ende, {}, [](const VisualControl *c) { return platz(*c).links; });
         zeile = ende;
     }

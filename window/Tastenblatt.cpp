@@ -12,8 +12,8 @@ namespace velmo {
 namespace {
 
 // Maße in Twips der Anzeige.
-constexpr Rechteck Blatt{960, 720, 7680, 5760};
-constexpr double Zeile = 384, Kappe = 288, Rand = 480, Kopf = 1560, Spaltenbreite = 3480;
+constexpr Rechteck Blatt{960, 600, 7680, 6000};
+constexpr double Zeile = 360, Kappe = 288, Rand = 480, Kopf = 1440, Spaltenbreite = 3480;
 
 class Schreiber {
   public:
@@ -87,17 +87,17 @@ void Tastenblatt::paintEvent(QPaintEvent *) {
     Schreiber s(p, maß);
     const double links = Blatt.Left + Rand, rechts = links + Spaltenbreite + 240, oben = Blatt.Top + Kopf;
     s.satz({links, Blatt.Top + 240, Blatt.Width - 2 * Rand, 600}, "Tasten", 18, true, Qt::AlignCenter);
-    s.satz({links, oben - 480, Spaltenbreite, 360}, "Überall", 11, true);
-    s.satz({rechts, oben - 480, Spaltenbreite, 360}, "Auf dem Brett", 11, true);
+    s.satz({links, oben - 456, Spaltenbreite, 360}, "Überall", 11, true);
+    s.satz({rechts, oben - 456, Spaltenbreite, 360}, "Auf dem Brett", 11, true);
     double y = oben;
     for (const Fenstertaste &t : Fenstertastentafel) {
-        s.zeile(links, y, t.Name, t.Wirkung, 1200);
+        s.zeile(links, y, t.Name, t.Wirkung, 1260);
         y += Zeile;
     }
     y = oben;
     for (const Brettaste &t : Brettastentafel) {
-        s.zeile(rechts, y, t.Name, t.Wirkung, 420);
-        y += Zeile * 0.96;
+        s.zeile(rechts, y, t.Name, t.Wirkung, 456);
+        y += Zeile;
     }
 }
 

@@ -21,6 +21,7 @@ template <class Art = QtOberfläche> class Lauf {
     Art oberfläche;
     Programm p{oberfläche, Formtafel(), ordner.Pfad()};
     std::vector<Schritt> schritte;
+    int geduld = 600; // Versuche je Schritt, zu 10 ms
 
     /// Läuft bis zum Ende des Programms; -1, wenn ein Schritt hängen blieb.
     int laufe(const Handler &beginn) {
@@ -31,7 +32,7 @@ template <class Art = QtOberfläche> class Lauf {
             if (!schritte.empty() && schritte.front()()) {
                 schritte.erase(schritte.begin());
                 versuche = 0;
-            } else if (++versuche > 600) {
+            } else if (++versuche > geduld) {
                 hängt = true;
                 QCoreApplication::exit();
             }

@@ -16,10 +16,10 @@ using namespace velmo;
 
 namespace {
 
-/// Jede Ziehung ist 0,7: der Würfel zeigt 4.
-class Vierer : public QtOberfläche {
+/// Jede Ziehung ist 0,85: der Würfel zeigt 5, und die erste Fahrt endet auf einem Kauffeld.
+class Fünfer : public QtOberfläche {
   public:
-    double Rnd() override { return 0.7; }
+    double Rnd() override { return 0.85; }
 };
 
 Fokus &fokus() { return dynamic_cast<Fenster &>(*fenster()).fokus(); }
@@ -108,7 +108,8 @@ class Zugspieler {
 };
 
 void prüfeGanzesSpiel(Prüfung &t) {
-    Lauf<Vierer> l;
+    Lauf<Fünfer> l;
+    l.geduld = 6000;
     Zugspieler spieler(l.p, t);
     l.schritte = {
         [&] {
@@ -156,6 +157,7 @@ void gibHotel(Programm &p) {
     Spielzustand &z = p.Zustand;
     z.Hotels[Hotelkürzel::b].Besitzer = Hotelbesitzer("player1");
     z.Hotels[Hotelkürzel::b].Baustufen[Baustufe::H] = "true";
+    z.Hotels[Hotelkürzel::b].Eingangssperre = false;
     z.Hotelliste[1] = "Boomrang";
     z.Spielerfarbe = "autog";
     z.Programmpfad = p.Ordner;
