@@ -17,7 +17,11 @@ namespace {
 
 /// Schrift in Längen des Fensters.
 void nimmSchrift(QWidget &w, const Schriftelement &e, const Maß &m) {
-    w.setFont(schrift(e.FontName, e.FontSize, e.FontBold, m.jeTwip * 12 / m.dichte));
+    QFont f = schrift(e.FontName, e.FontSize, e.FontBold, m.jeTwip * 12 / m.dichte);
+    // Eine Zeile soll im Feld noch ganz zu sehen sein.
+    const int höchstens = static_cast<int>(e.Height * m.jeTwip / m.dichte * 0.55);
+    f.setPixelSize(std::max(f.pixelSize(), std::min(static_cast<int>(f.pixelSize() * m.wünsche.schrift), höchstens)));
+    w.setFont(f);
 }
 
 Bedienelement textfeld(TextBox &feld, QWidget *form, Programm &p, const Bearbeiter &bearbeite) {

@@ -82,8 +82,17 @@ Fenster::Fenster(Umgebung &u, std::function<void()> schließt)
         for (auto &[nummer, fläche] : flächen)
             fläche->update();
     });
+    stillstand.setSingleShot(true);
+    stillstand.setInterval(Formfläche::Stillstand);
+    stillstand.callOnTimeout([this] { folge(); });
     messe();
     anzeige.setStyleSheet(feldgestalt(vergrößerung()));
+}
+
+void Fenster::erfülle(const Wünsche &wünsche) {
+    if (wünsche == maß.wünsche) return;
+    maß.wünsche = wünsche;
+    folge();
 }
 
 void Fenster::wechsleVollbild() { setWindowState(windowState() ^ Qt::WindowFullScreen); }
@@ -94,7 +103,7 @@ void Fenster::messe() {
         std::min(width() / double(Entwurf.width()), height() / double(Entwurf.height())); // je Bildpunkt des Entwurfs
     const QSize größe(static_cast<int>(Entwurf.width() * strecke), static_cast<int>(Entwurf.height() * strecke));
     anzeige.setGeometry((width() - größe.width()) / 2, (height() - größe.height()) / 2, größe.width(), größe.height());
-    const Maß neu{strecke * dichte / 12, dichte};
+    const Maß neu{strecke * dichte / 12, dichte, maß.wünsche};
     if (neu == maß) return;
     maß = neu;
     anzeige.setStyleSheet(feldgestalt(vergrößerung()));
@@ -121,6 +130,7 @@ void Fenster::folge() {
         }
         fläche->folge(*form, maß, u.p.eingabe.gezogen());
     }
+    if (std::ranges::any_of(flächen, [](const auto &eintrag) { return eintrag.second->wartet(); })) stillstand.start();
     folgeReihenfolge(formen);
     folgeGezogenem();
     tastenfokus.folge();
@@ -150,6 +160,8 @@ void Fenster::folgeFokus() {
 }
 
 void Fenster::folgeRing() {
+    for (const auto &[nummer, fläche] : flächen)
+        fläche->zeigeGedrückt(tastenfokus.gehalten());
     const VisualControl *frei = tastenfokus.control(), *c = frei ? frei : tastenfokus.stelle();
     const Formfläche *wo = c ? fläche(c->form) : nullptr;
     const Stück *s = wo ? wo->stück(*c) : nullptr;
@@ -234,6 +246,8 @@ void Fenster::closeEvent(QCloseEvent *e) {
 }
 
 void Fenster::changeEvent(QEvent *e) {
+    if (e->type() == QEvent::ActivationChange && isActiveWindow())
+        frageSchreibtisch(this, [this](const Wünsche &w) { erfülle(w); });
     if (e->type() == QEvent::ActivationChange && !isActiveWindow()) tastenfokus.verliere();
     QWidget::changeEvent(e);
 }

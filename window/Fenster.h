@@ -30,6 +30,8 @@ class Fenster : public QWidget {
     /// Längen des Fensters je Bildpunkt des Entwurfs.
     double vergrößerung() const { return maß.jeTwip * 12 / maß.dichte; }
     Fokus &fokus() { return tastenfokus; }
+    void erfülle(const Wünsche &);
+    bool ruhig() const { return maß.wünsche.ruhig; }
     /// Eine kurze Notiz am unteren Rand.
     void notiere(const QString &t) { zettel->zeige(t, vergrößerung()); }
 
@@ -72,7 +74,8 @@ class Fenster : public QWidget {
     Fokusring *ring;
     Tastenblatt *blatt;
     Zettel *zettel;
-    QTimer beruhigt; // der Spieler zieht nicht mehr am Fenster
+    QTimer beruhigt;   // der Spieler zieht nicht mehr am Fenster
+    QTimer stillstand; // was sich bewegt hat, steht vielleicht
 };
 
 } // namespace velmo

@@ -8,11 +8,13 @@
 #include "window/Tasten.h"
 #include "window/Umriss.h"
 
+#include <QDateTime>
 #include <QHelpEvent>
 #include <QPaintEvent>
 #include <QToolTip>
 
 #include <algorithm>
+#include <tuple>
 
 namespace velmo {
 
@@ -34,7 +36,8 @@ Formfläche::Formfläche(QWidget *anzeige, Umgebung &u) : QWidget(anzeige), u(u)
 
 void Formfläche::folge(const Form &form, const Maß &m, const VisualControl *gezogen) {
     if (gezogen && &gezogen->form != &form) gezogen = nullptr;
-    if (stand == form.Stand() && m == maß && gezogen == gezogenes) return;
+    if (stand == form.Stand() && m == maß && gezogen == gezogenes && !ausstehend) return;
+    ausstehend = false;
     const bool ganz = !stand || m != maß;
     stand = form.Stand();
     maß = m;
@@ -45,6 +48,22 @@ void Formfläche::folge(const Form &form, const Maß &m, const VisualControl *ge
     folgeBedienelemente(form);
     if (ganz) update();
     setVisible(form.Visible);
+}
+
+/// Wo etwas zu zeigen ist, das dort ist.
+Rechteck Formfläche::beruhigt(const void *was, const Rechteck &ist) {
+    if (!maß.wünsche.ruhig) return ist;
+    const qint64 nun = QDateTime::currentMSecsSinceEpoch();
+    auto [hier, frisch] = bewegungen.try_emplace(was, Bewegung{ist, ist, 0});
+    Bewegung &b = hier->second;
+    const auto gleich = [](const Rechteck &a, const Rechteck &c) {
+        return a.Left == c.Left && a.Top == c.Top && a.Width == c.Width && a.Height == c.Height;
+    };
+    if (!gleich(b.ist, ist)) b.seit = nun;
+    b.ist = ist;
+    if (nun - b.seit >= Stillstand) b.gezeigt = ist;
+    ausstehend |= !gleich(b.gezeigt, ist);
+    return b.gezeigt;
 }
 
 /// Ringsum der Schatten; eine Form mit Bild, der nur ein Streifen zur ganzen Anzeige fehlt, füllt ihn mit.
@@ -66,7 +85,8 @@ void Formfläche::folgePlatz(const Form &form) {
     umriss = form.region() ? umrissVon(*form.region(), u.p.Screen().TwipsPerPixelX * maß.jeTwip) : QPainterPath();
     saum = saumVon(form);
     wirftSchatten = saum.left() > 0 && saum.left() == saum.right();
-    const QPoint ecke(maß.punkt(form.Left), maß.punkt(form.Top));
+    const Rechteck platz = beruhigt(this, {form.Left, form.Top, 0, 0});
+    const QPoint ecke(maß.punkt(platz.Left), maß.punkt(platz.Top));
     setGeometry(maß.fensterrechteck(QRect(ecke, größe).marginsAdded(saum)));
     setAttribute(Qt::WA_OpaquePaintEvent, umriss.isEmpty() && !wirftSchatten);
     const Grund neu{form.Picture().Datei, form.BackColor};
@@ -78,8 +98,11 @@ void Formfläche::folgePlatz(const Form &form) {
 void Formfläche::folgeListe(const Form &form, const VisualControl *gezogen) {
     Zeichenliste neu = zeichenliste(form);
     if (gezogen) blendeVerdeckendes(neu, gezogen);
-    for (Stück &s : neu)
+    for (Stück &s : neu) {
         s.hinweis = mitTaste(s.hinweis, form.Name, s.control->Name);
+        const Rechteck ort = beruhigt(s.control, s.ort());
+        std::tie(s.Left, s.Top, s.Width, s.Height) = std::tie(ort.Left, ort.Top, ort.Width, ort.Height);
+    }
     std::swap(neu, liste);
     const Zeichenliste &alt = neu;
     for (std::size_t i = 0; i < std::max(alt.size(), liste.size()); ++i) {
@@ -260,6 +283,11 @@ bool Formfläche::event(QEvent *e) {
 QWidget *Formfläche::feld(const Control &c) const {
     const auto hier = bedienelemente.find(&c);
     return hier == bedienelemente.end() ? nullptr : hier->second.widget;
+}
+
+void Formfläche::zeigeGedrückt(const Control *gehalten) {
+    for (const auto &[c, knopf] : knöpfe)
+        knopf->setDown(c == gehalten || (knopf->isDown() && knopf->underMouse()));
 }
 
 VisualControl *Formfläche::zu(const QWidget &w) const {

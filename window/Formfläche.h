@@ -34,6 +34,11 @@ class Formfläche : public QWidget {
     /// Bringt die Fläche auf den Stand der Form; gezogen ist das Steuerelement, das der Spieler gerade zieht.
     void folge(const Form &, const Maß &, const VisualControl *gezogen);
 
+    /// Wünscht der Spieler Ruhe, so bleibt, was sich bewegt, wo es war, bis es so viele ms stillsteht.
+    static constexpr int Stillstand = 70;
+    /// Steht noch etwas aus?
+    bool wartet() const { return ausstehend; }
+
     /// Wie das Steuerelement zuletzt gezeigt wurde; null, wenn es nicht unter den Gezeichneten ist.
     const Stück *stück(const Control &) const;
     /// Zeigt es um dx, dy Twips verschoben.
@@ -41,6 +46,8 @@ class Formfläche : public QWidget {
     /// Das Bedienelement des Systems zum Steuerelement, und umgekehrt; sonst null.
     QWidget *feld(const Control &) const;
     VisualControl *zu(const QWidget &) const;
+    /// Zeigt den Knopf gedrückt, den die Tasten halten; null: keinen.
+    void zeigeGedrückt(const Control *);
     /// Zeichnet das Steuerelement neu.
     void erneuere(const Control &);
 
@@ -54,6 +61,11 @@ class Formfläche : public QWidget {
         Farbe farbe;
         bool operator==(const Grund &) const = default;
     };
+    struct Bewegung {
+        Rechteck ist, gezeigt;
+        qint64 seit; // ms der Uhr
+    };
+    Rechteck beruhigt(const void *was, const Rechteck &ist);
     void folgePlatz(const Form &);
     QMargins saumVon(const Form &) const;
     void folgeListe(const Form &, const VisualControl *gezogen);
@@ -79,6 +91,9 @@ class Formfläche : public QWidget {
     std::vector<std::pair<Rechteck, Farbe>> zeichnung;
     const Control *versetztes = nullptr;
     QPointF versatz; // Twips
+
+    std::map<const void *, Bewegung> bewegungen; // der Form und ihrer Elemente
+    bool ausstehend = false;
 
     std::map<const Control *, Knopf *> knöpfe;
     std::map<const Control *, Bedienelement> bedienelemente;

@@ -135,6 +135,28 @@ void maleBild(QPainter &p, Bildspeicher &bilder, const std::string &Datei, const
         p.drawPixmap(r, bild);
 }
 
+namespace {
+
+/// Größer, wie der Spieler es wünscht, soweit der Platz reicht.
+QFont gewünscht(const QFont &f, const Wünsche &w, const QSizeF &platz, int ausrichtung, const QString &t) {
+    QFont groß = f;
+    groß.setPixelSize(static_cast<int>(f.pixelSize() * w.schrift));
+    groß = eingepasst(groß, platz, ausrichtung, t);
+    return groß.pixelSize() > f.pixelSize() ? groß : eingepasst(f, platz, ausrichtung, t);
+}
+
+/// Schwarz auf hellem Schein oder umgekehrt.
+void maleKontrast(QPainter &p, const QRectF &r, int ausrichtung, const QString &t, const QColor &farbe) {
+    const bool dunkel = farbe.lightness() < 150;
+    p.setPen(dunkel ? Qt::white : Qt::black);
+    for (const QPointF weg : {QPointF(-1, 0), QPointF(1, 0), QPointF(0, -1), QPointF(0, 1)})
+        p.drawText(r.translated(weg * Satzpunkte), ausrichtung, t);
+    p.setPen(dunkel ? Qt::black : Qt::white);
+    p.drawText(r, ausrichtung, t);
+}
+
+} // namespace
+
 void maleText(QPainter &p, const Maß &m, const QRect &r, int ausrichtung, const QString &t, const QFont &f,
               const QColor &farbe) {
     if (t.isEmpty()) return;
@@ -143,9 +165,12 @@ void maleText(QPainter &p, const Maß &m, const QRect &r, int ausrichtung, const
     p.save();
     p.translate(r.topLeft());
     p.scale(strecke, strecke);
-    p.setFont(eingepasst(f, platz, ausrichtung, t));
+    p.setFont(gewünscht(f, m.wünsche, platz, ausrichtung, t));
     p.setPen(farbe);
-    p.drawText(QRectF(QPointF(), platz), ausrichtung, t);
+    if (m.wünsche.kontrast)
+        maleKontrast(p, QRectF(QPointF(), platz), ausrichtung, t, farbe);
+    else
+        p.drawText(QRectF(QPointF(), platz), ausrichtung, t);
     p.restore();
 }
 

@@ -2,6 +2,7 @@
 // Von Twips zu den Bildpunkten des Bildschirms. Kanten werden gerundet, nicht Breiten: was sich im Entwurf berührt,
 // berührt sich auf dem Bildschirm.
 #include "platform/Control.h"
+#include "window/Schreibtisch.h"
 
 #include <QRect>
 #include <QRectF>
@@ -13,6 +14,7 @@ namespace velmo {
 struct Maß {
     double jeTwip = 1.0 / 12; // Bildpunkte des Bildschirms
     double dichte = 1;        // Bildpunkte je Längeneinheit des Fensters
+    Wünsche wünsche;          // wie der Spieler es gern hätte
 
     int punkt(double twips) const { return static_cast<int>(std::lround(twips * jeTwip)); }
     /// Eine Länge des Entwurfs in Bildpunkten des Entwurfs, mindestens einer.

@@ -173,7 +173,7 @@ void QtOberfläche::zeigeBild() { QCoreApplication::processEvents(QEventLoop::Ex
 
 void QtOberfläche::zeigeSchritt(const Form &, double ms) {
     double beginn;
-    if (!beginneSchritt(ms, beginn)) return;
+    if (fenster->ruhig() || !beginneSchritt(ms, beginn)) return;
     const Halt halt(hält);
     fenster->folge();
     zeigeBild();

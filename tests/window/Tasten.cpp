@@ -16,10 +16,10 @@ using namespace velmo;
 
 namespace {
 
-/// Jede Ziehung ist 0,85: der Würfel zeigt 5, und die erste Fahrt endet auf einem Kauffeld.
-class Fünfer : public QtOberfläche {
+/// Jede Ziehung ist 0,7: der Würfel zeigt 4, und die erste Fahrt endet auf einem Kauffeld.
+class Vierer : public QtOberfläche {
   public:
-    double Rnd() override { return 0.85; }
+    double Rnd() override { return 0.7; }
 };
 
 Fokus &fokus() { return dynamic_cast<Fenster &>(*fenster()).fokus(); }
@@ -61,19 +61,22 @@ template <class T> T &element(Programm &p, const char *form, const char *name) {
 /// Was ein Spieler mit Tasten täte, um seinen Zug zu beenden; wahr, wenn er eine gedrückt hat.
 class Zugspieler {
   public:
-    Zugspieler(Programm &p, Prüfung &t) : p(p), t(t) {}
-    int Käufe = 0, Zahlungen = 0, Züge = 0;
+    explicit Zugspieler(Programm &p) : p(p) {}
+    int Käufe = 0, Zahlungen = 0, Würfe = 0;
 
     void zieh() {
+        if (++pause < 30) return; // der Würfel soll rollen
+        pause = 0;
         if (QApplication::activeModalWidget()) return taste(Qt::Key_Return, "\r");
         const std::string form = vorn();
         if (form == "geldfeld") return kaufe();
         if (form == "Bezahlen") return void(drücke("SSCommand1") || drücke("würfeln"));
         if (form != "Form1") return taste(Qt::Key_Escape, "\x1b");
         if (zahle()) return;
-        if (frei("WüButton")) return taste(Qt::Key_W, "w");
-        if (frei("Fertig")) {
-            ++Züge;
+        if (frei("WüButton")) {
+            Würfe += brett(p).WüButton.Caption() == "Würfeln";
+            taste(Qt::Key_W, "w");
+        } else if (frei("Fertig")) {
             taste(Qt::Key_F, "f");
         }
     }
@@ -104,13 +107,13 @@ class Zugspieler {
     }
 
     Programm &p;
-    Prüfung &t;
+    int pause = 0;
 };
 
 void prüfeGanzesSpiel(Prüfung &t) {
-    Lauf<Fünfer> l;
+    Lauf<Vierer> l;
     l.geduld = 6000;
-    Zugspieler spieler(l.p, t);
+    Zugspieler spieler(l.p);
     l.schritte = {
         [&] {
             if (QWidget *kasten = QApplication::activeModalWidget()) kasten->close(); // ohne Film
@@ -138,12 +141,13 @@ void prüfeGanzesSpiel(Prüfung &t) {
             gehe("List2");
             taste(Qt::Key_Down);
             t.gleich("zwei Gegner", element<ListBox>(l.p, "Menu2", "List2").ListIndex(), 1.0);
+            taste(Qt::Key_Up);
             return drücke("Command2");
         },
         [&] { return vorn() == "Form1"; },
         [&] {
             spieler.zieh();
-            return spieler.Züge >= 3 && l.p.geladene("Form1")->Enabled && brett(l.p).WüButton.Enabled;
+            return spieler.Würfe == 4; // der erste der vierten Runde
         },
         [] { return fenster()->close() || true; },
     };
