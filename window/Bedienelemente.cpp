@@ -18,8 +18,9 @@ namespace {
 /// Schrift in Längen des Fensters.
 void nimmSchrift(QWidget &w, const Schriftelement &e, const Maß &m) {
     QFont f = schrift(e.FontName, e.FontSize, e.FontBold, m.jeTwip * 12 / m.dichte);
-    // Eine Zeile soll im Feld noch ganz zu sehen sein.
-    const int höchstens = static_cast<int>(e.Height * m.jeTwip / m.dichte * 0.55);
+    // Im Feld soll eine Zeile ganz zu sehen sein, in der Liste zwei.
+    const double anteil = dynamic_cast<const ListBox *>(&e) ? 0.42 : 0.55;
+    const int höchstens = static_cast<int>(e.Height * m.jeTwip / m.dichte * anteil);
     f.setPixelSize(std::max(f.pixelSize(), std::min(static_cast<int>(f.pixelSize() * m.wünsche.schrift), höchstens)));
     w.setFont(f);
 }

@@ -165,10 +165,12 @@ void Fenster::folgeRing() {
     const VisualControl *frei = tastenfokus.control(), *c = frei ? frei : tastenfokus.stelle();
     const Formfläche *wo = c ? fläche(c->form) : nullptr;
     const Stück *s = wo ? wo->stück(*c) : nullptr;
-    if (!s || !s->sichtbar || !tastenfokus.sichtbar()) return ring->hide();
+    // Was ein gehaltenes Bild zeigt, soll der Ring nicht verdecken.
+    const bool gehalten = c && c == tastenfokus.gehalten();
+    if (!s || !s->sichtbar || !tastenfokus.sichtbar() || (gehalten && s->sorte == Sorte::Bild)) return ring->hide();
     const QRect punkte = maß.rechteck({c->form.Left + s->Left, c->form.Top + s->Top, s->Width, s->Height});
     using enum Fokusring::Lage;
-    ring->zeige(maß.fensterrechteck(punkte), maß, !frei ? Gesperrt : c == tastenfokus.gehalten() ? Gedrückt : Frei);
+    ring->zeige(maß.fensterrechteck(punkte), maß, !frei ? Gesperrt : gehalten ? Gedrückt : Frei);
 }
 
 /// Ein Klick in ein Textfeld oder eine Liste bringt den Fokus dorthin.

@@ -74,7 +74,7 @@ void QtOberfläche::stelleLautstärke(int um) {
     fenster->notiere(gedächtnis.Stumm ? "Ton aus"
                                       : "Lautstärke " + QString::number(gedächtnis.Lautstärke) + " von " +
                                             QString::number(Gedächtnis::Stufen));
-    gedächtnis.schreibe();
+    merkeFenster();
 }
 
 void QtOberfläche::richteLautstärkeEin() {

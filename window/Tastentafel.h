@@ -64,7 +64,7 @@ inline constexpr std::array<Fenstertaste, 9> Fenstertastentafel = {{
     {"Tab",             "weiter, mit Umschalt zurück"},
     {"Pfeile",          "zum Nachbarn"},
     {"Leer|Eingabe",    "drücken, ablegen"},
-    {"… gehalten",      "hinter Häuser und in Autos sehen"},
+    {"… gehalten",      "zeigt, was dahintersteckt"},
     {"Esc",             "schließen, abbrechen"},
     {"F1",              "diese Tafel"},
     {"F6",              "Ton aus und wieder an"},
