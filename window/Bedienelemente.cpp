@@ -27,7 +27,9 @@ void nimmSchrift(QWidget &w, const Schriftelement &e, const Maß &m) {
 
 Bedienelement textfeld(TextBox &feld, QWidget *form, Programm &p, const Bearbeiter &bearbeite) {
     auto *w = new QLineEdit(form);
-    QObject::connect(w, &QLineEdit::textEdited, w, [&, bearbeite](const QString &neu) {
+    // Auch was nicht getippt, sondern gesetzt wurde: Vorleseprogramme schreiben so.
+    QObject::connect(w, &QLineEdit::textChanged, w, [&, bearbeite](const QString &neu) {
+        if (neu == text(feld.Text)) return;
         bearbeite([&] { p.eingabe.tippe(feld, neu.normalized(QString::NormalizationForm_C).toStdString()); });
     });
     return {w, [w, &feld](const Maß &m) {

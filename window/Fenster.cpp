@@ -4,6 +4,7 @@
 #include "window/Farbtöne.h"
 #include "window/Gestaltung.h"
 #include "window/Schrift.h"
+#include "window/Vorleser.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -61,7 +62,7 @@ class Fenster::Ziehbild : public QWidget {
 Fenster::Fenster(Umgebung &u, std::function<void()> schließt)
     : u(u), schließt(std::move(schließt)), anzeige(this), ziehbild(new Ziehbild(&anzeige)),
       tastenfokus(u.p, u.bearbeite), tasten(u.p, tastenfokus, u.bearbeite), ring(new Fokusring(&anzeige)),
-      blatt(new Tastenblatt(&anzeige)), zettel(new Zettel(this)) {
+      blatt(new Tastenblatt(&anzeige)), zettel(new Zettel(this)), leser(std::make_unique<Vorleser>(*this, u)) {
     setWindowTitle("Velmo");
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
@@ -88,6 +89,8 @@ Fenster::Fenster(Umgebung &u, std::function<void()> schließt)
     messe();
     anzeige.setStyleSheet(feldgestalt(vergrößerung()));
 }
+
+Fenster::~Fenster() = default;
 
 void Fenster::erfülle(const Wünsche &wünsche) {
     if (wünsche == maß.wünsche) return;
@@ -136,6 +139,7 @@ void Fenster::folge() {
     tastenfokus.folge();
     folgeRing();
     blatt->folge(maß);
+    leser->folge();
 }
 
 void Fenster::folgeReihenfolge(const std::vector<Form *> &formen) {

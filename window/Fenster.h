@@ -14,14 +14,18 @@
 
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <vector>
 
 namespace velmo {
+
+class Vorleser;
 
 class Fenster : public QWidget {
   public:
     /// schließt wird gerufen, wenn der Spieler das Fenster schließt.
     Fenster(Umgebung &, std::function<void()> schließt);
+    ~Fenster() override;
 
     /// Bringt alles auf den Stand der Formulare.
     void folge();
@@ -32,6 +36,7 @@ class Fenster : public QWidget {
     Fokus &fokus() { return tastenfokus; }
     void erfülle(const Wünsche &);
     bool ruhig() const { return maß.wünsche.ruhig; }
+    Vorleser *vorleser() const { return leser.get(); }
     /// Eine kurze Notiz am unteren Rand.
     void notiere(const QString &t) { zettel->zeige(t, vergrößerung()); }
 
@@ -74,6 +79,7 @@ class Fenster : public QWidget {
     Fokusring *ring;
     Tastenblatt *blatt;
     Zettel *zettel;
+    std::unique_ptr<Vorleser> leser;
     QTimer beruhigt;   // der Spieler zieht nicht mehr am Fenster
     QTimer stillstand; // was sich bewegt hat, steht vielleicht
 };
