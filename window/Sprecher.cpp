@@ -3,6 +3,7 @@
 #include "window/Fenster.h"
 #include "window/Knopf.h"
 #include "window/Schrift.h"
+#include "window/Tastentafel.h"
 
 #include <QAccessibleWidget>
 #include <QComboBox>
@@ -108,6 +109,13 @@ class Elementsprecher : public QAccessibleInterface, public Drücker {
         const auto *e = element();
         if (art != QAccessible::ActionInterface || !e || e->b.rolle != Rolle::Knopf) return nullptr;
         return static_cast<QAccessibleActionInterface *>(this);
+    }
+    QStringList keyBindingsForAction(const QString &) const override {
+        if (!element()) return {};
+        const auto taste = std::ranges::find(Brettastentafel, std::string_view(c->Name),
+                                             [](const Brettaste &t) { return std::string_view(t.Control); });
+        const bool gilt = c->form.Name == std::string_view(Brettform) && taste != Brettastentafel.end();
+        return gilt ? QStringList{taste->Name} : QStringList{};
     }
     QStringList actionNames() const override {
         QStringList namen = Drücker::actionNames();

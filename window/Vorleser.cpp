@@ -4,6 +4,7 @@
 #include "window/Schrift.h"
 #include "window/Sprecher.h"
 
+#include <QApplication>
 #include <QTimer>
 
 #include <algorithm>
@@ -65,6 +66,11 @@ const std::string &Ganzersatz::nimm(const std::string &gezeigt) {
 Vorleser::Vorleser(Fenster &f, Umgebung &u) : f(f), u(u) {
     QAccessible::installFactory(sprecherFür);
     f.fokus().beiWechsel([this] { meldeFokus(); });
+    // Qt nennt das Fenster, wenn es die Tasten bekommt; gemeint ist, was darin den Fokus hat.
+    connect(qApp, &QApplication::focusChanged, this, [this] {
+        fokus = nullptr;
+        QTimer::singleShot(0, this, [this] { meldeFokus(); });
+    });
 }
 
 Vorleser::~Vorleser() {
@@ -279,7 +285,8 @@ void Vorleser::melde(const Form &form, Ansicht &a) {
             QAccessibleStateChangeEvent zustand(objekt(e), was);
             QAccessible::updateAccessibility(&zustand);
         }
-        if (e.b.rolle == Rolle::Ansage && (neu ? !eben(e) : alt->b.name != e.b.name)) verkünde(e);
+        // Nach der Antwort verschwinden die Knöpfe einer Frage: das ist kein neuer Satz.
+        if (e.b.rolle == Rolle::Ansage && (neu ? !eben(e) : !alt->b.name.starts_with(e.b.name))) verkünde(e);
     }
 }
 

@@ -22,7 +22,7 @@ def beginne():
     if not os.path.exists("/usr/share/dbus-1/services/org.a11y.Bus.service"):
         fehlt.append("at-spi2-core")
     if fehlt:
-        print("Es fehlen:", " ".join(fehlt))
+        print("ausgelassen: es fehlen", " ".join(fehlt))
         sys.exit(1 if os.environ.get("CI") == "true" else FEHLT)
     if "VELMO_EIGENER_BUS" not in os.environ:
         os.environ["VELMO_EIGENER_BUS"] = "1"
