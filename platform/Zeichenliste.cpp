@@ -1,5 +1,7 @@
 #include "platform/Zeichenliste.h"
 
+#include "platform/Laufzeit.h"
+
 namespace velmo {
 
 namespace {
@@ -97,6 +99,30 @@ void nimmKinder(Zeichenliste &liste, const std::vector<VisualControl *> &kinder,
         }
 }
 
+/// Schrift endet vor einem Bedienelement, das ihr rechtes Ende verdeckte.
+void kürzeVerdecktes(Zeichenliste &liste) {
+    for (Stück &s : liste) {
+        if (s.sorte != Sorte::Beschriftung) continue;
+        for (const Stück &d : liste)
+            if (d.sorte == Sorte::Bedienelement && d.sichtbar && d.Top < s.Top + s.Height && s.Top < d.Top + d.Height &&
+                d.Left > s.Left + s.Width / 2 && d.Left < s.Left + s.Width)
+                s.Width = d.Left - s.Left;
+    }
+}
+
+/// Schrift auf einer Form mit Umriss endet, wo dessen runde Ecke ihre erste Zeile abschnitte.
+void kürzeAmUmriss(Zeichenliste &liste, const Form &form) {
+    constexpr double Oberlänge = 24, Schritt = 12; // Twips
+    const Bildschirm schirm = form.laufzeit.Screen();
+    const auto abgeschnitten = [&](const Stück &s) {
+        return !form.region()->enthält(static_cast<int>((s.Left + s.Width) / schirm.TwipsPerPixelX),
+                                       static_cast<int>((s.Top + Oberlänge) / schirm.TwipsPerPixelY));
+    };
+    for (Stück &s : liste)
+        while (s.sorte == Sorte::Beschriftung && s.Width > Schritt && abgeschnitten(s))
+            s.Width -= Schritt;
+}
+
 } // namespace
 
 Zeichenliste zeichenliste(const Form &form) {
@@ -117,6 +143,8 @@ Zeichenliste zeichenliste(const Form &form) {
             liste.push_back(s);
         }
     nimmKinder(liste, form.Kinder, 0, 0, true);
+    kürzeVerdecktes(liste);
+    if (form.region()) kürzeAmUmriss(liste, form);
     return liste;
 }
 

@@ -10,6 +10,7 @@
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStyleOption>
 
 namespace velmo {
 
@@ -25,6 +26,34 @@ void nimmSchrift(QWidget &w, const Schriftelement &e, const Maß &m) {
     w.setFont(f);
 }
 
+QRect innen(const VisualControl &c, const Maß &m) { return m.fensterrechteck(m.rechteck({0, 0, c.Width, c.Height})); }
+
+/// Verkleinert die Schrift, bis der Text in die Breite passt, höchstens auf zwei Drittel.
+void passeEin(QWidget &w, const QString &text, int platz) {
+    QFont f = w.font();
+    const int mindestens = f.pixelSize() * 2 / 3;
+    while (f.pixelSize() > mindestens && QFontMetrics(f).horizontalAdvance(text) > platz)
+        f.setPixelSize(f.pixelSize() - 1);
+    w.setFont(f);
+}
+
+void passeEin(QLineEdit &w, const QRect &ort) {
+    constexpr int Einzug = 4; // den Qt im Feld noch lässt
+    QStyleOptionFrame wie;
+    wie.initFrom(&w);
+    wie.rect = ort;
+    passeEin(w, w.text(), w.style()->subElementRect(QStyle::SE_LineEditContents, &wie, &w).width() - Einzug);
+}
+
+void passeEin(QComboBox &w, const QRect &ort) {
+    QStyleOptionComboBox wie;
+    wie.initFrom(&w);
+    wie.rect = ort;
+    const int platz = w.style()->subControlRect(QStyle::CC_ComboBox, &wie, QStyle::SC_ComboBoxEditField, &w).width();
+    for (int i = 0; i < w.count(); ++i)
+        passeEin(w, w.itemText(i), platz);
+}
+
 Bedienelement textfeld(TextBox &feld, QWidget *form, Programm &p, const Bearbeiter &bearbeite) {
     auto *w = new QLineEdit(form);
     // Auch was nicht getippt, sondern gesetzt wurde: Vorleseprogramme schreiben so.
@@ -35,6 +64,7 @@ Bedienelement textfeld(TextBox &feld, QWidget *form, Programm &p, const Bearbeit
     return {w, [w, &feld](const Maß &m) {
                 nimmSchrift(*w, feld, m);
                 if (w->text() != text(feld.Text)) w->setText(text(feld.Text));
+                passeEin(*w, innen(feld, m));
             }};
 }
 
@@ -90,6 +120,7 @@ Bedienelement auswahl(Listenelement &l, QWidget *form, Programm &p, const Bearbe
                         w->addItem(text(z));
                 }
                 w->setCurrentIndex(static_cast<int>(l.ListIndex));
+                passeEin(*w, innen(l, m));
             }};
 }
 

@@ -78,12 +78,14 @@ QPixmap Knopf::körper(Zustand z, const QSize &größe) const {
     return bild;
 }
 
-void Knopf::maleInhalt(QPainter &p, const QRect &r) const {
-    QRect für = r;
+void Knopf::maleInhalt(QPainter &p, const QRect &knopf) const {
+    const QRect für = knopfschrift(stück, maß, knopf);
     if (!stück.bild.empty()) {
         const QSize roh = bilder.roh(stück.bild).size();
-        const int schriftraum = stück.text.empty() ? 0 : maß.punkt(stück.schriftgrad * 26);
-        const QSize platz(r.width(), r.height() - schriftraum);
+        QRect r = für;
+        r.setTop(knopf.top() + knopf.bottom() - für.bottom());
+        if (!stück.text.empty()) r.setBottom(für.top() - 1);
+        const QSize platz = r.size();
         // Vier Punkte des Bildes sind einer des Entwurfs.
         QSize größe(maß.punkt(roh.width() * 3), maß.punkt(roh.height() * 3));
         if (größe.width() > platz.width() || größe.height() > platz.height()) größe.scale(platz, Qt::KeepAspectRatio);
@@ -91,7 +93,6 @@ void Knopf::maleInhalt(QPainter &p, const QRect &r) const {
         if (!isEnabled()) p.setOpacity(0.45);
         maleBild(p, bilder, stück.bild, QRect(QPoint(r.left() + (r.width() - größe.width()) / 2, oben), größe));
         p.setOpacity(1);
-        für.setTop(r.top() + platz.height());
     }
     const int wie = Qt::AlignCenter | Qt::TextWordWrap;
     const QString t = velmo::text(stück.text);
@@ -114,9 +115,8 @@ void Knopf::paintEvent(QPaintEvent *) {
         fertigIn = z;
     }
     p.drawPixmap(0, 0, fertig);
-    const int rand = static_cast<int>(maß.strich(3));
     const int tiefer = isDown() ? static_cast<int>(maß.strich(1)) : 0;
-    maleInhalt(p, ganz.adjusted(rand, rand, -rand, -rand).translated(0, tiefer));
+    maleInhalt(p, ganz.translated(0, tiefer));
 }
 
 // Die Maus gehört der Eingabe des Spiels: hier ändert sich nur das Aussehen.

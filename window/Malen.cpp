@@ -27,9 +27,7 @@ void malePapier(QPainter &p, const Maß &m, const Stück &s, const QRect &ort) {
 
 void maleBeschriftung(QPainter &p, const Maß &m, const Stück &s, const QRect &ort) {
     if (s.deckend && !s.text.empty()) malePapier(p, m, s, ort);
-    const int ausrichtung = Ausrichtungen[std::clamp(static_cast<int>(s.ausrichtung), 0, 2)] |
-                            (s.mittig ? Qt::AlignVCenter : Qt::AlignTop) | Qt::TextWordWrap;
-    maleText(p, m, ort, ausrichtung, text(s.text), schrift(s.schriftart, s.schriftgrad, s.fett, Satzpunkte),
+    maleText(p, m, ort, ausrichtung(s), text(s.text), schrift(s.schriftart, s.schriftgrad, s.fett, Satzpunkte),
              s.gesperrt ? farbton::Blass : farbton::aus(s.farbe));
 }
 
@@ -94,6 +92,18 @@ void maleLinie(QPainter &p, const Maß &m, const Stück &s) {
 }
 
 } // namespace
+
+int ausrichtung(const Stück &s) {
+    return Ausrichtungen[std::clamp(static_cast<int>(s.ausrichtung), 0, 2)] | (s.mittig ? Qt::AlignVCenter : Qt::AlignTop) |
+           Qt::TextWordWrap;
+}
+
+QRect knopfschrift(const Stück &s, const Maß &m, const QRect &knopf) {
+    const int rand = static_cast<int>(m.strich(3));
+    QRect r = knopf.adjusted(rand, rand, -rand, -rand);
+    if (!s.bild.empty() && !s.text.empty()) r.setTop(r.bottom() + 1 - m.punkt(s.schriftgrad * 26));
+    return r;
+}
 
 QRect malort(const Stück &s, const Maß &m) {
     if (s.sorte != Sorte::Bild || s.wächst || s.natürlicheBreite <= 0) return m.rechteck(s.ort());

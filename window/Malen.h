@@ -16,6 +16,11 @@ QRect malbereich(const Stück &, const Maß &);
 /// Ein Stück außer Knöpfen und Bedienelementen, die selbst Fenster sind.
 void male(QPainter &, Bildspeicher &, const Maß &, const Stück &, const QRect &ort);
 
+/// Wie die Schrift einer Beschriftung steht.
+int ausrichtung(const Stück &);
+/// Der Platz der Schrift auf einem Knopf; unter seinem Bild, wenn er eins hat.
+QRect knopfschrift(const Stück &, const Maß &, const QRect &knopf);
+
 /// Ein Bild im Rechteck, ohne Verzerrung der Kanten.
 void maleBild(QPainter &, Bildspeicher &, const std::string &Datei, const QRect &);
 /// Umbrochener Text; was nicht passt, wird kleiner. Die Schrift ist in Satzpunkten.
