@@ -81,7 +81,8 @@ void melde(Fenster &fenster, const QString &text, const QString &titel, Meldungs
 
 std::optional<std::string> frageNach(Fenster &fenster, const QString &frage, const QString &titel) {
     Kasten kasten(fenster, frage, titel);
-    const QLineEdit *feld = kasten.fügeFeldEin();
+    QLineEdit *feld = kasten.fügeFeldEin();
+    feld->setAccessibleName(frage);
     if (kasten.exec() != QDialog::Accepted) return std::nullopt;
     return feld->text().normalized(QString::NormalizationForm_C).toStdString();
 }

@@ -187,8 +187,18 @@ void Vorleser::gibFokus(std::uint64_t nummer, VisualControl *c) {
     f.fokus().setzeSichtbar(true);
 }
 
+/// Tut es, wenn die Schleife wieder Eingaben nimmt: während etwas gleitet oder fährt, später.
+void Vorleser::sobaldFrei(std::function<void()> tat, int ms) {
+    constexpr int Geduld = 20; // ms
+    QTimer::singleShot(ms, this, [this, tat = std::move(tat)] {
+        bool frei = false;
+        u.bearbeite([&] { frei = true; });
+        frei ? tat() : sobaldFrei(tat, Geduld);
+    });
+}
+
 void Vorleser::löseAus(std::uint64_t nummer, VisualControl *c) {
-    QTimer::singleShot(0, this, [this, nummer, c] {
+    sobaldFrei([this, nummer, c] {
         if (!element(nummer, c)) return;
         if (c->DragDrop && !c->Click && !u.p.eingabe.gezogen()) {
             auto *quelle = dynamic_cast<VisualControl *>(c->form.control("Imagee"));
@@ -199,7 +209,7 @@ void Vorleser::löseAus(std::uint64_t nummer, VisualControl *c) {
 }
 
 void Vorleser::löseAus(std::uint64_t nummer) {
-    QTimer::singleShot(0, this, [this, nummer] {
+    sobaldFrei([this, nummer] {
         const Form *ziel = form(nummer);
         if (!ziel) return;
         const Punkt mitte{ziel->Left + ziel->Width / 2, ziel->Top + ziel->Height / 2};
@@ -211,7 +221,7 @@ void Vorleser::löseAus(std::uint64_t nummer) {
 }
 
 void Vorleser::wähle(std::uint64_t nummer, VisualControl *liste, int zeile) {
-    QTimer::singleShot(0, this, [this, nummer, liste, zeile] {
+    sobaldFrei([this, nummer, liste, zeile] {
         if (!element(nummer, liste)) return;
         u.bearbeite([&] { u.p.eingabe.wähle(static_cast<Listenelement &>(*liste), zeile); });
     });

@@ -9,6 +9,7 @@
 #include <QRect>
 
 #include <chrono>
+#include <functional>
 #include <map>
 #include <vector>
 
@@ -80,6 +81,7 @@ class Vorleser : public QObject {
         std::chrono::steady_clock::time_point seit;
     };
     Form *form(std::uint64_t nummer) const;
+    void sobaldFrei(std::function<void()> tat, int ms = 0);
     std::vector<Element> sammle(const Form &);
     void melde(const Form &, Ansicht &);
     void meldeFormen();

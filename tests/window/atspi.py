@@ -53,6 +53,7 @@ class Spiel:
         self.hörer = Atspi.EventListener.new(self.höre)
         self.hörer.register("object:state-changed:showing")
         umgebung = dict(os.environ, QT_QPA_PLATFORM="xcb", SDL_AUDIODRIVER="dummy", HOME=self.ordner.name,
+                        XDG_CONFIG_HOME=self.ordner.name, XDG_RUNTIME_DIR=self.ordner.name,
                         LC_ALL="C.UTF-8")
         self.prozess = subprocess.Popen([programm], env=umgebung)
         self.app = self.bis(self.anwendung, "das Programm meldet sich")
