@@ -21,7 +21,7 @@ struct Umrechnung {
     int höhe(int maß) const { return gerundet(maß * faktorY); }
 
   private:
-    static int gerundet(double zahl) { return static_cast<int>(std::nearbyint(zahl)); }
+    static int gerundet(double zahl) { return alsGanz(std::nearbyint(zahl)); }
     const double faktorX, faktorY;
     const int versatzX, versatzY;
 };

@@ -87,7 +87,9 @@ double liesZahlwort(const Wort &w) {
         !std::isdigit(static_cast<unsigned char>(w.text[zeichen - 1])))
         throw Schreibfehler(w.text + " ist keine Zahl");
     const double davor = liesZahlwort({w.text.substr(0, zeichen)}), danach = liesZahlwort({w.text.substr(zeichen + 1)});
-    return w.text[zeichen] == '+' ? davor + danach : davor - danach;
+    const double ergebnis = w.text[zeichen] == '+' ? davor + danach : davor - danach;
+    if (!std::isfinite(ergebnis)) throw Schreibfehler(w.text + " ist keine Zahl");
+    return ergebnis;
 }
 
 int liesGanzzahl(const Wort &w) {

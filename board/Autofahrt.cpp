@@ -10,6 +10,7 @@
 #include "property/Eingangskauf.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 namespace velmo {
@@ -52,8 +53,8 @@ class Fahrt {
         if (wagen.Quetschmerker) stelleQuetschbildHer(p, wagen);
         quetsche(p, wagen);
         // Das Ziel steht vor der Fahrt fest.
-        const int ziel = static_cast<int>(wagen.Autoziel.Zahl());
-        for (int i = static_cast<int>(wagen.Autofeld.Zahl()); i <= ziel; ++i)
+        const double ziel = std::trunc(wagen.Autoziel.Zahl());
+        for (double i = std::trunc(wagen.Autofeld.Zahl()); i <= ziel; ++i)
             fahreAuf(i);
         Landung(p, k);
         wagen.Autofeld = wagen.Autoziel;
@@ -102,7 +103,7 @@ class Fahrt {
         return besetzt;
     }
 
-    void fahreAuf(int nummer) {
+    void fahreAuf(double nummer) {
         Brett &b = brett(p);
         Image &bild = b.Autobild(k);
         const Feld &f = feld(nummer);

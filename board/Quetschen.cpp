@@ -29,7 +29,7 @@ void quetsche(Programm &p, Autodaten &wagen) {
         const Image &bild = b.Gebäude(zeile.Hotel, zeile.Gebäude);
         if (wagen.Autoziel != zeile.Ziel || !bild.Visible) continue;
         z.Quetschbild = bild.Name;
-        z.Quetschtop = static_cast<int>(bild.Top);
+        z.Quetschtop = alsGanz(bild.Top);
         z.Quetschhöhe = zeile.Höhe;
         wagen.Quetschmerker = true;
         b.überfahR.Enabled = true;

@@ -33,7 +33,7 @@ constexpr Bauwurf Bauwürfe[] = {
 // clang-format on
 
 void zeigeWurf(Programm &p) {
-    brett(p).Picture8.Picture = Bildladen(p, 200 + static_cast<int>(p.Zustand.Wurf.Zahl()), "Wuerfel");
+    brett(p).Picture8.Picture = Bildladen(p, 200 + p.Zustand.Wurf.Ganz(), "Wuerfel");
 }
 
 void rolleFahrwürfel(Programm &p) {
@@ -138,7 +138,7 @@ void Fahrwürfeltakt(Programm &p) {
 
 void Bauwürfeltakt(Programm &p) {
     p.Zustand.Bauwürfel = p.Zufallszahl(6) + 1;
-    brett(p).Picture7.Picture = Bildladen(p, 300 + static_cast<int>(p.Zustand.Bauwürfel.Zahl()), "Wuerfel");
+    brett(p).Picture7.Picture = Bildladen(p, 300 + p.Zustand.Bauwürfel.Ganz(), "Wuerfel");
 }
 
 void WartezeitUm(Programm &p) {

@@ -65,7 +65,7 @@ void Notenzahlung(Programm &p, int v) {
 
 void Notenflug(Programm &p) {
     Brett &b = brett(p);
-    Image &note = b.stapel(static_cast<int>(p.Zustand.Notenflug.Zahl())).p;
+    Image &note = b.stapel(p.Zustand.Notenflug.Ganz()).p;
     note.Visible = true;
     note.Top -= 100;
     if (note.Top > -1800) return;

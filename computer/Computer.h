@@ -25,7 +25,7 @@ inline int zähleHotels(const Spielzustand &z, int computer) {
 
 /// Schreibt das Arbeitsgeld in die Kasse des Computers zurück.
 inline void schreibeZurück(Spielzustand &z, int computer) {
-    z.Computergeld[computer] = static_cast<int>(z.Arbeitsgeld.Zahl());
+    z.Computergeld[computer] = z.Arbeitsgeld.Ganz();
 }
 
 } // namespace velmo

@@ -53,6 +53,8 @@ class Lose {
     bool istText() const { return std::holds_alternative<std::string>(wert); }
     /// Die Zahl; ohne Wert 0. Wirft Laufzeitfehler (Typ), wenn der Text keine Zahl ist, auch der leere.
     double Zahl() const;
+    /// Der ganze Teil der Zahl; was in keine 32 Bit passt, ist ein Laufzeitfehler (Überlauf).
+    int Ganz() const { return alsGanz(Zahl()); }
     /// Der Text, wie ihn eine Meldung zeigt.
     std::string Text() const;
     friend bool operator==(const Lose &, const Lose &);

@@ -63,7 +63,7 @@ void ausWert(const Wert &, Farbe &);
 void ausWert(const Wert &, Picture &);
 template <class E>
 requires std::is_enum_v<E>
-void ausWert(const Wert &w, E &e) { e = static_cast<E>(static_cast<int>(alsZahl(w))); }
+void ausWert(const Wert &w, E &e) { e = static_cast<E>(alsGanz(alsZahl(w))); }
 
 template <class T> Zugang zugang(Eigenschaft<T> &e) {
     return {[&e] { return alsWert(e()); },

@@ -37,8 +37,8 @@ Form *vordersteForm(const Laufzeit &laufzeit, Punkt p) {
     for (auto hier = formen.rbegin(); hier != formen.rend(); ++hier) {
         Form *const f = *hier;
         if (!f->Visible || !darin(p, f->Left, f->Top, f->Width, f->Height)) continue;
-        if (f->region() && !f->region()->enthält(static_cast<int>((p.x - f->Left) / schirm.TwipsPerPixelX),
-                                                 static_cast<int>((p.y - f->Top) / schirm.TwipsPerPixelY)))
+        if (f->region() && !f->region()->enthält(alsGanz((p.x - f->Left) / schirm.TwipsPerPixelX),
+                                                 alsGanz((p.y - f->Top) / schirm.TwipsPerPixelY)))
             continue;
         return f;
     }

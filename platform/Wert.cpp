@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 
 namespace velmo {
 
@@ -22,6 +23,13 @@ std::string alsText(const Wert &wert) {
     if (const auto *t = std::get_if<std::string>(&wert)) return *t;
     if (std::holds_alternative<Leer>(wert)) return "";
     return Zahltext(alsZahl(wert));
+}
+
+int alsGanz(double zahl) {
+    const double ganz = std::trunc(zahl);
+    if (!(ganz >= std::numeric_limits<int>::min() && ganz <= std::numeric_limits<int>::max()))
+        throw Laufzeitfehler(Fehlerart::Überlauf);
+    return static_cast<int>(ganz);
 }
 
 std::string Zahltext(double zahl) {

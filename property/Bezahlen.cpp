@@ -46,7 +46,7 @@ Bezahlen::Bezahlen(Programm &programm) : Form(programm, Formname, {0, 240, 7476,
 
 void Bezahlen::Form_Load() {
     beginneTrauermusik();
-    Left = static_cast<int>((p.Screen().Width - Width) / 2);
+    Left = alsGanz((p.Screen().Width - Width) / 2);
     brett(p).Enabled = false;
     Preiszustand = true;
     Label1.Caption = "Willkommen im " + p.Zustand.Miethotel + " von Computer " + p.Zustand.Gastgeber.letztes() +
@@ -98,7 +98,7 @@ void Bezahlen::würfeln_Click() {
     }
     Timer1.Enabled = false;
     if (const Mietzeile *zeile = miethotel(z))
-        if (const auto satz = satzDesDialogs(z, *zeile)) z.Miete = *satz * static_cast<int>(z.Wurf.Zahl());
+        if (const auto satz = satzDesDialogs(z, *zeile)) z.Miete = *satz * z.Wurf.Ganz();
     würfeln.Caption = "Würfeln";
     Label1.Caption =
         "Sie haben " + z.Wurf.Text() + " gewürfelt, Sie müssen " + std::to_string(z.Miete) + "DM bezahlen.";
@@ -117,7 +117,7 @@ void Bezahlen::SSCommand1_Click() {
 
 void Bezahlen::Timer1_Timer() {
     p.Zustand.Wurf = p.Zufallszahl(6) + 1;
-    Image2.Picture = Bildladen(p, 200 + static_cast<int>(p.Zustand.Wurf.Zahl()), "Wuerfel");
+    Image2.Picture = Bildladen(p, 200 + p.Zustand.Wurf.Ganz(), "Wuerfel");
     Würfel.Picture = Image2.Picture();
 }
 

@@ -11,7 +11,7 @@ namespace {
 
 constexpr double Pi = 3.14159265358979;
 
-int gerundet(double zahl) { return static_cast<int>(std::nearbyint(zahl)); }
+int gerundet(double zahl) { return alsGanz(std::nearbyint(zahl)); }
 
 /// Eine Farbe, die nie grau ist: nicht alle drei Abstände dürfen klein sein.
 std::array<int, 3> zieheFarbe(Laufzeit &l) {
@@ -28,7 +28,7 @@ std::array<int, 3> zieheFarbe(Laufzeit &l) {
 
 void Feuerwerk::starte(Laufzeit &l) {
     const auto farbe = zieheFarbe(l);
-    const int x = static_cast<int>(l.Rnd() * (ScaleWidth - 2000)) + 1000;
+    const int x = alsGanz(l.Rnd() * (ScaleWidth - 2000)) + 1000;
     const int winkel = l.Zufallszahl(40) + 70;
     const double tempo = l.Zufallszahl(101) + ScaleHeight / 40 + 50;
     for (Teilchen &t : std::span(teilchen).subspan(1)) {

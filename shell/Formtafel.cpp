@@ -78,7 +78,7 @@ void brichAb(Programm &p, const Laufzeitfehler &fehler) {
     p.MsgBox(fehler.what());
     const Spielzustand &z = p.Zustand;
     if (z.Bildschirmbreite > 0)
-        p.oberfläche.setzeModus(static_cast<int>(z.Bildschirmbreite), static_cast<int>(z.Bildschirmhöhe));
+        p.oberfläche.setzeModus(alsGanz(z.Bildschirmbreite), alsGanz(z.Bildschirmhöhe));
 }
 
 void starte(Programm &p) { p.zeige(formular::Intro); }

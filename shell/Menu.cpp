@@ -18,7 +18,7 @@ constexpr Farbe Glanzfarbe{0xFFE7A0};
 } // namespace
 
 void AuflösungSetzen(Laufzeit &l, float Breite, float Höhe) {
-    l.oberfläche.setzeModus(static_cast<int>(std::nearbyint(Breite)), static_cast<int>(std::nearbyint(Höhe)));
+    l.oberfläche.setzeModus(alsGanz(std::nearbyint(Breite)), alsGanz(std::nearbyint(Höhe)));
 }
 
 void GewinnZeigen(Laufzeit &l) { l.zeige(formular::Gewinn); }

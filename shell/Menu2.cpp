@@ -90,7 +90,7 @@ void Menu2::klickl_Click() {
 }
 
 void Menu2::zeigeBild() {
-    Picture1.Picture = Bildladen(p, Kurz(static_cast<int>(std::nearbyint(p.Zustand.Bildnummer.Zahl()))), "Charakter");
+    Picture1.Picture = Bildladen(p, Kurz(alsGanz(std::nearbyint(p.Zustand.Bildnummer.Zahl()))), "Charakter");
 }
 
 /// Schreibt die innere Nummer des Bildes an, sonst nichts.
@@ -158,11 +158,11 @@ void Menu2::schreibeWahl() {
     // Mit Absicht nur eine Bemerkung: der Name bleibt, und das Spiel beginnt.
     if (Zeichenzahl(z.Spielername) > LängsterName)
         Ansagen(p, "So einen langen Namen kann man doch gar nicht haben! Kürze ihn auf max. 13 Buchstaben!", 0);
-    z.Schwierigkeit = static_cast<int>(List3.ListIndex) + 1;
+    z.Schwierigkeit = alsGanz(List3.ListIndex) + 1;
     if (z.Schwierigkeit > 0)
         for (Kurz &geld : z.Computergeld)
             geld = Schwierigkeitsgrade[z.Schwierigkeit - 1].Startgeld;
-    z.Gegnerzahl = static_cast<int>(List2.ListIndex) + 1;
+    z.Gegnerzahl = alsGanz(List2.ListIndex) + 1;
 }
 
 void Menu2::begrüße() {
