@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <sstream>
+#include <utility>
 
 namespace velmo {
 
@@ -58,7 +60,9 @@ std::string liesDatei(const fs::path &name) {
     if (!fs::exists(pfad, fehler)) throw Laufzeitfehler::dateiFehlt();
     std::ifstream datei(pfad, std::ios::binary);
     if (!datei || fs::is_directory(pfad, fehler)) throw Laufzeitfehler(Fehlerart::Datei);
-    return {std::istreambuf_iterator<char>(datei), {}};
+    std::ostringstream bytes; // in Blöcken: der Film hat Megabytes
+    bytes << datei.rdbuf();
+    return std::move(bytes).str();
 }
 
 void schreibeDatei(const fs::path &name, const std::string &bytes) {
