@@ -112,6 +112,19 @@ void prüfeReihenfolge(Prüfung &t) {
     t.gleich("das Einschalten beginnt den Abstand neu", Spur, std::string(""));
 }
 
+/// Der Rechner hat geschlafen, oder die Uhr sprang: versäumte Takte kommen nicht nach.
+void prüfeVersäumtes(Prüfung &t) {
+    Stand s;
+    auto &form = s.p.form<Uhrform>();
+    form.früher.Enabled = true;
+    form.später.Enabled = true;
+    s.fläche.Uhr += 3'600'000;
+    s.p.Fälliges();
+    t.gleich("nach einer Stunde ein Takt von jedem", Spur, std::string("Lfs"));
+    s.warte(20);
+    t.gleich("dann geht es in den Abständen weiter", Spur, std::string("Lfsfsf"));
+}
+
 void prüfeWarten(Prüfung &t) {
     Stand s;
     auto &form = s.p.form<Uhrform>();
@@ -165,6 +178,7 @@ void prüfeVerlassen(Prüfung &t) {
 int main() {
     Prüfung t;
     prüfeReihenfolge(t);
+    prüfeVersäumtes(t);
     prüfeWarten(t);
     prüfeEntladen(t);
     prüfeVerlassen(t);
