@@ -47,7 +47,7 @@ Bilanz Szene::spiele() {
 }
 
 void Szene::laufe() {
-    while (zeitbefehl || !rest.empty()) {
+    while (zeitbefehl || hatZeile()) {
         try {
             if (zeitbefehl)
                 zeitschritt();
@@ -70,6 +70,13 @@ void Szene::laufe() {
     if (ohneZeilen()) scheitere(TafelOhneZeilen);
 }
 
+bool Szene::hatZeile() {
+    if (!rest.empty()) return true;
+    auto neue = nachschub ? nachschub() : std::nullopt;
+    if (neue) rest.push_back({zeile + 1, std::move(*neue)});
+    return neue.has_value();
+}
+
 void Szene::nächsterBefehl() {
     const int außen = zeile;
     try {
@@ -86,7 +93,7 @@ void Szene::führeAus() {
     std::vector<Wort> wörter;
     Zeile hier;
     while (wörter.empty()) {
-        if (rest.empty()) {
+        if (!hatZeile()) {
             if (wartende > 0) throw Skriptende{};
             return;
         }

@@ -46,6 +46,8 @@ class Szene {
     Wert ergebnis; // des letzten ruf
     bool gestartet = false;
     std::optional<Tafel> tafel; // deren Zeilen gerade gespielt werden
+    /// Woher weitere Zeilen kommen, wenn das Skript zu Ende ist, auch mitten im Warten; ohne Wert: es ist zu Ende.
+    std::function<std::optional<std::string>()> nachschub;
     /// Wer Bilder macht: der Name und der Ausschnitt der Anzeige in Twips. Ohne ihn sagt "bild" nichts.
     std::function<void(const std::string &name, const Rechteck &)> macheBild;
 
@@ -62,6 +64,8 @@ class Szene {
     std::string unruhe() const;
     /// Was das Programm beendet hat: "keiner", "ende" oder die Art des Fehlers.
     const char *fehler() const { return ende; }
+    /// Wartet gerade eine Routine des Programms?
+    bool wartet() const { return wartende > 0; }
     void prüfe(bool gilt, const std::string &ist, const std::string &erwartet);
     /// Der Wert unter einem Namen des Programms oder der Szene.
     Zugang finde(const std::string &Name);
@@ -74,6 +78,7 @@ class Szene {
 
     void neuesProgramm();
     bool ohneZeilen();
+    bool hatZeile();
     void laufe();
     void nächsterBefehl();
     void führeAus();
