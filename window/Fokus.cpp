@@ -90,8 +90,7 @@ double abstand(const Platz &a, const Platz &b, Richtung r) {
 }
 
 const Formtasten *tasten(const Form &form) {
-    const auto hier = std::ranges::find(Formtastentafel, std::string_view(form.Name),
-                                        [](const Formtasten &t) { return std::string_view(t.Form); });
+    const auto hier = std::ranges::find(Formtastentafel, Formularname(form.Name), &Formtasten::Form);
     return hier == Formtastentafel.end() ? nullptr : &*hier;
 }
 

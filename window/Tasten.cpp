@@ -38,7 +38,7 @@ bool Tasten::halte(const QKeyEvent &e) {
 
 bool Tasten::drückeBrett(const QKeyEvent &e) {
     const Form *form = fokus.form();
-    if (!form || std::string_view(form->Name) != Brettform || p.eingabe.gezogen()) return false;
+    if (!form || Formularname(form->Name) != formular::Form1 || p.eingabe.gezogen()) return false;
     const auto zeile = std::ranges::find(Brettastentafel, e.key(), [](const Brettaste &t) { return int(t.Taste); });
     if (zeile == Brettastentafel.end()) return false;
     auto *c = dynamic_cast<VisualControl *>(form->control(zeile->Control));
@@ -70,7 +70,7 @@ bool Tasten::löse(const QKeyEvent &e) {
 }
 
 std::string mitTaste(const std::string &hinweis, std::string_view form, std::string_view control) {
-    if (form != Brettform) return hinweis;
+    if (form != formular::Form1.Text) return hinweis;
     const auto zeile =
         std::ranges::find(Brettastentafel, control, [](const Brettaste &t) { return std::string_view(t.Control); });
     if (zeile == Brettastentafel.end()) return hinweis;

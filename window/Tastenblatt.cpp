@@ -13,7 +13,7 @@ namespace {
 
 // Maße in Twips der Anzeige.
 constexpr Rechteck Blatt{960, 600, 7680, 6000};
-constexpr double Zeile = 360, Kappe = 288, Rand = 480, Kopf = 1440, Spaltenbreite = 3480;
+constexpr double Zeile = 360, Kappe = 288, Blattrand = 480, Kopf = 1440, Spaltenbreite = 3480;
 
 class Schreiber {
   public:
@@ -85,8 +85,8 @@ void Tastenblatt::paintEvent(QPaintEvent *) {
     maleSchatten(p, blatt, static_cast<int>(maß.strich(10)));
     malePapier(p, maß, blatt, farbton::Papier, true);
     Schreiber s(p, maß);
-    const double links = Blatt.Left + Rand, rechts = links + Spaltenbreite + 240, oben = Blatt.Top + Kopf;
-    s.satz({links, Blatt.Top + 240, Blatt.Width - 2 * Rand, 600}, "Tasten", 18, true, Qt::AlignCenter);
+    const double links = Blatt.Left + Blattrand, rechts = links + Spaltenbreite + 240, oben = Blatt.Top + Kopf;
+    s.satz({links, Blatt.Top + 240, Blatt.Width - 2 * Blattrand, 600}, "Tasten", 18, true, Qt::AlignCenter);
     s.satz({links, oben - 456, Spaltenbreite, 360}, "Überall", 11, true);
     s.satz({rechts, oben - 456, Spaltenbreite, 360}, "Auf dem Brett", 11, true);
     double y = oben;

@@ -1,46 +1,47 @@
 #pragma once
 // Welche Tasten es gibt: je Form, wo der Fokus beginnt und was Escape drückt, und die Tasten des Bretts, die geradewegs
 // ein Steuerelement drücken.
+#include "include/Formulare.h"
+
 #include <QKeySequence>
 
 #include <array>
-#include <string_view>
 
 namespace velmo {
 
 /// Ein leerer Name: der Fokus beginnt beim ersten Textfeld oder Element; Escape tut nichts.
 struct Formtasten {
-    const char *Form, *Anfang, *Abbruch;
+    Formularname Form;
+    const char *Anfang, *Abbruch;
 };
 
 // clang-format off
 inline constexpr std::array<Formtasten, 16> Formtastentafel = {{
-    // Form      Anfang        Escape
-    {"Menu",     "Spieln",     ""},
-    {"Menu2",    "Text1",      "Command1"},
-    {"HoF",      "",           "SSCommand1"},
-    {"frmHilfe", "Text6",      "Command1"},
-    {"Überf",    "OK",         "OK"},
-    {"Dank",     "Label1",     "Label1"},
-    {"Sprech",   "Command2",   "Command2"},
-    {"Karten",   "Image2",     "Image3"},
-    {"Exchange", "Combo1",     "Command2"},
-    {"eingang",  "",           "SSCommand9"},
-    {"geldfeld", "SSCommand1", "SSCommand3"},
-    {"Bezahlen", "würfeln",    ""},
-    {"Baufeld",  "Command3",   "Command2"},
-    {"Bauphase", "",           "Command1"},
-    {"Verloren", "SSCommand3", "SSCommand3"},
-    {"Gewinn",   "SSCommand1", "SSCommand1"},
+    // Form              Anfang        Escape
+    {formular::Menu,     "Spieln",     ""},
+    {formular::Menu2,    "Text1",      "Command1"},
+    {formular::HoF,      "",           "SSCommand1"},
+    {formular::frmHilfe, "Text6",      "Command1"},
+    {formular::Überf,    "OK",         "OK"},
+    {formular::Dank,     "Label1",     "Label1"},
+    {formular::Sprech,   "Command2",   "Command2"},
+    {formular::Karten,   "Image2",     "Image3"},
+    {formular::Exchange, "Combo1",     "Command2"},
+    {formular::eingang,  "",           "SSCommand9"},
+    {formular::geldfeld, "SSCommand1", "SSCommand3"},
+    {formular::Bezahlen, "würfeln",    ""},
+    {formular::Baufeld,  "Command3",   "Command2"},
+    {formular::Bauphase, "",           "Command1"},
+    {formular::Verloren, "SSCommand3", "SSCommand3"},
+    {formular::Gewinn,   "SSCommand1", "SSCommand1"},
 }};
 
-/// Eine Taste auf dem Brett; Control heißt, was sie drückt.
+/// Eine Taste auf dem Brett (Form1); Control heißt, was sie drückt.
 struct Brettaste {
     Qt::Key Taste;
     const char *Name, *Control, *Wirkung;
 };
 
-inline constexpr const char *Brettform = "Form1";
 inline constexpr std::array<Brettaste, 12> Brettastentafel = {{
     {Qt::Key_W, "W", "WüButton",   "würfeln, Würfel anhalten"},
     {Qt::Key_F, "F", "Fertig",     "Zug beenden"},

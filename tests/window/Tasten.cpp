@@ -1,6 +1,6 @@
 // Ein Spiel nur mit Tasten: vom Film bis in die vierte Runde, mit Kauf und Zahlung; und ein Eingang. Läuft ohne
 // Bildschirm und ohne Lautsprecher.
-#include "model/Brett.h"
+#include "boardform/Brett.h"
 #include "tests/Prüfung.h"
 #include "tests/window/Lauf.h"
 #include "window/Fenster.h"
@@ -24,7 +24,7 @@ class Vierer : public QtOberfläche {
 
 Fokus &fokus() { return dynamic_cast<Fenster &>(*fenster()).fokus(); }
 
-bool sichtbar(const Programm &p, const char *form) { return p.geladene(form) && p.geladene(form)->Visible; }
+bool sichtbar(const Programm &p, Formularname form) { return p.geladene(form) && p.geladene(form)->Visible; }
 std::string vorn() { return fokus().form() ? fokus().form()->Name : ""; }
 std::string hier() { return fokus().control() ? fokus().control()->Name : ""; }
 
@@ -54,7 +54,7 @@ bool drücke(const std::string &name) {
     return true;
 }
 
-template <class T> T &element(Programm &p, const char *form, const char *name) {
+template <class T> T &element(Programm &p, Formularname form, const char *name) {
     return dynamic_cast<T &>(*p.geladene(form)->control(name));
 }
 
@@ -83,7 +83,7 @@ class Zugspieler {
 
   private:
     bool frei(const char *name) {
-        auto *c = dynamic_cast<VisualControl *>(p.geladene("Form1")->control(name));
+        auto *c = dynamic_cast<VisualControl *>(p.geladene(formular::Form1)->control(name));
         return p.eingabe.druckort(*c).has_value();
     }
     void kaufe() {
@@ -117,13 +117,13 @@ void prüfeGanzesSpiel(Prüfung &t) {
     l.schritte = {
         [&] {
             if (QWidget *kasten = QApplication::activeModalWidget()) kasten->close(); // ohne Film
-            return sichtbar(l.p, "Intro");
+            return sichtbar(l.p, formular::Intro);
         },
         [] {
             taste(Qt::Key_Space, " ");
             return true;
         },
-        [&] { return sichtbar(l.p, "Menu") && !l.p.geladene("Intro"); },
+        [&] { return sichtbar(l.p, formular::Menu) && !l.p.geladene(formular::Intro); },
         [&] {
             t.gleich("im Menü beginnt der Fokus beim neuen Spiel", hier(), std::string("Spieln"));
             for (const char *schild : {"Hilfe", "Ende", "Über", "Spieln"})
@@ -134,13 +134,13 @@ void prüfeGanzesSpiel(Prüfung &t) {
         [&] { return vorn() == "Menu2"; },
         [&] {
             schreibe("wfk5");
-            t.gleich("Buchstaben bleiben im Textfeld", element<TextBox>(l.p, "Menu2", "Text1").Text(),
+            t.gleich("Buchstaben bleiben im Textfeld", element<TextBox>(l.p, formular::Menu2, "Text1").Text(),
                      std::string("wfk5"));
             for (const char *name : {"klickl", "klickr", "Text2", "List1", "List2", "File1", "Command4"})
                 t.gilt(name, gehe(name));
             gehe("List2");
             taste(Qt::Key_Down);
-            t.gleich("zwei Gegner", element<ListBox>(l.p, "Menu2", "List2").ListIndex(), 1.0);
+            t.gleich("zwei Gegner", element<ListBox>(l.p, formular::Menu2, "List2").ListIndex(), 1.0);
             taste(Qt::Key_Up);
             return drücke("Command2");
         },
@@ -198,7 +198,7 @@ void prüfeEingang(Prüfung &t) {
         },
     };
     t.gleich("ein Eingang mit Tasten", l.laufe([&] {
-        l.p.zeige("Form1");
+        l.p.zeige(formular::Form1);
         gibHotel(l.p);
     }),
              0);
@@ -207,7 +207,7 @@ void prüfeEingang(Prüfung &t) {
 void prüfeHalten(Prüfung &t) {
     Lauf<> l;
     l.schritte = {[&] {
-        auto &haus = element<VisualControl>(l.p, "Form1", "royn2");
+        auto &haus = element<VisualControl>(l.p, formular::Form1, "royn2");
         haus.Visible = true;
         t.gilt("ein Haus ist zu erreichen", gehe("royn2"));
         taste(Qt::Key_Space, " ", true);
@@ -215,13 +215,13 @@ void prüfeHalten(Prüfung &t) {
         QKeyEvent auf(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier, " ");
         QApplication::sendEvent(fenster(), &auf);
         t.gilt("losgelassen ist es wieder da", haus.Visible);
-        auto &fertig = element<VisualControl>(l.p, "Form1", "Fertig");
+        auto &fertig = element<VisualControl>(l.p, formular::Form1, "Fertig");
         bool geklickt = false;
         fertig.Click = [&] { geklickt = true; };
         taste(Qt::Key_F, "f");
         t.gilt("eine gesperrte Taste tut nichts", !geklickt);
         fertig.Enabled = true;
-        l.p.zeige("frmHilfe");
+        l.p.zeige(formular::frmHilfe);
         taste(Qt::Key_F, "f");
         t.gilt("verdeckt auch nicht", !geklickt);
         taste(Qt::Key_Escape);
@@ -229,7 +229,7 @@ void prüfeHalten(Prüfung &t) {
         t.gilt("sonst schon", geklickt);
         return fenster()->close() || true;
     }};
-    t.gleich("Halten endet", l.laufe([&] { l.p.zeige("Form1"); }), 0);
+    t.gleich("Halten endet", l.laufe([&] { l.p.zeige(formular::Form1); }), 0);
 }
 
 } // namespace
