@@ -7,9 +7,11 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <csignal>
 #include <functional>
 #include <iostream>
 #include <string_view>
+#include <sys/time.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -17,7 +19,7 @@ namespace velmo {
 
 namespace {
 
-constexpr unsigned LängsteHandlung = 60; // s, danach hängt sie
+constexpr itimerval LängsteHandlung{{0, 0}, {20, 0}}; // s Rechenzeit, danach hängt sie
 constexpr auto Kürzungszeit = std::chrono::minutes(3);
 
 // Der Prozess erzählt in Zeilen: ein Zeichen, dann der Text. Was ohne Zeichen kommt, hat die Szene gesagt.
@@ -43,7 +45,7 @@ class Wärter {
 
   private:
     std::optional<std::string> nächste() {
-        alarm(LängsteHandlung);
+        setitimer(ITIMER_VIRTUAL, &LängsteHandlung, nullptr);
         prüfeEnde();
         prüfeSackgasse();
         for (auto zeile = quelle(); zeile; zeile = quelle()) {
@@ -149,7 +151,7 @@ Affenlauf getrennt(const Handler &arbeit) {
     int status = 0;
     waitpid(kind, &status, 0);
     if (lauf.Befund.empty() && status != 0)
-        lauf.Befund = WIFSIGNALED(status) && WTERMSIG(status) == SIGALRM ? "hängt" : "stürzt ab";
+        lauf.Befund = WIFSIGNALED(status) && WTERMSIG(status) == SIGVTALRM ? "hängt" : "stürzt ab";
     return lauf;
 }
 
