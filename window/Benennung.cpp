@@ -1,9 +1,10 @@
 #include "window/Benennung.h"
 
-#include "model/Brett.h"
+#include "boardform/Brett.h"
+#include "include/Formulare.h"
 #include "model/Feldtabelle.h"
 #include "property/Bauen.h"
-#include "property/Eingänge.h"
+#include "property/Eingangskauf.h"
 #include "property/Grundstück.h"
 #include "property/Miete.h"
 
@@ -15,49 +16,52 @@ namespace velmo {
 
 namespace {
 
+namespace f = formular;
+
 // clang-format off
 constexpr Formbenennung Formnamen[] = {
-    {"Intro",     "Vorspann",          false}, {"Menu",     "Menü",               false},
-    {"Menu2",     "Neues Spiel",       true},  {"Form1",    "Spiel",              false},
-    {"Assistent", "Assistent",         false}, {"Sprech",   "Sprechblase",        false},
-    {"geldfeld",  "Grundstück kaufen", true},  {"Baufeld",  "Baugenehmigung",     true},
-    {"Bauphase",  "Bauphase gratis",   true},  {"eingang",  "Eingang setzen",     true},
-    {"Bezahlen",  "Übernachtung",      true},  {"Exchange", "Geld umtauschen",    true},
-    {"Karten",    "Besitzkarten",      true},  {"Verloren", "Ausgeschieden",      true},
-    {"Gewinn",    "Gewonnen",          true},  {"HoF",      "Die Besten",         true},
-    {"frmHilfe",  "Hilfe",             true},  {"Überf",    "Über Velmo",         true},
-    {"Dank",      "Abspann",           true},
+    {f::Intro,     "Vorspann",          false}, {f::Menu,     "Menü",               false},
+    {f::Menu2,     "Neues Spiel",       true},  {f::Form1,    "Spiel",              false},
+    {f::Assistent, "Assistent",         false}, {f::Sprech,   "Sprechblase",        false},
+    {f::geldfeld,  "Grundstück kaufen", true},  {f::Baufeld,  "Baugenehmigung",     true},
+    {f::Bauphase,  "Bauphase gratis",   true},  {f::eingang,  "Eingang setzen",     true},
+    {f::Bezahlen,  "Übernachtung",      true},  {f::Exchange, "Geld umtauschen",    true},
+    {f::Karten,    "Besitzkarten",      true},  {f::Verloren, "Ausgeschieden",      true},
+    {f::Gewinn,    "Gewonnen",          true},  {f::HoF,      "Die Besten",         true},
+    {f::frmHilfe,  "Hilfe",             true},  {f::Überf,    "Über Velmo",         true},
+    {f::Dank,      "Abspann",           true},
 };
 
 struct Namenszeile {
-    const char *Form, *Control, *Text = nullptr;
+    Formularname Form;
+    const char *Control, *Text = nullptr;
 };
 
 /// Bilder und Felder ohne eigene Schrift.
 constexpr Namenszeile Festnamen[] = {
-    {"Menu2",     "klickl",     "Voriges Bild"},
-    {"Menu2",     "klickr",     "Nächstes Bild"},
-    {"Karten",    "Image1",     "Vorige Karte"},
-    {"Karten",    "Image2",     "Nächste Karte"},
-    {"Karten",    "Image3",     "Karten schließen"},
-    {"Form1",     "Picture2",   "Wechselkasse"},
-    {"Assistent", "Image1",     "Dorvin"},
-    {"Sprech",    "VScroll1",   "Satz rollen"},
-    {"frmHilfe",  "Text6",      "Hilfetext"},
-    {"Intro",     "Animation1", "Film"},
+    {f::Menu2,     "klickl",     "Voriges Bild"},
+    {f::Menu2,     "klickr",     "Nächstes Bild"},
+    {f::Karten,    "Image1",     "Vorige Karte"},
+    {f::Karten,    "Image2",     "Nächste Karte"},
+    {f::Karten,    "Image3",     "Karten schließen"},
+    {f::Form1,     "Picture2",   "Wechselkasse"},
+    {f::Assistent, "Image1",     "Dorvin"},
+    {f::Sprech,    "VScroll1",   "Satz rollen"},
+    {f::frmHilfe,  "Text6",      "Hilfetext"},
+    {f::Intro,     "Animation1", "Film"},
 };
 
 /// Was nach der Beschriftung daneben heißt; Text ist deren Name.
 constexpr Namenszeile Beschriftete[] = {
-    {"Menu2",    "Text1",     "Label1"}, {"Menu2",    "Text2",   "Label2"}, {"Menu2", "List1", "Label3"},
-    {"Menu2",    "List2",     "Label5"}, {"Menu2",    "List3",   "Label6"}, {"Menu2", "File1", "Label4"},
-    {"Exchange", "Combo1",    "Label2"}, {"Exchange", "Combo2",  "Label3"},
-    {"Form1",    "Geldlabel", "label9"}, {"Form1",    "toteinG", "Label4"},
+    {f::Menu2,    "Text1",     "Label1"}, {f::Menu2,    "Text2",   "Label2"}, {f::Menu2, "List1", "Label3"},
+    {f::Menu2,    "List2",     "Label5"}, {f::Menu2,    "List3",   "Label6"}, {f::Menu2, "File1", "Label4"},
+    {f::Exchange, "Combo1",    "Label2"}, {f::Exchange, "Combo2",  "Label3"},
+    {f::Form1,    "Geldlabel", "label9"}, {f::Form1,    "toteinG", "Label4"},
 };
 
 /// Zeilen, die sagen, was gerade geschieht.
 constexpr Namenszeile Ansagezeilen[] = {
-    {"Form1", "Label1"}, {"Sprech", "Label1"}, {"Bezahlen", "Label1"}, {"Baufeld", "Label1"}, {"Verloren", "Label1"},
+    {f::Form1, "Label1"}, {f::Sprech, "Label1"}, {f::Bezahlen, "Label1"}, {f::Baufeld, "Label1"}, {f::Verloren, "Label1"},
 };
 
 constexpr const char *Stufennamen[] = {"Hauptgebäude",     "1. Nebengebäude", "2. Nebengebäude",
@@ -80,7 +84,7 @@ constexpr int ErstesGesicht = 140; // die Bilder des Spielers zählen von 141 an
 
 template <class Tafel> const auto *finde(const Tafel &tafel, const VisualControl &c) {
     const auto zeile = std::ranges::find_if(tafel, [&](const Namenszeile &z) {
-        return std::strcmp(z.Form, c.form.Name) == 0 && std::strcmp(z.Control, c.Name) == 0;
+        return z.Form == Formularname(c.form.Name) && std::strcmp(z.Control, c.Name) == 0;
     });
     return zeile == std::end(tafel) ? nullptr : &*zeile;
 }
@@ -116,9 +120,9 @@ std::string hotelnamen(const char *anlieger) {
 
 std::string standort(const Lose &ziel) {
     if (ziel.leer()) return "am Start";
-    const Feld &f = feld(ziel.Zahl());
-    const auto art = std::ranges::find(Feldnamen, f.Art, &Feldname::Art);
-    return "Feld " + std::to_string(f.Nummer) + ", " + art->Name + hotelnamen(f.Anlieger);
+    const Feld &hier = feld(ziel.Zahl());
+    const auto art = std::ranges::find(Feldnamen, hier.Art, &Feldname::Art);
+    return "Feld " + std::to_string(hier.Nummer) + ", " + art->Name + hotelnamen(hier.Anlieger);
 }
 
 Benennung auto_(const Programm &p, const Auto &a) {
@@ -207,32 +211,33 @@ const Picture &bild(const VisualControl &c) {
 }
 
 struct Bildzeile {
-    const char *Form, *Control;
+    Formularname Form;
+    const char *Control;
     Benennung (*benenne)(const Programm &, const VisualControl &);
 };
 
 // Bilder, deren Inhalt das Spiel kennt.
 constexpr Bildzeile Bildtafel[] = {
-    {"Form1", "Picture1", [](const Programm &p, const VisualControl &) { return brettbild(p); }},
-    {"Form1", "Picture7",
+    {f::Form1, "Picture1", [](const Programm &p, const VisualControl &) { return brettbild(p); }},
+    {f::Form1, "Picture7",
      [](const Programm &, const VisualControl &c) {
          return Benennung{Rolle::Bild, bauwürfel(bild(c)), ""};
      }},
-    {"Form1", "Picture8",
+    {f::Form1, "Picture8",
      [](const Programm &, const VisualControl &c) {
          return Benennung{Rolle::Bild, würfel(bild(c)), ""};
      }},
-    {"Bezahlen", "Würfel",
+    {f::Bezahlen, "Würfel",
      [](const Programm &, const VisualControl &c) {
          return Benennung{Rolle::Bild, würfel(bild(c)), ""};
      }},
-    {"Bezahlen", "Picture1", [](const Programm &, const VisualControl &c) { return besitzkarte(bild(c)); }},
-    {"Karten", "picture1", [](const Programm &, const VisualControl &c) { return besitzkarte(bild(c)); }},
-    {"Menu2", "Picture1",
+    {f::Bezahlen, "Picture1", [](const Programm &, const VisualControl &c) { return besitzkarte(bild(c)); }},
+    {f::Karten, "picture1", [](const Programm &, const VisualControl &c) { return besitzkarte(bild(c)); }},
+    {f::Menu2, "Picture1",
      [](const Programm &, const VisualControl &c) {
          return Benennung{Rolle::Bild, gesicht(bild(c)), ""};
      }},
-    {"Form1", "Imagee",
+    {f::Form1, "Imagee",
      [](const Programm &, const VisualControl &c) {
          return c.DragMode ? Benennung{Rolle::Knopf, "Eingang setzen", "Auf einen freien Eingangsplatz"} : Benennung{};
      }},
@@ -240,8 +245,8 @@ constexpr Bildzeile Bildtafel[] = {
 
 Benennung ausTafeln(const Programm &p, const VisualControl &c) {
     for (const Bildzeile &z : Bildtafel)
-        if (std::strcmp(z.Form, c.form.Name) == 0 && std::strcmp(z.Control, c.Name) == 0) return z.benenne(p, c);
-    if (std::strcmp(c.form.Name, Brett::Formname) != 0) return {};
+        if (z.Form == Formularname(c.form.Name) && std::strcmp(z.Control, c.Name) == 0) return z.benenne(p, c);
+    if (Brett::Formname != Formularname(c.form.Name)) return {};
     if (const auto *a = zeileVon(Autotafel, &Auto::Control, c)) return auto_(p, *a);
     if (const auto *s = zeileVon(Stufen, &Stufe::Bild, c)) return gebäude(p, *s);
     if (const auto *h = zeileVon(Hotels, &Hotel::Schild, c)) return schild(p, *h);
@@ -275,7 +280,7 @@ std::string mitBeschriftung(const VisualControl &c, const Namenszeile &z) {
 
 bool beschriftetAnderes(const VisualControl &c) {
     return std::ranges::any_of(Beschriftete, [&](const Namenszeile &z) {
-        return std::strcmp(z.Form, c.form.Name) == 0 && std::strcmp(z.Text, c.Name) == 0;
+        return z.Form == Formularname(c.form.Name) && std::strcmp(z.Text, c.Name) == 0;
     });
 }
 
@@ -302,8 +307,8 @@ Benennung benenne(const Programm &p, const VisualControl &c) {
     std::string name;
     if (const auto *z = finde(Beschriftete, c))
         name = mitBeschriftung(c, *z);
-    else if (const auto *f = finde(Festnamen, c))
-        name = f->Text;
+    else if (const auto *fest = finde(Festnamen, c))
+        name = fest->Text;
     else if (name = schrift(c); name.empty())
         name = inEinerZeile(c.ToolTipText);
     return name.empty() ? Benennung{} : Benennung{rolleVon(c), name, ""};
@@ -311,8 +316,8 @@ Benennung benenne(const Programm &p, const VisualControl &c) {
 
 Formbenennung benenne(const Form &form) {
     const auto zeile =
-        std::ranges::find_if(Formnamen, [&](const Formbenennung &z) { return std::strcmp(z.Form, form.Name) == 0; });
-    return zeile == std::end(Formnamen) ? Formbenennung{form.Name, form.Name, false} : *zeile;
+        std::ranges::find_if(Formnamen, [&](const Formbenennung &z) { return z.Form == Formularname(form.Name); });
+    return zeile == std::end(Formnamen) ? Formbenennung{Formularname(form.Name), form.Name, false} : *zeile;
 }
 
 } // namespace velmo

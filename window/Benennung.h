@@ -21,7 +21,8 @@ struct Benennung {
 Benennung benenne(const Programm &, const VisualControl &);
 
 struct Formbenennung {
-    const char *Form, *Name;
+    Formularname Form;
+    const char *Name;
     bool istDialog; // steht vor dem Brett oder dem Menü und wird beantwortet
 };
 /// Wie die Form heißt.

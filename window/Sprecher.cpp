@@ -114,7 +114,7 @@ class Elementsprecher : public QAccessibleInterface, public Drücker {
         if (!element()) return {};
         const auto taste = std::ranges::find(Brettastentafel, std::string_view(c->Name),
                                              [](const Brettaste &t) { return std::string_view(t.Control); });
-        const bool gilt = c->form.Name == std::string_view(Brettform) && taste != Brettastentafel.end();
+        const bool gilt = Formularname(c->form.Name) == formular::Form1 && taste != Brettastentafel.end();
         return gilt ? QStringList{taste->Name} : QStringList{};
     }
     QStringList actionNames() const override {

@@ -1,5 +1,6 @@
 #include "window/Vorleser.h"
 
+#include "include/Formulare.h"
 #include "window/Fenster.h"
 #include "window/Schrift.h"
 #include "window/Sprecher.h"
@@ -19,7 +20,6 @@ using Uhr = std::chrono::steady_clock;
 
 constexpr auto Flackern = std::chrono::milliseconds(500); // so kurz verborgen, hat niemand es verschwinden sehen
 constexpr double Streifen = 240;                          // Twips; so viel darf eine Form von der hinter ihr zeigen
-constexpr const char *Blase = "Sprech";
 
 /// Zeilen von oben nach unten, in jeder von links nach rechts; vorher zählt der Rang.
 void ordne(std::vector<Vorleser::Element> &alle) {
@@ -120,7 +120,7 @@ std::vector<Vorleser::Element> Vorleser::sammle(const Form &form) {
             }
         };
     nimm(form.Kinder, nullptr, !form.Enabled);
-    if (form.Name == std::string_view(Blase))
+    if (formular::Sprech == Formularname(form.Name))
         for (Element &e : alle)
             if (e.b.rolle == Rolle::Ansage) e.b.name = satz.nimm(e.b.name) + antworten(form);
     ordne(alle);

@@ -1,9 +1,10 @@
 // Wie Bilder einem Vorleseprogramm heißen: nach den Tafeln des Spiels; Zierde gar nicht.
 #include "window/Benennung.h"
+#include "include/Formulare.h"
 
 #include "bench/Programmordner.h"
 #include "bench/Prüffläche.h"
-#include "model/Brett.h"
+#include "boardform/Brett.h"
 #include "shell/Formtafel.h"
 #include "tests/Prüfung.h"
 #include "window/Vorleser.h"
@@ -17,7 +18,7 @@ class Lage {
     Programmordner ordner;
     Prüffläche fläche;
     Programm p{fläche, Formtafel(), ordner.Pfad()};
-    Brett &b = static_cast<Brett &>(p.lade("Form1"));
+    Brett &b = static_cast<Brett &>(p.lade(formular::Form1));
     Spielzustand &z = p.Zustand;
 
     Lage() {
@@ -69,7 +70,7 @@ void prüfePlätze(Prüfung &t) {
 
 void prüfeDialoge(Prüfung &t) {
     Lage l;
-    Form &karten = l.p.lade("Karten");
+    Form &karten = l.p.lade(formular::Karten);
     const Benennung karte = benenne(l.p, dynamic_cast<VisualControl &>(*karten.control("picture1")));
     t.gleich("Karte", karte.name, "Besitzkarte Fujijama");
     t.gleich(
@@ -77,7 +78,7 @@ void prüfeDialoge(Prüfung &t) {
         "Grundstück 1000 DM, Zwangskauf 500 DM; Hauptgebäude 2200 DM, je Nacht 100 DM; 1. Nebengebäude 1400 DM, je "
         "Nacht 200 DM; 2. Nebengebäude 1400 DM, je Nacht 200 DM; Freizeitpark 500 DM, je Nacht 400 DM; Eingang 100 "
         "DM");
-    Form &assistent = l.p.lade("Menu2");
+    Form &assistent = l.p.lade(formular::Menu2);
     const auto name = [&](const char *c) { return l.name(dynamic_cast<VisualControl &>(*assistent.control(c))); };
     t.gleich("ein Feld heißt nach seiner Beschriftung", name("Text1"), "Name");
     t.gleich("ohne deren Trennung", name("List3"), "Schwierigkeit");

@@ -4,6 +4,7 @@
 #include "bench/Mitspieler.h"
 #include "bench/Programmordner.h"
 #include "bench/Prüffläche.h"
+#include "include/Formulare.h"
 #include "shell/Formtafel.h"
 #include "tests/Prüfung.h"
 #include "window/Bedienelemente.h"
@@ -106,7 +107,7 @@ class Sammelspiel {
         fläche.Uhr = 0;
         fläche.Erzeuger.seed(saat);
         Programm programm(fläche, Formtafel(), ordner.Pfad());
-        Mitspieler spieler(programm, saat);
+        Mitspieler spieler(programm, saat, [](const VisualControl &) {});
         p = &programm;
         fläche.Fahrer = [&] {
             if (!spieler.handleImWarten()) ticke();
@@ -117,8 +118,8 @@ class Sammelspiel {
         programm.eingabe.drücke(Maustaste::Links, {4800, 3600});
         programm.eingabe.löse(Maustaste::Links, {4800, 3600});
         for (const char *feld : {"Text1", "Text2"})
-            dynamic_cast<TextBox &>(*programm.geladene("Menu2")->control(feld)).Text = LängsterName;
-        for (const char *form : {"HoF", "frmHilfe", "Überf", "Dank"}) {
+            dynamic_cast<TextBox &>(*programm.geladene(formular::Menu2)->control(feld)).Text = LängsterName;
+        for (const Formularname form : {formular::HoF, formular::frmHilfe, formular::Überf, formular::Dank}) {
             programm.zeige(form);
             for (int i = 0; i < 400; ++i)
                 ticke();
@@ -126,18 +127,18 @@ class Sammelspiel {
             programm.entlade(form);
         }
         spieler.beginneSpiel();
-        for (int schritt = 0; schritt < 40000 && !programm.geladene("Menu")->Visible; ++schritt) {
+        for (int schritt = 0; schritt < 40000 && !programm.geladene(formular::Menu)->Visible; ++schritt) {
             if (!spieler.handle()) ticke();
             sammlung.nimm(programm);
             for (; !fläche.Meldungen.empty(); fläche.Meldungen.pop_front())
                 sammlung.nimmText(fläche.Meldungen.front().Text);
-            if (schritt % 500 == 100 && programm.geladene("Form1")->Enabled) zeigeDialoge(programm);
+            if (schritt % 500 == 100 && programm.geladene(formular::Form1)->Enabled) zeigeDialoge(programm);
         }
     }
 
     /// Was jederzeit vor dem Brett stehen kann.
     void zeigeDialoge(Programm &programm) {
-        for (const char *form : {"Karten", "Exchange"}) {
+        for (const Formularname form : {formular::Karten, formular::Exchange}) {
             programm.zeige(form);
             sammlung.nimm(programm);
             programm.entlade(form);
@@ -322,7 +323,7 @@ void prüfeFelder(Prüfung &t, double v) {
     QWidget form;
     form.setStyleSheet(feldgestalt(v));
     form.show();
-    for (const char *name : {"Menu2", "Exchange"})
+    for (const Formularname name : {formular::Menu2, formular::Exchange})
         for (Control *c : p.lade(name).Controls()) {
             auto *feld = dynamic_cast<VisualControl *>(c);
             if (auto *eingabe = dynamic_cast<TextBox *>(c)) eingabe->Text = LängsterName;
@@ -352,7 +353,7 @@ void prüfeFelder(Prüfung &t, double v) {
                 bedarf = fm.horizontalAdvance(zeile->text());
             }
             if (bedarf > platz)
-                std::cout << name << '.' << c->Name << " bei " << v << ": braucht " << bedarf << " von " << platz
+                std::cout << name.Text << '.' << c->Name << " bei " << v << ": braucht " << bedarf << " von " << platz
                           << '\n';
             t.gilt(c->Name, bedarf <= platz);
         }

@@ -2,7 +2,8 @@
 // angesagt. Läuft ohne Bildschirm und ohne Lautsprecher.
 #include "assistant/Ansagen.h"
 #include "assistant/Sprech.h"
-#include "model/Brett.h"
+#include "boardform/Brett.h"
+#include "include/Formulare.h"
 #include "tests/Prüfung.h"
 #include "tests/window/Lauf.h"
 #include "window/Gestaltung.h"
@@ -64,7 +65,7 @@ void prüfeEingang(Prüfung &t) {
         },
     };
     t.gleich("ein Eingang, nur vorgelesen", l.laufe([&] {
-        l.p.zeige("Form1");
+        l.p.zeige(formular::Form1);
         Spielzustand &z = l.p.Zustand;
         z.Spielername = "Anna";
         z.Spielerfarbe = "autog";
@@ -92,8 +93,8 @@ void prüfeAnsagen(Prüfung &t) {
         [] { return wieOft("Alles klar!") == 1; },
         [&] { return wieOft(lang) == 1; },
         // der Satz rückt weiter, und die Figur klettert hinauf
-        [&] { return l.p.geladene("Sprech")->Visible && l.p.form<Sprech>().Label1.Caption() != lang; },
-        [&] { return !l.p.geladene("Sprech")->Visible; },
+        [&] { return l.p.geladene(formular::Sprech)->Visible && l.p.form<Sprech>().Label1.Caption() != lang; },
+        [&] { return !l.p.geladene(formular::Sprech)->Visible; },
         [&] {
             l.p.behandle([&] { Ansagen(l.p, "Wollen Sie wirklich beenden?", 100); });
             return true;
@@ -102,8 +103,8 @@ void prüfeAnsagen(Prüfung &t) {
         [] { return drücke("Nein") && (fenster()->close() || true); },
     };
     t.gleich("Ansagen enden", l.laufe([&] {
-        l.p.zeige("Form1");
-        l.p.zeige("Assistent");
+        l.p.zeige(formular::Form1);
+        l.p.zeige(formular::Assistent);
         Ansagen(l.p, lang, 0);
     }),
              0);
