@@ -27,6 +27,8 @@ enum Kennung : char { Tat = '>', Regelfall = '+', Fund = '!' };
 
 void sage(Kennung k, const std::string &text) { std::cout << static_cast<char>(k) << text << std::endl; }
 
+bool beginntNeu(const std::string &zeile) { return zeile == "start" || zeile == "menü" || zeile.starts_with("spiel "); }
+
 /// Gibt der Szene Zeile um Zeile und prüft, was die vorige hinterließ.
 class Wärter {
   public:
@@ -52,6 +54,7 @@ class Wärter {
             if (!geht(*zeile)) continue;
             sage(Tat, *zeile);
             geschlossen |= zeile->starts_with("schließe ");
+            if (beginntNeu(*zeile)) geschlossen = sackgasse = false;
             return zeile;
         }
         amEnde = true;
@@ -87,7 +90,6 @@ class Wärter {
     void prüfeEnde() {
         const std::string ende = std::exchange(vorigesEnde, s.fehler());
         if (vorigesEnde == ende || vorigesEnde == "keiner") return;
-        geschlossen = false;
         if (vorigesEnde == "ende") return;
         const char *regel = Regelende(s.p(), vorigesEnde);
         if (!regel) finde("Laufzeitfehler " + vorigesEnde + " ohne Regel");
@@ -95,11 +97,11 @@ class Wärter {
     }
 
     void prüfeSackgasse() {
-        if (!istSackgasse(s)) return;
+        if (sackgasse || !istSackgasse(s)) return;
         const char *regel = Sackgassenregel(s.p(), geschlossen);
         if (!regel) finde("eine Sackgasse ohne Regel");
         sage(Regelfall, regel);
-        geschlossen = false;
+        sackgasse = true;
         beginneNeu();
     }
 
@@ -111,7 +113,8 @@ class Wärter {
     Szene &s;
     Quelle quelle;
     Handler beginneNeu;
-    bool amEnde = false, geschlossen = false;
+    bool amEnde = false;
+    bool geschlossen = false, sackgasse = false; // seit dem letzten Neuanfang
     std::string vorigesEnde = "keiner";
 };
 
