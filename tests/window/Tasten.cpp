@@ -119,8 +119,8 @@ void prüfeGanzesSpiel(Prüfung &t) {
             if (QWidget *kasten = QApplication::activeModalWidget()) kasten->close(); // ohne Film
             return sichtbar(l.p, formular::Intro);
         },
-        [] {
-            taste(Qt::Key_Space, " ");
+        [&] { // auf einem langsamen Rechner ist der Film von selbst zu Ende
+            if (sichtbar(l.p, formular::Intro)) taste(Qt::Key_Space, " ");
             return true;
         },
         [&] { return sichtbar(l.p, formular::Menu) && !l.p.geladene(formular::Intro); },
