@@ -118,7 +118,8 @@ std::string aufgereiht(const std::vector<std::string> &zeilen) {
 void erwarteDatei(Szene &s, Wörter w) {
     brauche(!w.empty());
     const auto ort = s.ordner.ort(liesText(w[0]));
-    const bool fehlt = !std::filesystem::exists(ort), ordner = std::filesystem::is_directory(ort);
+    std::error_code unlesbar;
+    const bool ordner = std::filesystem::is_directory(ort, unlesbar), fehlt = !ordner && !istDatei(ort);
     std::vector<std::string> ist;
     if (!fehlt && !ordner) ist = zeilen(ausWindows1252(liesDatei(ort)));
     const std::string was = "datei " + zitiere(w[0].text) + " ist " +

@@ -1,5 +1,6 @@
 #include "platform/Control.h"
 
+#include "platform/Dateien.h"
 #include "platform/Form.h"
 #include "platform/Laufzeit.h"
 #include "platform/Zeichen.h"
@@ -178,7 +179,8 @@ FileListBox::FileListBox(Behälter wo, const char *Name, Rechteck r, const char 
     : Listenelement(wo, Name, r), endung(klein(Muster + 1)) {}
 
 void FileListBox::setzePath(const std::string &neu) {
-    if (!std::filesystem::is_directory(neu)) throw Laufzeitfehler::pfadFehlt();
+    std::error_code fehler;
+    if (!std::filesystem::is_directory(neu, fehler)) throw Laufzeitfehler::pfadFehlt();
     ordner = neu;
     Refresh();
 }
@@ -186,13 +188,8 @@ void FileListBox::setzePath(const std::string &neu) {
 void FileListBox::Refresh() {
     ListIndex = -1;
     zeilen.clear();
-    std::error_code fehler;
-    for (const auto &eintrag : std::filesystem::directory_iterator(ordner, fehler)) {
-        const std::string name = eintrag.path().filename().string();
-        if (name.size() >= endung.size() && klein(name.substr(name.size() - endung.size())) == endung &&
-            !eintrag.is_directory(fehler))
-            zeilen.push_back(name);
-    }
+    for (const std::string &name : Dateinamen(ordner))
+        if (klein(name).ends_with(endung)) zeilen.push_back(name);
     std::sort(zeilen.begin(), zeilen.end());
     geändert();
 }

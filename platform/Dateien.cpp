@@ -20,6 +20,26 @@ bool gleichOhneSchreibung(const std::string &a, const std::string &b) {
     });
 }
 
+bool istOrdner(const fs::path &pfad) {
+    std::error_code fehler;
+    return fs::is_directory(pfad, fehler);
+}
+
+/// Die Einträge des Ordners. Was sich nicht lesen lässt, fehlt.
+std::vector<fs::path> Einträge(const fs::path &ordner) {
+    std::vector<fs::path> alle;
+    std::error_code fehler;
+    for (fs::directory_iterator hier(ordner, fehler); !fehler && hier != fs::directory_iterator();
+         hier.increment(fehler))
+        alle.push_back(hier->path());
+    return alle;
+}
+
+/// Wirft, wenn dort weder eine gewöhnliche Datei noch ein Ordner liegt.
+void brauche(const fs::path &pfad) {
+    if (!istDatei(pfad) && !istOrdner(pfad)) throw Laufzeitfehler::dateiFehlt();
+}
+
 /// Eine schreibgeschützte Datei bleibt, wie sie ist: umbenennen ließe sich auch über sie hinweg, und dem Verwalter des
 /// Rechners verwehrt das System nichts.
 void prüfeSchreibrecht(const fs::path &pfad) {
@@ -28,12 +48,24 @@ void prüfeSchreibrecht(const fs::path &pfad) {
     for (const fs::path &teil : {pfad, pfad.parent_path()})
         if (fs::exists(teil, fehler) && (fs::status(teil, fehler).permissions() & schreiben) == fs::perms::none)
             throw Laufzeitfehler(Fehlerart::Datei);
-    if (fs::is_directory(pfad, fehler)) throw Laufzeitfehler(Fehlerart::Datei);
-    if (fs::exists(pfad, fehler) && !std::ofstream(pfad, std::ios::binary | std::ios::app))
+    if (istOrdner(pfad)) throw Laufzeitfehler(Fehlerart::Datei);
+    if (istDatei(pfad) && !std::ofstream(pfad, std::ios::binary | std::ios::app))
         throw Laufzeitfehler(Fehlerart::Datei);
 }
 
 } // namespace
+
+bool istDatei(const fs::path &pfad) {
+    std::error_code fehler;
+    return fs::is_regular_file(pfad, fehler);
+}
+
+std::vector<std::string> Dateinamen(const fs::path &ordner) {
+    std::vector<std::string> namen;
+    for (const fs::path &eintrag : Einträge(ordner))
+        if (istDatei(eintrag)) namen.push_back(eintrag.filename().string());
+    return namen;
+}
 
 fs::path findePfad(const fs::path &gesucht) {
     std::error_code fehler;
@@ -44,22 +76,21 @@ fs::path findePfad(const fs::path &gesucht) {
             gefunden /= teil;
             continue;
         }
-        const auto ordner = fs::directory_iterator(gefunden.empty() ? "." : gefunden, fehler);
-        const auto hier = std::find_if(begin(ordner), end(ordner), [&](const fs::directory_entry &e) {
-            return gleichOhneSchreibung(e.path().filename().string(), teil.string());
+        const std::vector<fs::path> alle = Einträge(gefunden.empty() ? "." : gefunden);
+        const auto hier = std::find_if(alle.begin(), alle.end(), [&](const fs::path &e) {
+            return gleichOhneSchreibung(e.filename().string(), teil.string());
         });
-        if (hier == end(ordner)) return gesucht;
-        gefunden /= hier->path().filename();
+        if (hier == alle.end()) return gesucht;
+        gefunden /= hier->filename();
     }
     return gefunden;
 }
 
 std::string liesDatei(const fs::path &name) {
     const fs::path pfad = findePfad(name);
-    std::error_code fehler;
-    if (!fs::exists(pfad, fehler)) throw Laufzeitfehler::dateiFehlt();
+    brauche(pfad);
     std::ifstream datei(pfad, std::ios::binary);
-    if (!datei || fs::is_directory(pfad, fehler)) throw Laufzeitfehler(Fehlerart::Datei);
+    if (!datei || istOrdner(pfad)) throw Laufzeitfehler(Fehlerart::Datei);
     std::ostringstream bytes; // in Blöcken: der Film hat Megabytes
     bytes << datei.rdbuf();
     return std::move(bytes).str();
@@ -67,11 +98,12 @@ std::string liesDatei(const fs::path &name) {
 
 void schreibeDatei(const fs::path &name, const std::string &bytes) {
     const fs::path pfad = findePfad(name);
-    std::error_code fehler;
-    if (!pfad.parent_path().empty() && !fs::is_directory(pfad.parent_path(), fehler)) throw Laufzeitfehler::pfadFehlt();
+    if (!pfad.parent_path().empty() && !istOrdner(pfad.parent_path())) throw Laufzeitfehler::pfadFehlt();
     prüfeSchreibrecht(pfad);
     fs::path daneben = pfad;
     daneben += ".neu";
+    std::error_code fehler;
+    if (!istOrdner(daneben)) fs::remove(daneben, fehler); // was noch liegt, muss keine Datei sein
     std::ofstream datei(daneben, std::ios::binary | std::ios::trunc);
     datei << bytes;
     datei.close();
@@ -83,9 +115,9 @@ void schreibeDatei(const fs::path &name, const std::string &bytes) {
 
 void löscheDatei(const fs::path &name) {
     const fs::path pfad = findePfad(name);
-    std::error_code fehler;
-    if (!fs::exists(pfad, fehler)) throw Laufzeitfehler::dateiFehlt();
+    brauche(pfad);
     prüfeSchreibrecht(pfad);
+    std::error_code fehler;
     if (!fs::remove(pfad, fehler)) throw Laufzeitfehler(Fehlerart::Datei);
 }
 

@@ -100,7 +100,7 @@ bool Tonwerk::öffneGerät() {
         return false;
     }
     for (const char *satz : Klangsätze)
-        if (std::error_code fehler; std::filesystem::exists(satz, fehler)) {
+        if (istDatei(satz)) {
             Mix_SetSoundFonts(satz);
             break;
         }
@@ -123,9 +123,8 @@ void Tonwerk::schließeGerät() {
 
 void Tonwerk::führeAus(const std::shared_ptr<Stimme> &s) {
     const std::filesystem::path datei = findePfad(s->Datei);
-    std::error_code fehler;
     bool klingt = false;
-    if (std::filesystem::is_regular_file(datei, fehler) && öffneGerät()) {
+    if (istDatei(datei) && öffneGerät()) {
         if (istStück(datei)) {
             // Ein Stück zur Zeit: das neue löst das alte ab.
             for (const auto &anderes : klingende)

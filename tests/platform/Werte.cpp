@@ -1,6 +1,7 @@
 // Die Arten der Werte, Zeichen und Dateien, wo kein Befehl einer Szene hinreicht.
 #include "include/Werte.h"
 #include "bench/Programmordner.h"
+#include "platform/Bilderordner.h"
 #include "platform/Dateien.h"
 #include "platform/Laufzeitfehler.h"
 #include "platform/Region.h"
@@ -8,6 +9,8 @@
 #include "tests/Prüfung.h"
 
 #include <filesystem>
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace velmo;
 
@@ -79,6 +82,35 @@ void prüfeDateien(Prüfung &t) {
            wirft(Fehlerart::Datei, [&] { schreibeDatei(wurzel / "Charakter" / "dritte.cha", ""); }));
 }
 
+/// Liest niemand eine Röhre, wartet, wer sie öffnet, für immer.
+void prüfeKeineDateien(Prüfung &t) {
+    alarm(20);
+    const Programmordner ordner;
+    const auto ort = [&](const char *name) { return ordner.ort(std::string("charakter/") + name); };
+    ordner.schreibe("charakter/echt.cha", "echt");
+    ordner.schreibe("bilder/formen/a.png", "bild");
+    for (const char *röhre : {"röhre.cha", "echt.cha.neu", "../bilder/formen/b.png", "../bilder/c"})
+        t.gleich(röhre, mkfifo(ort(röhre).c_str(), 0600), 0);
+    std::filesystem::create_symlink("kreis.cha", ort("kreis.cha"));
+    std::filesystem::create_symlink("nirgends", ort("leer.cha"));
+    std::filesystem::create_symlink("/dev/zero", ort("gerät.cha"));
+    std::filesystem::create_symlink(".", ort("ordner.cha"));
+    for (const char *keine : {"röhre.cha", "kreis.cha", "leer.cha", "gerät.cha"}) {
+        t.gilt(keine, wirft(Fehlerart::Datei, [&] { liesDatei(ort(keine)); }));
+        t.gilt(keine, wirft(Fehlerart::Datei, [&] { löscheDatei(ort(keine)); }));
+    }
+    t.gilt("gelistet wird die eine", Dateinamen(ordner.ort("charakter")) == std::vector<std::string>{"echt.cha"});
+    t.gilt("im Kreis nichts", Dateinamen(ort("kreis.cha")).empty());
+    for (const char *neu : {"röhre.cha", "kreis.cha", "leer.cha", "echt.cha"}) {
+        schreibeDatei(ort(neu), "neu");
+        t.gleich(neu, liesDatei(ort(neu)), std::string("neu"));
+    }
+    Bilderordner bilder((ordner.ort("bilder")).string());
+    t.gilt("ein Bild", !bilder.datei("formen/a").empty());
+    t.gilt("kein Bild", bilder.datei("formen/b").empty() && bilder.datei("c").empty());
+    alarm(0);
+}
+
 } // namespace
 
 int main() {
@@ -88,5 +120,6 @@ int main() {
     prüfeZeichen(t);
     prüfeRegion(t);
     prüfeDateien(t);
+    prüfeKeineDateien(t);
     return t.ende();
 }
