@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t Plätze = 9;
 
-std::string pfad(const Programm &p) { return p.Zustand.Programmpfad + "/besten.sav"; }
+std::string pfad(const Programm &p) { return p.Spielerordner() + "/besten.sav"; }
 
 /// Die nächste Zeile; falsch am Ende der Datei. Ein Wagenrücklauf vor dem Zeilenende gehört nicht zur Zeile.
 bool liesZeile(std::istream &datei, std::string &zeile) {

@@ -20,7 +20,7 @@ namespace {
 constexpr int ErstesBild = 141, LetztesBild = 155, Anfangsbild = 152;
 constexpr int LängsterName = 13;
 
-std::string Charakterordner(const Spielzustand &z) { return z.Programmpfad + "/charakter"; }
+std::string Charakterordner(const Programm &p) { return p.Spielerordner() + "/charakter"; }
 
 /// Eine Nummer von 31 Bit, die zu dem Text gehört; gerechnet mit 64 Bit, auf jedem Rechner dieselbe.
 std::uint64_t Griff(const std::string &text) {
@@ -69,7 +69,7 @@ void Menu2::Form_Load() {
     Top = std::floor((schirm.Height - Height) / 2);
     p.Zustand.Bildnummer = Anfangsbild;
     try {
-        File1.setzePath(Charakterordner(p.Zustand));
+        File1.setzePath(Charakterordner(p));
     } catch (const Laufzeitfehler &) { // ohne den Ordner bleibt die Liste leer
     }
     for (ListBox *liste : {&List2, &List1, &List3})
@@ -97,7 +97,7 @@ void Menu2::zeigeBild() {
 void Menu2::Label4_Click() { Label4.Caption = std::to_string(Griff(Picture1.Picture().Name)); }
 
 void Menu2::Command4_Click() {
-    p.Zustand.Charakterpfad = Charakterordner(p.Zustand) + "/" + Text1.Text() + ".cha";
+    p.Zustand.Charakterpfad = Charakterordner(p) + "/" + Text1.Text() + ".cha";
     schreibeCharakter(p.Zustand.Charakterpfad, {Text1.Text, Text2.Text, List1.Text(), p.Zustand.Bildnummer});
     File1.Refresh();
 }

@@ -73,6 +73,10 @@ class Kasten : public QDialog {
 
 } // namespace
 
+std::string fehlersatz(const std::exception &fehler) {
+    return std::string("Velmo muss enden, weil dem Rechner etwas misslang: ") + fehler.what();
+}
+
 void melde(Fenster &fenster, const QString &text, const QString &titel, Meldungsart art) {
     Kasten kasten(fenster, text, titel);
     if (art == Meldungsart::Kritisch) kasten.warne();

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <exception>
 #include <optional>
 #include <string>
 
@@ -11,6 +12,8 @@ namespace velmo {
 
 class Fenster;
 
+/// Der Satz zu einem Fehler, den keine Regel kennt: kein Speicher, ein Gerät, die Platte.
+std::string fehlersatz(const std::exception &);
 void melde(Fenster &, const QString &text, const QString &titel, Meldungsart);
 /// Ohne Wert, wenn der Spieler abbricht.
 std::optional<std::string> frageNach(Fenster &, const QString &frage, const QString &titel);

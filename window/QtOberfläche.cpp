@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <iostream>
 #include <thread>
 
 namespace velmo {
@@ -97,6 +98,10 @@ int QtOberfläche::endstand() {
         brichAb(umgebung->p, fehler);
         return 1;
     } catch (const Programmende &) {
+    } catch (const std::exception &fehler) {
+        std::cerr << fehlersatz(fehler) << '\n';
+        MsgBox(fehlersatz(fehler), "Velmo", Meldungsart::Kritisch);
+        return 1;
     }
     return 0;
 }

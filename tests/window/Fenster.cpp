@@ -2,6 +2,7 @@
 #include "tests/Prüfung.h"
 #include "tests/window/Lauf.h"
 #include "window/Gestaltung.h"
+#include "window/Ordner.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
@@ -12,6 +13,8 @@
 
 #include <algorithm>
 #include <functional>
+#include <system_error>
+#include <utility>
 #include <vector>
 
 using namespace velmo;
@@ -122,17 +125,45 @@ void prüfeSchließenImWarten(Prüfung &t) {
              0);
 }
 
-void prüfeLaufzeitfehler(Prüfung &t) {
+/// Wie das Programm an dem Fehler endet und was der Kasten dazu sagt.
+template <class F> std::pair<int, QString> endeAn(F fehler) {
     Lauf<> l;
+    QString satz;
     l.schritte = {[&] { // der Kasten kommt nach dem Ende der Schleife
         QWidget *kasten = QApplication::activeModalWidget();
-        return kasten && kasten->close();
+        if (!kasten) return false;
+        for (const QLabel *zeile : kasten->findChildren<QLabel *>())
+            satz += zeile->text();
+        return kasten->close();
     }};
-    t.gleich("ein Laufzeitfehler endet mit 1", l.laufe([&] {
+    const int stand = l.laufe([&] {
         l.p.zeige(formular::Form1);
-        throw Laufzeitfehler(Fehlerart::Überlauf);
-    }),
-             1);
+        throw fehler;
+    });
+    return {stand, satz};
+}
+
+void prüfeFehler(Prüfung &t) {
+    const auto regel = endeAn(Laufzeitfehler(Fehlerart::Überlauf));
+    t.gilt("ein Laufzeitfehler endet mit 1", regel == std::pair(1, QString("Laufzeitfehler '6': Überlauf")));
+    const auto rechner = endeAn(std::system_error(std::make_error_code(std::errc::too_many_files_open)));
+    t.gleich("ein Fehler des Rechners auch", rechner.first, 1);
+    t.gilt("mit seinem Satz", rechner.second.startsWith("Velmo muss enden, weil dem Rechner etwas misslang: "));
+}
+
+/// Beim Programm liegt alles in einem Ordner; fürs System eingerichtet sind es zwei, und der eigene ist danach da.
+void prüfeOrdner(Prüfung &t) {
+    const Programmordner wurzel;
+    const auto unter = [&](const char *was) { return QString::fromStdString(wurzel.Pfad()) + was; };
+    qputenv("XDG_DATA_HOME", unter("/daten").toUtf8());
+    wurzel.legeOrdnerAn("games");
+    t.gleich("ohne System", findeOrdner(unter("/games")).Eigenes, std::string());
+    wurzel.legeOrdnerAn("share/games/velmo");
+    t.gleich("bilder liegen daneben", findeOrdner(unter("")).Mitgeliefertes, wurzel.Pfad());
+    const Ordner zwei = findeOrdner(unter("/games"));
+    t.gleich("das Mitgelieferte", zwei.Mitgeliefertes, wurzel.Pfad() + "/share/games/velmo");
+    t.gleich("das Eigene", zwei.Eigenes, wurzel.Pfad() + "/daten/velmo");
+    t.gilt("mit Charakteren", std::filesystem::is_directory(zwei.Eigenes + "/charakter"));
 }
 
 void prüfeRuhe(Prüfung &t) {
@@ -234,7 +265,8 @@ int main(int argc, char **argv) {
     prüfeKlickBeiJederGröße(t);
     prüfeZweiteTaste(t);
     prüfeSchließenImWarten(t);
-    prüfeLaufzeitfehler(t);
+    prüfeFehler(t);
+    prüfeOrdner(t);
     prüfeRuhe(t);
     prüfeSchritte(t);
     prüfeMeldungsarten(t);
