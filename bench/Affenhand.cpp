@@ -24,12 +24,12 @@ constexpr const char *Dateien[] = {
     R"(datei "charakter/bild.cha" "Ada" "A" "Gelb" "32767")",
     R"(datei "charakter/farbe.cha" "Ada" "A" "Lila" "150")",
     R"(bytes "charakter/leer.cha" "00")",
-    R"(datei "besten.sav" "Ada" " 20000 " "Bob" "viele")",
-    R"(bytes "besten.sav" "FF0D0D0A0A00")",
+    R"(lösche "besten.sav" / datei "besten.sav" "Ada" " 20000 " "Bob" "viele")",
+    R"(lösche "besten.sav" / bytes "besten.sav" "FF0D0D0A0A00")",
     R"(lösche "besten.sav")",
     R"(lösche "charakter")",
     R"(ordner "charakter")",
-    R"(ordner "besten.sav")",
+    R"(lösche "besten.sav" / ordner "besten.sav")",
     R"(lösche "ani.hvi")",
 };
 

@@ -1,0 +1,75 @@
+# Das Debian-Paket: "cpack" im Bauordner. Seine Dateien sind ein Bestandteil für sich, den "cmake --install" nicht legt.
+set(VELMO_ADRESSE "example.org/velmo" CACHE STRING "Wo das Spiel und seine Ansichten im Netz stehen, ohne https://")
+set(VELMO_MAINTAINER "Die Macher von Velmo <velmo@example.org>" CACHE STRING "Wer das Paket pflegt")
+
+# Der Stand ist der des letzten Commits: zweimal gebaut, zweimal dasselbe.
+set(VELMO_TAG "")
+find_program(GIT git)
+if(GIT)
+    foreach(Zeile "VELMO_TAG;%cs" "VELMO_ZEIT;%cD" "VELMO_STAND;%ct")
+        list(GET Zeile 0 Name)
+        list(GET Zeile 1 Form)
+        execute_process(COMMAND ${GIT} log -1 --format=${Form} WORKING_DIRECTORY ${CMAKE_SOURCE_DIR}
+                        OUTPUT_VARIABLE ${Name} OUTPUT_STRIP_TRAILING_WHITESPACE ERROR_QUIET)
+    endforeach()
+endif()
+if(NOT VELMO_TAG)
+    string(TIMESTAMP VELMO_TAG "%Y-%m-%d" UTC)
+    string(TIMESTAMP VELMO_ZEIT "%a, %d %b %Y %H:%M:%S +0000" UTC)
+    string(TIMESTAMP VELMO_STAND "%s" UTC)
+endif()
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME velmo)
+set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+set(CPACK_PACKAGE_CONTACT ${VELMO_MAINTAINER})
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_INSTALL_CMAKE_PROJECTS "${CMAKE_BINARY_DIR};Velmo;paket;/")
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_MAINTAINER ${VELMO_MAINTAINER})
+set(CPACK_DEBIAN_PACKAGE_HOMEPAGE https://${VELMO_ADRESSE}/)
+set(CPACK_DEBIAN_PACKAGE_SECTION games)
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+file(READ ${CMAKE_CURRENT_LIST_DIR}/beschreibung CPACK_DEBIAN_PACKAGE_DESCRIPTION)
+string(STRIP "${CPACK_DEBIAN_PACKAGE_DESCRIPTION}" CPACK_DEBIAN_PACKAGE_DESCRIPTION)
+# Die Bibliotheken kommen in cpack dazu; Schriften und Klangsatz stehen bei dem, was jeder Start von hier holt.
+execute_process(COMMAND sh -c ". ./.ci/bauen.sh && printf '%s' \"$Spielpakete\"" WORKING_DIRECTORY ${CMAKE_SOURCE_DIR}
+                OUTPUT_VARIABLE Spielpakete)
+string(REPLACE " " ", " CPACK_DEBIAN_PACKAGE_DEPENDS "${Spielpakete}")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-wayland)
+
+set(Gemacht ${CMAKE_BINARY_DIR}/paket)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/metainfo.xml.in ${Gemacht}/org.example.velmo.metainfo.xml @ONLY)
+set(CPACK_PROJECT_CONFIG_FILE ${Gemacht}/abhängig.cmake)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/abhängig.cmake.in ${CPACK_PROJECT_CONFIG_FILE} @ONLY)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/changelog.in ${Gemacht}/changelog.Debian @ONLY)
+
+# lege(WAS... ZIEL): was das Paket unter /usr hat.
+macro(lege)
+    install(${ARGN} COMPONENT paket EXCLUDE_FROM_ALL)
+endmacro()
+function(lege_gepackt Datei Ziel Name)
+    lege(CODE "execute_process(COMMAND gzip -9nc \"${Datei}\" OUTPUT_FILE \"${Gemacht}/${Name}.gz\" COMMAND_ERROR_IS_FATAL ANY)")
+    lege(FILES ${Gemacht}/${Name}.gz DESTINATION ${Ziel})
+endfunction()
+
+lege(TARGETS velmo RUNTIME DESTINATION games)
+lege(DIRECTORY ${CMAKE_SOURCE_DIR}/bilder ${CMAKE_SOURCE_DIR}/sound DESTINATION share/games/velmo)
+lege(FILES ${CMAKE_SOURCE_DIR}/ani.hvi DESTINATION share/games/velmo)
+lege(FILES ${CMAKE_CURRENT_LIST_DIR}/velmo.desktop DESTINATION share/applications)
+lege(FILES ${Gemacht}/org.example.velmo.metainfo.xml DESTINATION share/metainfo)
+foreach(Breit 16 22 24 32 48 64 128 256)
+    lege(FILES ${CMAKE_CURRENT_LIST_DIR}/zeichen/${Breit}.png
+         DESTINATION share/icons/hicolor/${Breit}x${Breit}/apps RENAME velmo.png)
+endforeach()
+lege(FILES ${CMAKE_CURRENT_LIST_DIR}/copyright DESTINATION share/doc/velmo)
+lege_gepackt(${CMAKE_CURRENT_LIST_DIR}/velmo.6 share/man/de/man6 velmo.6)
+lege_gepackt(${CMAKE_SOURCE_DIR}/CHANGELOG.md share/doc/velmo changelog)
+lege_gepackt(${Gemacht}/changelog.Debian share/doc/velmo changelog.Debian)
+
+include(CPack)
