@@ -8,49 +8,79 @@ namespace velmo {
 
 namespace {
 
-constexpr int FertigeKiB = 384 << 10, RoheKiB = 64 << 10;
+constexpr int VorratKiB = 2 << 10, RoheKiB = 512;
 
 int kosten(const QSize &g) { return static_cast<int>(qint64(g.width()) * g.height() * 4 / 1024 + 1); }
 
+QString vorratsname(const Bildwunsch &w) {
+    return QString("%1 %2 %3").arg(w.größe.width()).arg(w.größe.height()).arg(text(w.Datei));
+}
+
+QImage lies(QImageReader &leser) {
+    QImage bild = leser.read();
+    return std::move(bild).convertToFormat(bild.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                                                  : QImage::Format_RGB32);
+}
+
+/// JPEG entpackt sich gleich in Achteln nahe der Größe: ein Vielfaches rascher und kleiner. Was durchscheint, ist
+/// klein.
+QImage gelesen(const std::string &Datei, const QSize &größe) {
+    QImageReader leser(text(Datei));
+    if (leser.format() == "jpeg") leser.setScaledSize(größe);
+    QImage bild = lies(leser);
+    if (bild.isNull() || bild.size() == größe) return bild;
+    return bild.scaled(größe, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
 } // namespace
 
-Bildspeicher::Bildspeicher() : fertige(FertigeKiB), rohe(RoheKiB) {}
+Bildspeicher::Bildspeicher() : vorrat(VorratKiB), rohe(RoheKiB) {}
 
-const QImage &Bildspeicher::roh(const std::string &Datei) {
+QImage Bildspeicher::roh(const std::string &Datei) {
     const QString name = text(Datei);
     if (const QImage *da = rohe.object(name)) return *da;
     QImageReader leser(name);
-    QImage gelesen = leser.read();
-    gelesen =
-        gelesen.convertToFormat(gelesen.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
-    auto *bild = new QImage(std::move(gelesen));
-    rohe.insert(name, bild, std::min(kosten(bild->size()), RoheKiB));
-    return *bild;
+    const QImage bild = lies(leser);
+    rohe.insert(name, new QImage(bild), kosten(bild.size()));
+    return bild;
 }
 
-/// JPEG lässt sich gleich in der Nähe der Größe entpacken, das ist ein Vielfaches rascher.
-QImage Bildspeicher::gelesen(const std::string &Datei, const QSize &mindestens) {
-    QImageReader leser(text(Datei));
-    if (leser.format() != "jpeg") return roh(Datei);
-    const QSize ganz = leser.size();
-    int nenner = 8;
-    while (nenner > 1 && (ganz.width() / nenner < mindestens.width() || ganz.height() / nenner < mindestens.height()))
-        nenner /= 2;
-    leser.setScaledSize(ganz / nenner);
-    return leser.read();
+QSize Bildspeicher::größe(const std::string &Datei) {
+    const auto [hier, neu] = größen.try_emplace(Datei);
+    if (neu) hier->second = QImageReader(text(Datei)).size();
+    return hier->second;
 }
 
 QPixmap Bildspeicher::bild(const std::string &Datei, const QSize &größe) {
     if (Datei.empty() || größe.isEmpty()) return {};
-    const Schlüssel schlüssel{text(Datei), größe};
-    if (const QPixmap *da = fertige.object(schlüssel)) return *da;
-    if (inEile && letzte.contains(schlüssel.Datei)) return letzte[schlüssel.Datei];
-    const QImage ganz = gelesen(Datei, größe);
-    if (ganz.isNull()) return {};
-    QPixmap fertig = QPixmap::fromImage(ganz.scaled(größe, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-    letzte[schlüssel.Datei] = fertig;
-    fertige.insert(schlüssel, new QPixmap(fertig), kosten(größe));
+    const Bildwunsch wunsch{Datei, größe};
+    if (const auto da = fertige.find(wunsch); da != fertige.end()) return da->second;
+    if (inEile)
+        if (const auto da = fertige.lower_bound({Datei, {}}); da != fertige.end() && da->first.Datei == Datei)
+            return da->second;
+    QPixmap fertig;
+    if (const std::unique_ptr<QPixmap> da(vorrat.take(vorratsname(wunsch))); da)
+        fertig = *da;
+    else
+        fertig = QPixmap::fromImage(gelesen(Datei, größe));
+    if (!fertig.isNull()) fertige[wunsch] = fertig;
     return fertig;
+}
+
+void Bildspeicher::eile(bool an) {
+    inEile = an;
+    if (an) return;
+    fertige.clear();
+    vorrat.clear();
+}
+
+void Bildspeicher::behalte(const std::set<Bildwunsch> &gezeigt) {
+    std::erase_if(fertige, [&](auto &eintrag) {
+        const auto &[wunsch, bild] = eintrag;
+        if (inEile || gezeigt.contains(wunsch) || gezeigt.contains({wunsch.Datei, {}})) return false;
+        vorrat.insert(vorratsname(wunsch), new QPixmap(bild), kosten(bild.size()));
+        return true;
+    });
 }
 
 } // namespace velmo

@@ -1,13 +1,27 @@
 #pragma once
-// Die Bilder in der Größe, in der sie gezeigt werden. Jede Größe entsteht einmal.
+// Die Bilder in der Größe, in der sie gezeigt werden. Gehalten wird, was zu sehen ist, und ein kleiner Vorrat dessen,
+// was eben noch zu sehen war; die Bilder der Platte werden gelesen und vergessen.
 #include <QCache>
-#include <QHash>
 #include <QImage>
 #include <QPixmap>
 
+#include <map>
+#include <set>
 #include <string>
+#include <tuple>
 
 namespace velmo {
+
+/// Ein Bild in einer Größe; ohne Größe eines in jeder.
+struct Bildwunsch {
+    std::string Datei;
+    QSize größe;
+    bool operator==(const Bildwunsch &) const = default;
+    bool operator<(const Bildwunsch &b) const { return schlüssel() < b.schlüssel(); }
+
+  private:
+    std::tuple<const std::string &, int, int> schlüssel() const { return {Datei, größe.width(), größe.height()}; }
+};
 
 class Bildspeicher {
   public:
@@ -15,26 +29,20 @@ class Bildspeicher {
     /// Das Bild der Datei in der Größe; ein leeres, wenn es sich nicht lesen lässt. In Eile ist es eines von anderer
     /// Größe, wenn es eines gibt.
     QPixmap bild(const std::string &Datei, const QSize &);
-    /// Das Bild, wie es auf der Platte steht; leer, wenn es sich nicht lesen lässt. Gilt bis zum nächsten Aufruf.
-    const QImage &roh(const std::string &Datei);
-    /// Solange der Spieler am Fenster zieht, genügen die Bilder der alten Größe.
-    void eile(bool an) { inEile = an; }
+    /// Das Bild, wie es auf der Platte steht; leer, wenn es sich nicht lesen lässt. Nur die kleinen bleiben.
+    QImage roh(const std::string &Datei);
+    /// Die Größe auf der Platte.
+    QSize größe(const std::string &Datei);
+    /// Solange der Spieler am Fenster zieht, genügen die Bilder der alten Größe; danach gehen sie.
+    void eile(bool an);
+    /// Lässt gehen, was nicht unter den gezeigten ist.
+    void behalte(const std::set<Bildwunsch> &gezeigt);
 
   private:
-    QImage gelesen(const std::string &Datei, const QSize &mindestens);
-
-    struct Schlüssel {
-        QString Datei;
-        QSize größe;
-        bool operator==(const Schlüssel &) const = default;
-    };
-    friend size_t qHash(const Schlüssel &s, size_t keim) {
-        return qHashMulti(keim, s.Datei, s.größe.width(), s.größe.height());
-    }
-
-    QCache<Schlüssel, QPixmap> fertige; // Kosten in KiB
-    QCache<QString, QImage> rohe;
-    QHash<QString, QPixmap> letzte;
+    std::map<Bildwunsch, QPixmap> fertige;
+    QCache<QString, QPixmap> vorrat; // Kosten in KiB
+    QCache<QString, QImage> rohe;    // ebenso
+    std::map<std::string, QSize> größen;
     bool inEile = false;
 };
 

@@ -119,7 +119,7 @@ Formfläche *Fenster::fläche(const Form &form) const {
 
 void Fenster::folge() {
     const auto formen = u.p.Formen();
-    std::erase_if(flächen, [&](const auto &eintrag) {
+    bool anders = std::erase_if(flächen, [&](const auto &eintrag) {
         if (std::ranges::any_of(formen, [&](const Form *f) { return f->Nummer == eintrag.first; })) return false;
         eintrag.second->hide();
         eintrag.second->deleteLater();
@@ -131,7 +131,7 @@ void Fenster::folge() {
             fläche = new Formfläche(&anzeige, u);
             if (windowIcon().isNull() && !form->Icon().leer()) setWindowIcon(QIcon(text(form->Icon().Datei)));
         }
-        fläche->folge(*form, maß, u.p.eingabe.gezogen());
+        anders |= fläche->folge(*form, maß, u.p.eingabe.gezogen());
     }
     if (std::ranges::any_of(flächen, [](const auto &eintrag) { return eintrag.second->wartet(); })) stillstand.start();
     folgeReihenfolge(formen);
@@ -140,6 +140,15 @@ void Fenster::folge() {
     folgeRing();
     blatt->folge(maß);
     leser->folge();
+    if (anders) räumeAuf();
+}
+
+/// Bilder, die niemand mehr sieht, gehen: auch die von Formen hinter einer, die alles verdeckt.
+void Fenster::räumeAuf() {
+    std::set<Bildwunsch> gezeigt;
+    for (const std::uint64_t nummer : reihenfolge | std::views::reverse)
+        if (flächen[nummer]->nenneBilder(gezeigt)) break;
+    u.bilder.behalte(gezeigt);
 }
 
 void Fenster::folgeReihenfolge(const std::vector<Form *> &formen) {

@@ -56,6 +56,7 @@ class Fenster : public QWidget {
 
   private:
     void messe();
+    void räumeAuf();
     void wechsleVollbild();
     void folgeReihenfolge(const std::vector<Form *> &);
     void folgeFokus();

@@ -34,9 +34,9 @@ Formfläche::Formfläche(QWidget *anzeige, Umgebung &u) : QWidget(anzeige), u(u)
     hide();
 }
 
-void Formfläche::folge(const Form &form, const Maß &m, const VisualControl *gezogen) {
+bool Formfläche::folge(const Form &form, const Maß &m, const VisualControl *gezogen) {
     if (gezogen && &gezogen->form != &form) gezogen = nullptr;
-    if (stand == form.Stand() && m == maß && gezogen == gezogenes && !ausstehend) return;
+    if (stand == form.Stand() && m == maß && gezogen == gezogenes && !ausstehend) return false;
     ausstehend = false;
     const bool ganz = !stand || m != maß;
     stand = form.Stand();
@@ -48,6 +48,7 @@ void Formfläche::folge(const Form &form, const Maß &m, const VisualControl *ge
     folgeBedienelemente(form);
     if (ganz) update();
     setVisible(form.Visible);
+    return true;
 }
 
 /// Wo etwas zu zeigen ist, das dort ist.
@@ -183,6 +184,15 @@ void Formfläche::versetze(const Control &c, double dx, double dy) {
     erneuere(malbereich(*s, maß).translated(ortVon(*s).topLeft() - malort(*s, maß).topLeft()));
 }
 
+bool Formfläche::nenneBilder(std::set<Bildwunsch> &gezeigt) const {
+    if (isHidden()) return false;
+    gezeigt.insert({grund.bild, größe});
+    for (const Stück &s : liste)
+        if (s.sichtbar && !s.bild.empty())
+            gezeigt.insert({s.bild, s.sorte == Sorte::Knopf ? QSize() : bildgröße(s, maß)});
+    return testAttribute(Qt::WA_OpaquePaintEvent) && geometry().contains(parentWidget()->rect());
+}
+
 void Formfläche::erneuere(const Control &c) {
     if (const Stück *s = stück(c)) erneuere(malbereich(*s, maß));
 }
@@ -214,9 +224,7 @@ void Formfläche::maleSaum(QPainter &p) {
 void Formfläche::maleAlles(QPainter &p, const QRect &bereich) {
     const QRect ganz(QPoint(), größe);
     p.setClipRect(ganz);
-    if (!grund.bild.empty()) maleBild(p, u.bilder, grund.bild, ganz);
-    if (grund.bild.empty() || u.bilder.roh(grund.bild).isNull())
-        malePapier(p, maß, ganz, farbton::aus(grund.farbe), wirftSchatten);
+    if (!maleBild(p, u.bilder, grund.bild, ganz)) malePapier(p, maß, ganz, farbton::aus(grund.farbe), wirftSchatten);
     for (const auto &[r, farbe] : zeichnung)
         p.fillRect(maß.rechteck(r), farbton::aus(farbe));
     for (const Stück &s : liste) {

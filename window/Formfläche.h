@@ -13,6 +13,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 
 namespace velmo {
 
@@ -31,14 +32,17 @@ class Formfläche : public QWidget {
   public:
     Formfläche(QWidget *anzeige, Umgebung &);
 
-    /// Bringt die Fläche auf den Stand der Form; gezogen ist das Steuerelement, das der Spieler gerade zieht.
-    void folge(const Form &, const Maß &, const VisualControl *gezogen);
+    /// Bringt die Fläche auf den Stand der Form; gezogen ist das Steuerelement, das der Spieler gerade zieht. Falsch,
+    /// wenn sie schon so stand.
+    bool folge(const Form &, const Maß &, const VisualControl *gezogen);
 
     /// Wünscht der Spieler Ruhe, so bleibt, was sich bewegt, wo es war, bis es so viele ms stillsteht.
     static constexpr int Stillstand = 70;
     /// Steht noch etwas aus?
     bool wartet() const { return ausstehend; }
 
+    /// Nennt die Bilder, die sie zeigt; wahr, wenn sie alles hinter sich verdeckt.
+    bool nenneBilder(std::set<Bildwunsch> &) const;
     /// Wie das Steuerelement zuletzt gezeigt wurde; null, wenn es nicht unter den Gezeichneten ist.
     const Stück *stück(const Control &) const;
     /// Zeigt es um dx, dy Twips verschoben.

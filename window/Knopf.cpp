@@ -61,7 +61,7 @@ Knopf::Zustand Knopf::zustand() const {
 }
 
 QPixmap Knopf::körper(Zustand z, const QSize &größe) const {
-    const QImage &vorlage = bilder.roh(ordner + Zustandsbilder[static_cast<int>(z)]);
+    const QImage vorlage = bilder.roh(ordner + Zustandsbilder[static_cast<int>(z)]);
     QPixmap bild;
     if (vorlage.isNull()) {
         bild = QPixmap(größe);
@@ -81,7 +81,7 @@ QPixmap Knopf::körper(Zustand z, const QSize &größe) const {
 void Knopf::maleInhalt(QPainter &p, const QRect &knopf) const {
     const QRect für = knopfschrift(stück, maß, knopf);
     if (!stück.bild.empty()) {
-        const QSize roh = bilder.roh(stück.bild).size();
+        const QSize roh = bilder.größe(stück.bild);
         QRect r = für;
         r.setTop(knopf.top() + knopf.bottom() - für.bottom());
         if (!stück.text.empty()) r.setBottom(für.top() - 1);

@@ -33,7 +33,7 @@ void maleBeschriftung(QPainter &p, const Maß &m, const Stück &s, const QRect &
 
 /// Das Wachsende steht auf der Unterkante seiner vollen Höhe; zu sehen ist sein oberer Teil.
 void maleWachsendes(QPainter &p, Bildspeicher &bilder, const Maß &m, const Stück &s, const QRect &ort) {
-    const QRect ganz(ort.topLeft(), m.rechteck({s.Left, s.Top, s.natürlicheBreite, s.natürlicheHöhe}).size());
+    const QRect ganz(ort.topLeft(), bildgröße(s, m));
     const int hoch = std::min(m.punkt(s.Height), ganz.height());
     const QPixmap bild = bilder.bild(s.bild, ganz.size());
     if (bild.isNull() || hoch <= 0) return;
@@ -110,6 +110,11 @@ QRect malort(const Stück &s, const Maß &m) {
     return m.rechteck({s.Left, s.Top, s.natürlicheBreite, s.natürlicheHöhe});
 }
 
+QSize bildgröße(const Stück &s, const Maß &m) {
+    if (!s.wächst) return malort(s, m).size();
+    return m.rechteck({s.Left, s.Top, s.natürlicheBreite, s.natürlicheHöhe}).size();
+}
+
 QRect malbereich(const Stück &s, const Maß &m) {
     QRect bereich = malort(s, m).normalized();
     if (s.wächst) bereich |= m.rechteck({s.Left, s.Top, s.natürlicheBreite, s.natürlicheHöhe});
@@ -136,13 +141,14 @@ void male(QPainter &p, Bildspeicher &bilder, const Maß &m, const Stück &s, con
     }
 }
 
-void maleBild(QPainter &p, Bildspeicher &bilder, const std::string &Datei, const QRect &r) {
+bool maleBild(QPainter &p, Bildspeicher &bilder, const std::string &Datei, const QRect &r) {
     const QPixmap bild = bilder.bild(Datei, r.size());
-    if (bild.isNull()) return;
+    if (bild.isNull()) return false;
     if (bild.size() == r.size())
         p.drawPixmap(r.topLeft(), bild);
     else
         p.drawPixmap(r, bild);
+    return true;
 }
 
 namespace {

@@ -13,6 +13,9 @@ QRect malort(const Stück &, const Maß &);
 /// Was es höchstens überdeckt: mit Rand und geglätteten Kanten.
 QRect malbereich(const Stück &, const Maß &);
 
+/// Die Größe, in der sein Bild gebraucht wird.
+QSize bildgröße(const Stück &, const Maß &);
+
 /// Ein Stück außer Knöpfen und Bedienelementen, die selbst Fenster sind.
 void male(QPainter &, Bildspeicher &, const Maß &, const Stück &, const QRect &ort);
 
@@ -21,8 +24,8 @@ int ausrichtung(const Stück &);
 /// Der Platz der Schrift auf einem Knopf; unter seinem Bild, wenn er eins hat.
 QRect knopfschrift(const Stück &, const Maß &, const QRect &knopf);
 
-/// Ein Bild im Rechteck, ohne Verzerrung der Kanten.
-void maleBild(QPainter &, Bildspeicher &, const std::string &Datei, const QRect &);
+/// Ein Bild im Rechteck, ohne Verzerrung der Kanten; falsch, wenn es sich nicht lesen lässt.
+bool maleBild(QPainter &, Bildspeicher &, const std::string &Datei, const QRect &);
 /// Umbrochener Text; was nicht passt, wird kleiner. Die Schrift ist in Satzpunkten.
 void maleText(QPainter &, const Maß &, const QRect &, int ausrichtung, const QString &, const QFont &, const QColor &);
 /// Der Grund einer Form ohne Bild: Papier in ihrer Farbe mit feinem Rahmen.

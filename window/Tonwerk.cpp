@@ -1,6 +1,7 @@
 #include "window/Tonwerk.h"
 
 #include "platform/Dateien.h"
+#include "window/Speicher.h"
 
 #include <SDL.h>
 #include <SDL_mixer.h>
@@ -119,6 +120,7 @@ void Tonwerk::schließeGerät() {
     Mix_CloseAudio();
     SDL_QuitSubSystem(SDL_INIT_AUDIO);
     offen = false;
+    gibSpeicherZurück();
 }
 
 void Tonwerk::führeAus(const std::shared_ptr<Stimme> &s) {
@@ -130,6 +132,7 @@ void Tonwerk::führeAus(const std::shared_ptr<Stimme> &s) {
             for (const auto &anderes : klingende)
                 if (anderes->stück) lass(*anderes);
             s->stück = Mix_LoadMUS(datei.c_str());
+            gibSpeicherZurück(); // was das Lesen des Klangsatzes brauchte
             klingt = s->stück && Mix_PlayMusic(s->stück, 1) == 0;
         } else {
             s->welle = Mix_LoadWAV(datei.c_str());

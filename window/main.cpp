@@ -4,6 +4,7 @@
 #include "window/Kästen.h"
 #include "window/Ordner.h"
 #include "window/QtOberfläche.h"
+#include "window/Speicher.h"
 
 #include <QApplication>
 #include <QStandardPaths>
@@ -23,6 +24,7 @@ void meldeOhneBildschirm(QtMsgType art, const QMessageLogContext &, const QStrin
 } // namespace
 
 int main(int argc, char **argv) try {
+    velmo::haushalteMitSpeicher();
     const QtMessageHandler sonst = qInstallMessageHandler(meldeOhneBildschirm);
     QApplication app(argc, argv);
     qInstallMessageHandler(sonst);
