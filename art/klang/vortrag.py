@@ -3,7 +3,7 @@ from fractions import Fraction
 
 import midi
 
-AUSKLANG = 1.6  # s nach dem letzten Ereignis: am Ende der Datei bricht das Spiel den Nachhall ab
+AUSKLANG = 2.2  # s nach dem letzten Ereignis: am Ende der Datei bricht das Spiel den Nachhall ab
 
 
 def _glocke(stück):

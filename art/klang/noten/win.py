@@ -59,5 +59,11 @@ def stück():
     schluss.fläche(geigen, (58, 79), bis=3)
     schluss.greife(geigen, "x-..x...", (58, 79), von=4)
     schluss.trommle(trommel, {"becken": "x...|x...x...|x...", "schnarr": "x.ooooooxoooxoxo|x...x...|oooooooooooooxxx", "bass": "x...x..."}, {4: {"becken": "x...x...", "bass": "x...x...", "schnarr": "x...x..."}})
+    # Das Blech schwillt in jeden nächsten Teil hinein.
+    for stimme in (trompete, trompete_2, horn, posaune, tuba):
+        ruf.schwelle(stimme, (1, 92), (4, 106), (5, 118))
+        marsch.schwelle(stimme, (1, 96), (8, 98), (9, 118))
+        steigerung.schwelle(stimme, (1, 90), (4, 98), (5, 120))
+        schluss.schwelle(stimme, (1, 100), (5, 100))
     st.verlangsamen(schluss.bei(2), schluss.bei(4), 104)
     return st
