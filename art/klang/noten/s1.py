@@ -33,7 +33,7 @@ PIANO_GEBROCHEN = "1.3.2.4.|.1324.3."
 BASS = "1--.5-a-|1--15-a-|1-.15--a|1--.5-3a"
 BESEN = {"fell": "o---o---", "schnarr": "..x...x.", "fuß": "..o...o.", "bass": "o......,|o..,o..."}
 RIDE = {"ride": "x.xox.xo", "fuß": "..o...o.", "schnarr": "..,..,o.|..o..,o,", "bass": "o......,|o..,,..."}
-FÜLLUNG = {"schnarr": "x.oxx.xxX.xX..xX", "tommitte": "..........,oo...", "tomtief": "....,.......,.oo", "bass": "o...o...o...o...", "fuß": "..o...o."}
+FÜLLUNG = {"schnarr": "x.xxx.xxX.xx.oXo", "tommitte": ".....o...o.oo...", "tomtief": "....,........o.o", "bass": "o...o...o.......", "fuß": "..o...o."}
 FÜLLUNG_2 = {"schnarr": "x..ox.oxx.xx..XX", "tomhoch": "........,,,.....", "tommitte": "...........,,,..", "tomtief": "..............,,", "bass": "o.....o.o..o....", "fuß": "..o...o."}
 
 
