@@ -32,9 +32,7 @@ constexpr Bauwurf Bauwürfe[] = {
 };
 // clang-format on
 
-void zeigeWurf(Programm &p) {
-    brett(p).Picture8.Picture = Bildladen(p, 200 + p.Zustand.Wurf.Ganz(), "Wuerfel");
-}
+void zeigeWurf(Programm &p) { brett(p).Picture8.Picture = Bildladen(p, 200 + p.Zustand.Wurf.Ganz(), "Wuerfel"); }
 
 void rolleFahrwürfel(Programm &p) {
     Brett &b = brett(p);

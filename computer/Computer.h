@@ -24,8 +24,6 @@ inline int zähleHotels(const Spielzustand &z, int computer) {
 }
 
 /// Schreibt das Arbeitsgeld in die Kasse des Computers zurück.
-inline void schreibeZurück(Spielzustand &z, int computer) {
-    z.Computergeld[computer] = z.Arbeitsgeld.Ganz();
-}
+inline void schreibeZurück(Spielzustand &z, int computer) { z.Computergeld[computer] = z.Arbeitsgeld.Ganz(); }
 
 } // namespace velmo

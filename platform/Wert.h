@@ -26,8 +26,8 @@ using Namensempfänger = std::function<void(const std::string &Name, Zugang)>;
 double alsZahl(const Wert &);
 bool alsFlagge(const Wert &);
 std::string alsText(const Wert &);
-/// Der ganze Teil der Zahl; was in keine 32 Bit passt, ist ein Laufzeitfehler (Überlauf). Jede gebrochene Zahl wird hier
-/// zur ganzen: sie kann aus einem Kasten oder einer Datei stammen.
+/// Der ganze Teil der Zahl; was in keine 32 Bit passt, ist ein Laufzeitfehler (Überlauf). Jede gebrochene Zahl wird
+/// hier zur ganzen: sie kann aus einem Kasten oder einer Datei stammen.
 int alsGanz(double zahl);
 
 /// Eine Zahl, wie sie als Text geschrieben wird: ganze ohne Komma, sonst mit Punkt.

@@ -77,8 +77,7 @@ std::span<const Formeintrag> Formtafel() { return Tafel; }
 void brichAb(Programm &p, const Laufzeitfehler &fehler) {
     p.MsgBox(fehler.what());
     const Spielzustand &z = p.Zustand;
-    if (z.Bildschirmbreite > 0)
-        p.oberfläche.setzeModus(alsGanz(z.Bildschirmbreite), alsGanz(z.Bildschirmhöhe));
+    if (z.Bildschirmbreite > 0) p.oberfläche.setzeModus(alsGanz(z.Bildschirmbreite), alsGanz(z.Bildschirmhöhe));
 }
 
 void starte(Programm &p) { p.zeige(formular::Intro); }

@@ -94,8 +94,8 @@ void maleLinie(QPainter &p, const Maß &m, const Stück &s) {
 } // namespace
 
 int ausrichtung(const Stück &s) {
-    return Ausrichtungen[std::clamp(static_cast<int>(s.ausrichtung), 0, 2)] | (s.mittig ? Qt::AlignVCenter : Qt::AlignTop) |
-           Qt::TextWordWrap;
+    return Ausrichtungen[std::clamp(static_cast<int>(s.ausrichtung), 0, 2)] |
+           (s.mittig ? Qt::AlignVCenter : Qt::AlignTop) | Qt::TextWordWrap;
 }
 
 QRect knopfschrift(const Stück &s, const Maß &m, const QRect &knopf) {

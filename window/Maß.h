@@ -14,7 +14,7 @@ namespace velmo {
 struct Maß {
     double jeTwip = 1.0 / 12; // Bildpunkte des Bildschirms
     double dichte = 1;        // Bildpunkte je Längeneinheit des Fensters
-    Wünsche wünsche;          // wie der Spieler es gern hätte
+    Wünsche wünsche = {};     // wie der Spieler es gern hätte
 
     int punkt(double twips) const { return static_cast<int>(std::lround(twips * jeTwip)); }
     /// Eine Länge des Entwurfs in Bildpunkten des Entwurfs, mindestens einer.

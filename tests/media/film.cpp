@@ -1,8 +1,8 @@
 // Der Aufbau eines Films: Takt und Bilder; was abgeschnitten oder keiner ist, ist ein Dateifehler.
+#include "bench/Prüfung.h"
 #include "media/Avi.h"
 #include "platform/Laufzeitfehler.h"
 #include "tests/Probefilm.h"
-#include "tests/Prüfung.h"
 
 using namespace velmo;
 

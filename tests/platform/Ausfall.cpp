@@ -1,9 +1,9 @@
 // Was auf der Platte steht, wenn ein Schreiben nicht zu Ende kommt: das Programm stirbt darin, die Platte ist voll, das
 // Umbenennen misslingt. Immer ist die alte Datei noch ganz oder die neue schon da.
 #include "bench/Programmordner.h"
+#include "bench/Prüfung.h"
 #include "platform/Dateien.h"
 #include "platform/Laufzeitfehler.h"
-#include "tests/Prüfung.h"
 
 #include <algorithm>
 #include <cerrno>

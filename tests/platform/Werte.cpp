@@ -1,12 +1,12 @@
 // Die Arten der Werte, Zeichen und Dateien, wo kein Befehl einer Szene hinreicht.
 #include "include/Werte.h"
 #include "bench/Programmordner.h"
+#include "bench/Prüfung.h"
 #include "platform/Bilderordner.h"
 #include "platform/Dateien.h"
 #include "platform/Laufzeitfehler.h"
 #include "platform/Region.h"
 #include "platform/Zeichen.h"
-#include "tests/Prüfung.h"
 
 #include <filesystem>
 #include <sys/stat.h>

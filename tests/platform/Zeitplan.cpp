@@ -1,8 +1,8 @@
 // Die Laufzeit an eigenen kleinen Formularen: Reihenfolge der Zeitgeber, wartende Behandlungen, Formulare, die sich in
 // ihrer eigenen Behandlung entladen.
 #include "bench/Prüffläche.h"
+#include "bench/Prüfung.h"
 #include "include/Programm.h"
-#include "tests/Prüfung.h"
 
 #include <string>
 #include <utility>

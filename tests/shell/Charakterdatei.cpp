@@ -2,8 +2,8 @@
 #include "shell/Charakterdatei.h"
 
 #include "bench/Programmordner.h"
+#include "bench/Prüfung.h"
 #include "platform/Laufzeitfehler.h"
-#include "tests/Prüfung.h"
 
 #include <filesystem>
 #include <optional>

@@ -1,10 +1,10 @@
 // Woher das Programm liest, wohin es schreibt, und was geschieht, wenn dort anderes liegt als Dateien.
 #include "bench/Programmordner.h"
 #include "bench/Prüffläche.h"
+#include "bench/Prüfung.h"
 #include "shell/Bestenliste.h"
 #include "shell/Formtafel.h"
 #include "shell/Menu2.h"
-#include "tests/Prüfung.h"
 
 #include <sys/stat.h>
 #include <unistd.h>

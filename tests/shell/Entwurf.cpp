@@ -2,10 +2,10 @@
 // einer Zahl je Formular. test_Entwurf FORM zeigt, woraus die Zahl entsteht; zwei Stände lassen sich so vergleichen.
 #include "bench/Programmordner.h"
 #include "bench/Prüffläche.h"
+#include "bench/Prüfung.h"
 #include "include/Programm.h"
 #include "platform/Zeichenliste.h"
 #include "shell/Formtafel.h"
-#include "tests/Prüfung.h"
 
 #include <cstdint>
 #include <map>

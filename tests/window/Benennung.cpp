@@ -4,9 +4,9 @@
 
 #include "bench/Programmordner.h"
 #include "bench/Prüffläche.h"
+#include "bench/Prüfung.h"
 #include "boardform/Brett.h"
 #include "shell/Formtafel.h"
-#include "tests/Prüfung.h"
 #include "window/Vorleser.h"
 
 using namespace velmo;

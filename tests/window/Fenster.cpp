@@ -1,5 +1,5 @@
 // Was nur am Fenster zu sehen ist: Größe, Schleife, Schließen, Fehler. Läuft ohne Bildschirm und ohne Lautsprecher.
-#include "tests/Prüfung.h"
+#include "bench/Prüfung.h"
 #include "tests/window/Lauf.h"
 #include "window/Gestaltung.h"
 #include "window/Ordner.h"

@@ -1,7 +1,7 @@
 // Ein Spiel nur mit Tasten: vom Film bis in die vierte Runde, mit Kauf und Zahlung; und ein Eingang. Läuft ohne
 // Bildschirm und ohne Lautsprecher.
+#include "bench/Prüfung.h"
 #include "boardform/Brett.h"
-#include "tests/Prüfung.h"
 #include "tests/window/Lauf.h"
 #include "window/Fenster.h"
 #include "window/Gestaltung.h"

@@ -1,7 +1,7 @@
 // Der Baum für Vorleseprogramme, im Programm selbst: ein Eingang wird gesetzt. Läuft ohne Bildschirm und ohne
 // Lautsprecher.
+#include "bench/Prüfung.h"
 #include "include/Formulare.h"
-#include "tests/Prüfung.h"
 #include "tests/window/Lauf.h"
 #include "window/Gestaltung.h"
 

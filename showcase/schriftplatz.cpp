@@ -4,9 +4,9 @@
 #include "bench/Mitspieler.h"
 #include "bench/Programmordner.h"
 #include "bench/Prüffläche.h"
+#include "bench/Prüfung.h"
 #include "include/Formulare.h"
 #include "shell/Formtafel.h"
-#include "tests/Prüfung.h"
 #include "window/Bedienelemente.h"
 #include "window/Gestaltung.h"
 #include "window/Malen.h"
@@ -298,7 +298,7 @@ std::vector<std::pair<std::string, std::string>> texteIn(const std::string &quel
 /// können. Meldungen und Hilfe brechen um und wachsen oder rollen.
 std::set<std::string> geschriebene() {
     std::set<std::string> alle;
-    const std::filesystem::path wurzel = std::filesystem::path(__FILE__).parent_path().parent_path().parent_path();
+    const std::filesystem::path wurzel = VELMO_QUELLEN;
     for (const char *raum : {"assistant", "property", "computer", "board", "shell"})
         for (const auto &datei : std::filesystem::directory_iterator(wurzel / raum)) {
             const std::string name = datei.path().stem().string();
