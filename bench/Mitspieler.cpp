@@ -16,7 +16,8 @@ namespace {
 
 constexpr Zeit Würfelzeit = 150; // ms, die der Würfel rollt
 constexpr int Reserve = 1500;    // DM, die er nach einem Kauf behalten will
-constexpr int Unvernunft = 3;    // in so vielen von hundert Fällen kauft er, ohne zu rechnen
+constexpr int Versuch = 10;   // in so vielen von hundert Fällen zieht er einen Eingang auch auf einen vergebenen Platz
+constexpr int Unvernunft = 3; // in so vielen von hundert Fällen kauft er, ohne zu rechnen
 
 bool endetMit(const std::string &text, const std::string &ende) {
     return text.size() >= ende.size() && text.compare(text.size() - ende.size(), ende.size(), ende) == 0;
@@ -76,7 +77,9 @@ void Mitspieler::beginneSpiel() {
 
 bool Mitspieler::handle() {
     if (stoppeWürfel()) return true;
-    if (!ruhig()) return false;
+    // Ein Würfel, der hinter einem Dialog rollt, hält ihn nicht auf.
+    const bool verdeckt = brett(p).Timer1.Enabled && !brett(p).Enabled;
+    if (!ruhig() && !verdeckt) return false;
     return imDialog() || amBrett();
 }
 
@@ -88,7 +91,9 @@ bool Mitspieler::stoppeWürfel() {
     const bool fährt = b.Timer1.Enabled && p.Zustand.Computerphase != 1;
     const bool nächte = offen(formular::Bezahlen) && element<Timer>(formular::Bezahlen, "Timer1").Enabled;
     if (!fährt && !b.Timer2.Enabled && !nächte) return false;
-    if (p.oberfläche.jetzt() < würfeltSeit + Würfelzeit) return false;
+    // Den Bauwürfel, den ein anderer gestartet hat, lässt er wenigstens einmal fallen.
+    if (p.oberfläche.jetzt() < würfeltSeit + Würfelzeit || (b.Timer2.Enabled && p.Zustand.Bauwürfel.leer()))
+        return false;
     return nächte ? klicke(formular::Bezahlen, "würfeln") : klicke(b.WüButton);
 }
 
@@ -185,12 +190,12 @@ bool Mitspieler::wähleEingang() {
     return klicke(formular::eingang, "SSCommand9");
 }
 
-/// Zieht den gelben Eingang auf einen freien Platz.
+/// Zieht den gelben Eingang auf einen freien Platz; manchmal versucht er es erst mit einem vergebenen.
 bool Mitspieler::ziehe() {
     Brett &b = brett(p);
     for (const Eingangsplatz &platz : Eingangsplätze) {
         const Image &ziel = b.Platzbild(platz.Nummer);
-        if (!ziel.Visible || vergeben(p.Zustand, platz.Nummer)) continue;
+        if (!ziel.Visible || (vergeben(p.Zustand, platz.Nummer) && !chance(Versuch))) continue;
         const Punkt von = mitte(b.Imagee), nach = mitte(ziel);
         p.eingabe.bewege(von);
         p.eingabe.drücke(Maustaste::Links, von);
