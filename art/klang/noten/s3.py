@@ -51,7 +51,7 @@ GLOCKE = {"bass": "x..ox..o", "kuhglocke": "o.o.oo.o|o.oo.o.o", "schnarr": "...o
 ABENDS = {"bass": "o.......|o...o...", "conga": "..o.,.,.", "congatief": "......o.|......oo", "cabasa": "o,o,o,o,", "claves": "x..x....|..x.x..."}
 FÜLLUNG = {"bass": "x..xx.xx", "timbalehoch": "x.xxX.xxX.x.....", "timbaletief": "..........xxXxXX", "tomtief": "x.....x.x...x.XX", "hihat": "ox......"}
 FÜLLUNG_2 = {"bass": "x..x..x.", "schnarr": "oox.oox.", "timbalehoch": "...o...x"}
-FÜLLUNG_3 = {"bass": "x..xx.xx", "schnarr": "x.xxxoxxxoxoxXXX", "tomtief": "x...x.x..xxxx.XX", "timbaletief": "....xx..XxXx...."}
+FÜLLUNG_3 = {"bass": "x..xx.x.", "schnarr": "x.xxxxxxxxxxxXxX", "tomtief": "x...x.x..xxxxxxX", "timbaletief": "....xx..XxXx...."}
 
 DURCHBRUCH = {"bass": "x..x..x.|x..xx.xx", "timbalehoch": "..xx.xx.|x.xoX.x.x.......", "timbaletief": "x.......|........xoxxXxXX", "schnarr": "...o..o.|x...x..xx.x.X.XX", "cabasa": "o,x,o,x,"}
 

@@ -47,8 +47,8 @@ KOMP_SATT = "x..x..v.|-..x.x..|..x..x.v|-..x..x."
 BECKEN = {"ride": "x.xox.xo", "fuß": "..x...x.", "bass": "o.,.o.,."}
 LEISE = {"hihat": "o.xoo.xo", "fuß": "..,...,.", "bass": "o...o...", "rand": "......o.|..o....."}
 LAUT = {"ride": "x.xox.xo", "fuß": "..x...x.", "bass": "x.o.x.o.", "schnarr": ".....,..|...o...,|.,....o.|...,.o.."}
-FÜLLUNG = {"ride": "x.xo....", "schnarr": "....xoxX", "tomtief": "..x...xx", "bass": "x...x...", "fuß": "..x...x."}
-FÜLLUNG_2 = {"schnarr": "x.oxx.......", "tomhoch": "......xox...", "tomtief": "x........xXX", "bass": "x..x..x..x..", "fuß": "...x.....x.."}
+FÜLLUNG = {"ride": "x.xo....", "schnarr": "....xxxX", "tomtief": "..x...xo", "bass": "x...x...", "fuß": "..x...x."}
+FÜLLUNG_2 = {"schnarr": "x.oxx.......", "tomhoch": "......xox...", "tomtief": ".........xXX", "bass": "x..x..x..x..", "fuß": "...x.....x.."}
 WIRBEL_1 = {"schnarr": "x.oxo.xo|x.o.....", "tomhoch": "........|...xoxo.", "tomtief": "...x....|.......X", "bass": "x...x..x|x..x..x.", "fuß": "..x...x."}
 WIRBEL_2 = {"schnarr": "xooxooXooxoX|x..x........", "tomhoch": "............|....xoX.....", "tomtief": "...x.....x..|.......xXxXX", "bass": "x.....x.....|x..x.....x..", "becken": "x...........|............"}
 

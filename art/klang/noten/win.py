@@ -62,7 +62,7 @@ def stück():
     # Das Blech schwillt in jeden nächsten Teil hinein.
     for stimme in (trompete, trompete_2, horn, posaune, tuba):
         ruf.schwelle(stimme, (1, 92), (4, 106), (5, 118))
-        marsch.schwelle(stimme, (1, 96), (8, 98), (9, 118))
+        marsch.schwelle(stimme, (1, 94), (8, 96), (9, 122))
         steigerung.schwelle(stimme, (1, 90), (4, 98), (5, 120))
         schluss.schwelle(stimme, (1, 100), (5, 100))
     st.verlangsamen(schluss.bei(2), schluss.bei(4), 104)
