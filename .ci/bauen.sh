@@ -5,8 +5,8 @@ Baupakete="g++ cmake ninja-build qt6-base-dev libsdl2-dev libsdl2-mixer-dev"
 # Was das Spiel erst beim Spielen braucht: Schriften, auch für die Bilder der Prüfung, und den Klangsatz der Musik.
 Schriftpakete="fonts-comic-neue fonts-lato fonts-urw-base35 fonts-dejavu-core"
 Spielpakete="$Schriftpakete timgm6mb-soundfont"
-# Für die Prüfungen am wirklichen Fenster: ein Bildschirm ohne Gerät, und was Vorleseprogramme mit ihm verbindet.
-Fensterpakete="xvfb dbus at-spi2-core gir1.2-atspi-2.0 python3-gi"
+# Für die Prüfungen am wirklichen Fenster: Bildschirm und Ton ohne Gerät, und was Vorleseprogramme mit ihm verbindet.
+Fensterpakete="xvfb dbus at-spi2-core gir1.2-atspi-2.0 python3-gi pulseaudio pulseaudio-utils"
 
 # Die Prüfungen legen viele kleine Dateien an; im Arbeitsspeicher geht das viermal so schnell.
 [ ! -w /dev/shm ] || export TMPDIR=/dev/shm

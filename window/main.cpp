@@ -14,20 +14,31 @@
 
 namespace {
 
-/// Ohne Bildschirm bricht Qt ab, noch bevor es seine Anwendung gibt; seine Zeilen dazu sagen dem Spieler nichts.
+// Qts eigene Zeilen zum Bildschirm sagen dem Spieler nichts.
+QtMessageHandler qtsMelder = nullptr;
+
+/// Fehlt er beim Start, bricht Qt ab, noch ehe seine Anwendung fertig ist.
 void meldeOhneBildschirm(QtMsgType art, const QMessageLogContext &, const QString &) {
     if (art != QtFatalMsg) return;
     std::cerr << "Velmo braucht einen Bildschirm, um sein Fenster zu zeigen.\n";
     std::_Exit(1);
 }
 
+/// Reißt die Verbindung später ab, beendet Qt das Programm gleich nach seiner Warnung.
+void meldeAbriss(QtMsgType art, const QMessageLogContext &ort, const QString &satz) {
+    if (satz.contains("connection broke"))
+        std::cerr << "Velmo hat die Verbindung zum Bildschirm verloren. Bestenliste und Charaktere sind gesichert.\n";
+    else
+        qtsMelder(art, ort, satz);
+}
+
 } // namespace
 
 int main(int argc, char **argv) try {
     velmo::haushalteMitSpeicher();
-    const QtMessageHandler sonst = qInstallMessageHandler(meldeOhneBildschirm);
+    qtsMelder = qInstallMessageHandler(meldeOhneBildschirm);
     QApplication app(argc, argv);
-    qInstallMessageHandler(sonst);
+    qInstallMessageHandler(meldeAbriss);
     QApplication::setApplicationName("velmo");
     QApplication::setApplicationDisplayName("Velmo");
     QApplication::setDesktopFileName("velmo");

@@ -11,9 +11,25 @@ GEBRAUCHT = ["Xvfb", "dbus-run-session"]
 FEHLT = 77  # für CTest: nicht geprüft
 
 
-def beginne():
+class Prüfung:
+    def __init__(self):
+        self.ja = self.nein = 0
+
+    def gilt(self, was, wahr):
+        if wahr:
+            self.ja += 1
+        else:
+            self.nein += 1
+            print("gilt nicht:", was)
+
+    def ende(self):
+        print(f"{self.ja} passed, {self.nein} failed")
+        return 1 if self.nein else 0
+
+
+def beginne(*noch):
     """Startet das Skript in einem eigenen Sitzungsbus neu. Fehlt etwas, endet es ungeprüft; mit CI=true gescheitert."""
-    fehlt = [p for p in GEBRAUCHT if not shutil.which(p)]
+    fehlt = [p for p in GEBRAUCHT + list(noch) if not shutil.which(p)]
     try:
         import gi
         gi.require_version("Atspi", "2.0")
@@ -32,7 +48,7 @@ def beginne():
 class Spiel:
     """Das laufende Programm und sein Baum."""
 
-    def __init__(self, programm):
+    def __init__(self, programm, ton="dummy"):
         from gi.repository import Gio, GLib
         lesen, schreiben = os.pipe()
         self.ordner = tempfile.TemporaryDirectory()
@@ -52,11 +68,27 @@ class Spiel:
         self.ansagen = []  # (Zeit, Text)
         self.hörer = Atspi.EventListener.new(self.höre)
         self.hörer.register("object:state-changed:showing")
-        umgebung = dict(os.environ, QT_QPA_PLATFORM="xcb", SDL_AUDIODRIVER="dummy", HOME=self.ordner.name,
+        umgebung = dict(os.environ, QT_QPA_PLATFORM="xcb", SDL_AUDIODRIVER=ton, HOME=self.ordner.name,
                         XDG_CONFIG_HOME=self.ordner.name, XDG_RUNTIME_DIR=self.ordner.name,
                         LC_ALL="C.UTF-8")
-        self.prozess = subprocess.Popen([programm], env=umgebung)
+        self.tonserver = None if ton == "dummy" else self.beginneTonserver(umgebung)
+        self.prozess = subprocess.Popen([programm], env=umgebung, stderr=subprocess.PIPE, text=True)
         self.app = self.bis(self.anwendung, "das Programm meldet sich")
+
+    @staticmethod
+    def beginneTonserver(umgebung):
+        server = subprocess.Popen(
+            ["pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "-L", "module-null-sink",
+             "-L", "module-native-protocol-unix auth-anonymous=1"], env=umgebung, stderr=subprocess.DEVNULL)
+        while not os.path.exists(umgebung["XDG_RUNTIME_DIR"] + "/pulse/native") and server.poll() is None:
+            time.sleep(0.05)
+        return server
+
+    def töne(self):
+        """Wie viele Ströme der Tonserver gerade spielt."""
+        umgebung = dict(os.environ, HOME=self.ordner.name, XDG_RUNTIME_DIR=self.ordner.name)
+        return subprocess.run(["pactl", "list", "short", "sink-inputs"], env=umgebung, capture_output=True,
+                              text=True).stdout.count("\n")
 
     def höre(self, ereignis, *_):
         try:
@@ -152,6 +184,9 @@ class Spiel:
     def ende(self):
         if self.prozess.poll() is None:
             self.prozess.terminate()
-        self.prozess.wait(10)
+        self.prozess.communicate(timeout=10)
+        if self.tonserver:
+            self.tonserver.kill()
+            self.tonserver.wait(10)
         self.schirm.terminate()
         self.schirm.wait(10)
