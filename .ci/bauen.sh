@@ -5,6 +5,9 @@ Baupakete="g++ cmake ninja-build qt6-base-dev libsdl2-dev libsdl2-mixer-dev"
 # Was das Spiel erst beim Spielen braucht: Schriften, auch für die Bilder der Prüfung, und den Klangsatz der Musik.
 Schriftpakete="fonts-comic-neue fonts-lato fonts-urw-base35 fonts-dejavu-core"
 Spielpakete="$Schriftpakete timgm6mb-soundfont"
+# Für die Seite im Browser: der Übersetzer, und was Bilder, Töne, Film und Schriften für sie umwandelt.
+Browserpakete="emscripten node-acorn cmake ninja-build webp ffmpeg opus-tools fluidsynth timgm6mb-soundfont
+    python3-fonttools python3-brotli"
 # Für die Prüfungen am wirklichen Fenster: Bildschirm und Ton ohne Gerät, und was Vorleseprogramme mit ihm verbindet.
 Fensterpakete="xvfb dbus at-spi2-core gir1.2-atspi-2.0 python3-gi pulseaudio pulseaudio-utils"
 
