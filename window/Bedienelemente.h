@@ -1,6 +1,6 @@
 #pragma once
 // Textfelder, Listen und Rollbalken sind die des Systems; sie folgen dem Modell und melden, was der Spieler tut.
-#include "platform/Control.h"
+#include "surface/Bearbeiter.h"
 #include "window/Maß.h"
 
 #include <QWidget>
@@ -10,9 +10,6 @@
 namespace velmo {
 
 class Programm;
-
-/// Führt eine Behandlung aus, die den Zustand des Spiels ändern darf.
-using Bearbeiter = std::function<void(const Handler &)>;
 
 struct Bedienelement {
     QWidget *widget = nullptr;

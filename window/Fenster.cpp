@@ -36,6 +36,25 @@ QSize anfangsgröße(const QSize &bildschirm) {
     return Entwurf.scaled(Entwurf.boundedTo(bildschirm), Qt::KeepAspectRatio);
 }
 
+constexpr std::pair<int, Taste> Tastennamen[] = {
+    {Qt::Key_Left, Taste::Links},    {Qt::Key_Right, Taste::Rechts}, {Qt::Key_Up, Taste::Auf},
+    {Qt::Key_Down, Taste::Ab},       {Qt::Key_Tab, Taste::Tab},      {Qt::Key_Backtab, Taste::Tab},
+    {Qt::Key_Escape, Taste::Escape}, {Qt::Key_Space, Taste::Leer},   {Qt::Key_Return, Taste::Eingabe},
+    {Qt::Key_Enter, Taste::Eingabe},
+};
+
+Tastendruck tastendruck(const QKeyEvent &e) {
+    const auto name = std::ranges::find(Tastennamen, e.key(), &std::pair<int, Taste>::first);
+    Tastendruck t;
+    if (name != std::end(Tastennamen)) t.taste = name->second;
+    if (e.key() < 0x80) t.zeichen = static_cast<char>(e.key()); // Qt nennt sie nach ihrem Zeichen
+    t.text = e.text().toStdString();
+    t.umschalt = e.key() == Qt::Key_Backtab || e.modifiers() & Qt::ShiftModifier;
+    t.alsBefehl = e.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    t.wiederholt = e.isAutoRepeat();
+    return t;
+}
+
 } // namespace
 
 /// Das Bild, das der Spieler zieht, unter dem Zeiger.
@@ -270,12 +289,12 @@ void Fenster::changeEvent(QEvent *e) {
 void Fenster::keyPressEvent(QKeyEvent *e) {
     if (blatt->isVisible())
         blatt->hide();
-    else if (!tasten.drücke(*e))
+    else if (!tasten.drücke(tastendruck(*e)))
         QWidget::keyPressEvent(e);
 }
 
 void Fenster::keyReleaseEvent(QKeyEvent *e) {
-    if (!tasten.löse(*e)) QWidget::keyReleaseEvent(e);
+    if (!tasten.löse(tastendruck(*e))) QWidget::keyReleaseEvent(e);
 }
 
 void Fenster::mouseMoveEvent(QMouseEvent *e) {

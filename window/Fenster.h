@@ -2,9 +2,9 @@
 // Das Fenster des Programms: darin die Anzeige von 800 mal 600 Bildpunkten des Entwurfs, auf das Fenster gestreckt, mit
 // einer Fläche je geladener Form.
 #include "platform/Eingabe.h"
+#include "surface/Tasten.h"
 #include "window/Fokusring.h"
 #include "window/Formfläche.h"
-#include "window/Tasten.h"
 #include "window/Tastenblatt.h"
 #include "window/Zettel.h"
 

@@ -1,11 +1,12 @@
 #include "window/Formfläche.h"
 
 #include "include/Programm.h"
+#include "surface/Malplatz.h"
+#include "surface/Tasten.h"
 #include "window/Farbtöne.h"
 #include "window/Knopf.h"
 #include "window/Malen.h"
 #include "window/Schrift.h"
-#include "window/Tasten.h"
 #include "window/Umriss.h"
 
 #include <QDateTime>
@@ -67,16 +68,10 @@ Rechteck Formfläche::beruhigt(const void *was, const Rechteck &ist) {
     return b.gezeigt;
 }
 
-/// Ringsum der Schatten; eine Form mit Bild, der nur ein Streifen zur ganzen Anzeige fehlt, füllt ihn mit.
+/// Der Saum in Bildpunkten.
 QMargins Formfläche::saumVon(const Form &form) const {
-    const Bildschirm schirm = u.p.Screen();
-    const double links = form.Left, oben = form.Top, rechts = schirm.Width - form.Left - form.Width,
-                 unten = schirm.Height - form.Top - form.Height;
-    const double streifen = schirm.Width / 40;
-    if (form.region() || std::max({links, oben, rechts, unten}) <= 0) return {};
-    if (std::max({links, oben, rechts, unten}) <= streifen && !form.Picture().leer())
-        return {maß.punkt(std::max(links, 0.0)), maß.punkt(std::max(oben, 0.0)), maß.punkt(std::max(rechts, 0.0)),
-                maß.punkt(std::max(unten, 0.0))};
+    const Saum s = velmo::saum(form);
+    if (!s.Schatten) return {maß.punkt(s.links), maß.punkt(s.oben), maß.punkt(s.rechts), maß.punkt(s.unten)};
     const int schatten = static_cast<int>(std::ceil(maß.strich(10) / maß.dichte) * maß.dichte);
     return {schatten, schatten, schatten, schatten};
 }
@@ -85,7 +80,7 @@ void Formfläche::folgePlatz(const Form &form) {
     größe = maß.rechteck({0, 0, form.Width, form.Height}).size();
     umriss = form.region() ? umrissVon(*form.region(), u.p.Screen().TwipsPerPixelX * maß.jeTwip) : QPainterPath();
     saum = saumVon(form);
-    wirftSchatten = saum.left() > 0 && saum.left() == saum.right();
+    wirftSchatten = velmo::saum(form).Schatten;
     const Rechteck platz = beruhigt(this, {form.Left, form.Top, 0, 0});
     const QPoint ecke(maß.punkt(platz.Left), maß.punkt(platz.Top));
     setGeometry(maß.fensterrechteck(QRect(ecke, größe).marginsAdded(saum)));
@@ -110,18 +105,6 @@ void Formfläche::folgeListe(const Form &form, const VisualControl *gezogen) {
         if (i < alt.size() && i < liste.size() && alt[i] == liste[i]) continue;
         if (i < alt.size() && alt[i].sichtbar) erneuere(malbereich(alt[i], maß));
         if (i < liste.size() && liste[i].sichtbar) erneuere(malbereich(liste[i], maß));
-    }
-}
-
-/// Während der Spieler zieht, scheinen die Ziele durch das, was vor ihnen steht.
-void Formfläche::blendeVerdeckendes(Zeichenliste &alle, const VisualControl *gezogen) const {
-    for (auto vorn = alle.begin(); vorn != alle.end(); ++vorn) {
-        if (vorn->sorte != Sorte::Bild || vorn->ablage || vorn->control == gezogen) continue;
-        const QRect bereich = malbereich(*vorn, maß);
-        vorn->blass = std::any_of(alle.begin(), vorn, [&](const Stück &ziel) {
-            return ziel.ablage && ziel.sichtbar && ziel.sorte == Sorte::Bild &&
-                   malbereich(ziel, maß).intersects(bereich);
-        });
     }
 }
 

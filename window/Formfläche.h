@@ -75,7 +75,6 @@ class Formfläche : public QWidget {
     void folgeListe(const Form &, const VisualControl *gezogen);
     void folgeZeichnung(const Form &);
     void folgeBedienelemente(const Form &);
-    void blendeVerdeckendes(Zeichenliste &, const VisualControl *gezogen) const;
     void erneuere(const QRect &punkte);
     QRect ortVon(const Stück &) const;
     QPoint ursprung() const { return {saum.left(), saum.top()}; }

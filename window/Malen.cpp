@@ -1,5 +1,6 @@
 #include "window/Malen.h"
 
+#include "surface/Malplatz.h"
 #include "window/Farbtöne.h"
 #include "window/Schrift.h"
 
@@ -105,19 +106,13 @@ QRect knopfschrift(const Stück &s, const Maß &m, const QRect &knopf) {
     return r;
 }
 
-QRect malort(const Stück &s, const Maß &m) {
-    if (s.sorte != Sorte::Bild || s.wächst || s.natürlicheBreite <= 0) return m.rechteck(s.ort());
-    return m.rechteck({s.Left, s.Top, s.natürlicheBreite, s.natürlicheHöhe});
-}
+QRect malort(const Stück &s, const Maß &m) { return m.rechteck(malplatz(s)); }
 
-QSize bildgröße(const Stück &s, const Maß &m) {
-    if (!s.wächst) return malort(s, m).size();
-    return m.rechteck({s.Left, s.Top, s.natürlicheBreite, s.natürlicheHöhe}).size();
-}
+QSize bildgröße(const Stück &s, const Maß &m) { return m.rechteck(bildplatz(s)).size(); }
 
 QRect malbereich(const Stück &s, const Maß &m) {
     QRect bereich = malort(s, m).normalized();
-    if (s.wächst) bereich |= m.rechteck({s.Left, s.Top, s.natürlicheBreite, s.natürlicheHöhe});
+    if (s.wächst) bereich |= m.rechteck(bildplatz(s));
     const int rand = s.sorte == Sorte::Linie ? static_cast<int>(m.strich(s.rand)) + 1 : 1;
     return bereich.adjusted(-rand, -rand, rand, rand);
 }

@@ -20,8 +20,6 @@ namespace velmo {
 
 namespace {
 
-constexpr Zeit Bildzeit = 16; // ms; ein Zeitgeber tickt nicht rascher, als die Anzeige zeigt
-
 using Dauer = std::chrono::duration<double, std::milli>;
 
 /// Solange sie lebt, ruhen Zeitgeber und Eingaben.
@@ -163,33 +161,23 @@ void QtOberfläche::gibAb(Rast rast) {
     if (!umgebung->p.Fälliges() && !tat) std::this_thread::sleep_for(Dauer(0.9));
 }
 
-/// Reiht den Schritt an die vorigen; falsch, wenn er mit dem nächsten zusammen gezeigt wird.
-bool QtOberfläche::beginneSchritt(double ms, double &beginn) {
-    constexpr double NeueReihe = 250;
-    const double nun = static_cast<double>(uhr.nsecsElapsed()) / 1e6;
-    beginn = nun - schrittzeit > NeueReihe ? nun : schrittzeit;
-    schrittzeit = beginn + ms;
-    if (schrittzeit < nun || schrittzeit - letztesBild < Bildzeit) return false;
-    letztesBild = schrittzeit;
-    return true;
-}
+double QtOberfläche::nun() const { return static_cast<double>(uhr.nsecsElapsed()) / 1e6; }
 
 void QtOberfläche::zeigeBild() { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }
 
 void QtOberfläche::zeigeSchritt(const Form &, double ms) {
-    double beginn;
-    if (fenster->ruhig() || !beginneSchritt(ms, beginn)) return;
+    if (fenster->ruhig() || !schritte.beginne(nun(), ms)) return;
     const Halt halt(hält);
     fenster->folge();
     zeigeBild();
-    const double rest = schrittzeit - static_cast<double>(uhr.nsecsElapsed()) / 1e6;
+    const double rest = schritte.ende() - nun();
     if (rest > 0) std::this_thread::sleep_for(Dauer(rest));
 }
 
 void QtOberfläche::zeigeSchritt(const Control &c, double ms) {
     Formfläche *fläche = fenster->fläche(c.form);
-    double beginn;
-    if (!fläche || !beginneSchritt(ms, beginn)) return;
+    const auto beginn = fläche ? schritte.beginne(nun(), ms) : std::nullopt;
+    if (!beginn) return;
     const Halt halt(hält);
     const Stück *vorher = fläche->stück(c);
     const QPointF alt = vorher ? QPointF(vorher->Left, vorher->Top) : QPointF();
@@ -200,12 +188,12 @@ void QtOberfläche::zeigeSchritt(const Control &c, double ms) {
     // Ein kleiner Hüpfer von Feld zu Feld.
     const double sprung = std::min(90.0, std::hypot(weg.x(), weg.y()) / 4);
     for (;;) {
-        const double nun = static_cast<double>(uhr.nsecsElapsed()) / 1e6;
-        const double anteil = std::clamp((nun - beginn) / ms, 0.0, 1.0), rest = 1 - anteil;
+        const double jetzt = nun();
+        const double anteil = std::clamp((jetzt - *beginn) / ms, 0.0, 1.0), rest = 1 - anteil;
         fläche->versetze(c, weg.x() * rest, weg.y() * rest - 4 * sprung * anteil * rest);
         zeigeBild();
         if (anteil >= 1) return;
-        const double dann = std::min(nun + Bildzeit, schrittzeit) - static_cast<double>(uhr.nsecsElapsed()) / 1e6;
+        const double dann = std::min(jetzt + Bildzeit, schritte.ende()) - nun();
         if (dann > 0) std::this_thread::sleep_for(Dauer(dann));
     }
 }

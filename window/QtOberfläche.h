@@ -1,6 +1,7 @@
 #pragma once
 // Die Oberfläche für den Spieler: die Schleife von Qt, das Fenster, Fragen, Ton und Film.
 #include "platform/Oberfläche.h"
+#include "surface/Schrittfolge.h"
 #include "window/Film.h"
 #include "window/Formfläche.h"
 #include "window/Gedächtnis.h"
@@ -56,7 +57,7 @@ class QtOberfläche : public Oberfläche {
     void richteLautstärkeEin();
     void stelleLautstärke(int um);
     void merkeFenster();
-    bool beginneSchritt(double ms, double &beginn);
+    double nun() const;
     void zeigeBild();
     int endstand();
 
@@ -74,8 +75,7 @@ class QtOberfläche : public Oberfläche {
     bool sollSchließen = false;  // der Spieler hat währenddessen das Fenster geschlossen
     bool tat = false;            // seit dem letzten Abgeben lief eine Behandlung
     std::exception_ptr ausnahme; // was das Programm beendet
-    double schrittzeit = -1e9;   // bis wann die gezeigten Schritte dauern, in ms
-    double letztesBild = -1e9;   // in derselben Zeit
+    Schrittfolge schritte;
 };
 
 } // namespace velmo

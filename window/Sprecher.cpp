@@ -1,9 +1,9 @@
 #include "window/Sprecher.h"
 
+#include "surface/Tastentafel.h"
 #include "window/Fenster.h"
 #include "window/Knopf.h"
 #include "window/Schrift.h"
-#include "window/Tastentafel.h"
 
 #include <QAccessibleWidget>
 #include <QComboBox>

@@ -1,9 +1,9 @@
 #include "window/Tastenblatt.h"
 
+#include "surface/Tastentafel.h"
 #include "window/Farbtöne.h"
 #include "window/Malen.h"
 #include "window/Schrift.h"
-#include "window/Tastentafel.h"
 
 #include <QPainter>
 

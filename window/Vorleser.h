@@ -1,7 +1,7 @@
 #pragma once
 // Was Vorleseprogramme vom Spiel erfahren: die Formen und das Benannte auf ihnen als Baum, und jede Änderung daran
 // einmal. Was sie auslösen, geht durch die Eingabe wie ein Klick.
-#include "window/Benennung.h"
+#include "surface/Benennung.h"
 
 #include <QAccessible>
 #include <QObject>

@@ -1,5 +1,5 @@
 // Wie Bilder einem Vorleseprogramm heißen: nach den Tafeln des Spiels; Zierde gar nicht.
-#include "window/Benennung.h"
+#include "surface/Benennung.h"
 #include "include/Formulare.h"
 
 #include "bench/Programmordner.h"

@@ -1,8 +1,8 @@
-#include "window/Fokus.h"
+#include "surface/Fokus.h"
 
 #include "include/Programm.h"
 #include "model/Eingangstafel.h"
-#include "window/Tastentafel.h"
+#include "surface/Tastentafel.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "window/Benennung.h"
+#include "surface/Benennung.h"
 
 #include "boardform/Brett.h"
 #include "include/Formulare.h"

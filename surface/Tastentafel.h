@@ -3,8 +3,6 @@
 // ein Steuerelement drücken.
 #include "include/Formulare.h"
 
-#include <QKeySequence>
-
 #include <array>
 
 namespace velmo {
@@ -38,23 +36,23 @@ inline constexpr std::array<Formtasten, 16> Formtastentafel = {{
 
 /// Eine Taste auf dem Brett (Form1); Control heißt, was sie drückt.
 struct Brettaste {
-    Qt::Key Taste;
+    char Taste;
     const char *Name, *Control, *Wirkung;
 };
 
 inline constexpr std::array<Brettaste, 12> Brettastentafel = {{
-    {Qt::Key_W, "W", "WüButton",   "würfeln, Würfel anhalten"},
-    {Qt::Key_F, "F", "Fertig",     "Zug beenden"},
-    {Qt::Key_K, "K", "Command2",   "Besitzkarten"},
-    {Qt::Key_1, "1", "g50",        "einen Fünfziger zahlen"},
-    {Qt::Key_2, "2", "g100",       "einen Hunderter zahlen"},
-    {Qt::Key_3, "3", "g500",       "einen Fünfhunderter zahlen"},
-    {Qt::Key_4, "4", "g1000",      "einen Tausender zahlen"},
-    {Qt::Key_5, "5", "g5000",      "einen Fünftausender zahlen"},
-    {Qt::Key_E, "E", "Command1",   "Eingänge kaufen"},
-    {Qt::Key_S, "S", "Imagee",     "Eingang aufheben und setzen"},
-    {Qt::Key_T, "T", "SSCommand2", "Geld umtauschen"},
-    {Qt::Key_H, "H", "SSCommand3", "Hilfe"},
+    {'W', "W", "WüButton",   "würfeln, Würfel anhalten"},
+    {'F', "F", "Fertig",     "Zug beenden"},
+    {'K', "K", "Command2",   "Besitzkarten"},
+    {'1', "1", "g50",        "einen Fünfziger zahlen"},
+    {'2', "2", "g100",       "einen Hunderter zahlen"},
+    {'3', "3", "g500",       "einen Fünfhunderter zahlen"},
+    {'4', "4", "g1000",      "einen Tausender zahlen"},
+    {'5', "5", "g5000",      "einen Fünftausender zahlen"},
+    {'E', "E", "Command1",   "Eingänge kaufen"},
+    {'S', "S", "Imagee",     "Eingang aufheben und setzen"},
+    {'T', "T", "SSCommand2", "Geld umtauschen"},
+    {'H', "H", "SSCommand3", "Hilfe"},
 }};
 
 /// Die Tasten, die überall gelten; "|" trennt gleichbedeutende.

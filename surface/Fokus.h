@@ -2,7 +2,7 @@
 // Der Tastaturfokus: welches Steuerelement der vordersten Form die Tasten meint, und wie sie es drücken. Gedrückt wird
 // durch dieselbe Eingabe wie mit der Maus: was verdeckt oder gesperrt ist, lässt sich nicht drücken.
 #include "platform/Eingabe.h"
-#include "window/Bedienelemente.h"
+#include "surface/Bearbeiter.h"
 
 #include <functional>
 #include <map>

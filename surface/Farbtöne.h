@@ -1,0 +1,14 @@
+#pragma once
+// Die Farben, die eine Oberfläche zu denen der Formulare beisteuert: Papier, Holz, Messing.
+#include "platform/Farbe.h"
+
+namespace velmo::farbe {
+
+inline constexpr Farbe Tisch{0x3B2A1C};       // rings um die Anzeige
+inline constexpr Farbe Papierlicht{0xFFFBF2}; // Felder zum Schreiben
+inline constexpr Farbe Holzschatten{0x5C4024};
+inline constexpr Farbe Messing{0xE2B03A}; // Betonung, Tastaturfokus
+inline constexpr Farbe Tinte{0x2E2114};
+inline constexpr Farbe Blass{0x8E8270}; // Schrift auf Gesperrtem
+
+} // namespace velmo::farbe
