@@ -4,7 +4,6 @@
 
 namespace velmo::farbe {
 
-inline constexpr Farbe Tisch{0x3B2A1C};       // rings um die Anzeige
 inline constexpr Farbe Papierlicht{0xFFFBF2}; // Felder zum Schreiben
 inline constexpr Farbe Holzschatten{0x5C4024};
 inline constexpr Farbe Messing{0xE2B03A}; // Betonung, Tastaturfokus

@@ -8,8 +8,8 @@ namespace velmo::farbton {
 
 inline QColor aus(Farbe f) { return QColor::fromRgb(f.rgb | 0xFF000000u); }
 
-inline const QColor Papier = aus(farbe::Papier), Holz = aus(farbe::Holz), Tisch = aus(farbe::Tisch),
-                    Papierlicht = aus(farbe::Papierlicht), Holzschatten = aus(farbe::Holzschatten),
-                    Messing = aus(farbe::Messing), Tinte = aus(farbe::Tinte), Blass = aus(farbe::Blass);
+inline const QColor Papier = aus(farbe::Papier), Holz = aus(farbe::Holz), Papierlicht = aus(farbe::Papierlicht),
+                    Holzschatten = aus(farbe::Holzschatten), Messing = aus(farbe::Messing), Tinte = aus(farbe::Tinte),
+                    Blass = aus(farbe::Blass);
 
 } // namespace velmo::farbton

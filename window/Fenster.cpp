@@ -3,6 +3,7 @@
 #include "include/Programm.h"
 #include "window/Farbtöne.h"
 #include "window/Gestaltung.h"
+#include "window/Rand.h"
 #include "window/Schrift.h"
 #include "window/Vorleser.h"
 
@@ -154,6 +155,7 @@ void Fenster::folge() {
     }
     if (std::ranges::any_of(flächen, [](const auto &eintrag) { return eintrag.second->wartet(); })) stillstand.start();
     folgeReihenfolge(formen);
+    folgeUmland();
     folgeGezogenem();
     tastenfokus.folge();
     folgeRing();
@@ -262,9 +264,28 @@ Punkt Fenster::ort(const QMouseEvent &e) const {
     return {p.x(), p.y()};
 }
 
-void Fenster::paintEvent(QPaintEvent *e) {
+void Fenster::paintEvent(QPaintEvent *) {
     QPainter p(this);
-    p.fillRect(e->rect(), farbton::Tisch);
+    p.setRenderHint(QPainter::SmoothPixmapTransform);
+    const auto punkte = [&](const QRect &r) {
+        return QRectF(r.x() * maß.dichte, r.y() * maß.dichte, r.width() * maß.dichte, r.height() * maß.dichte)
+            .toAlignedRect();
+    };
+    const auto [szene, ton] = umland(u.p);
+    const bool füllt = szene && 2 * szene->Width > u.p.Screen().Width;
+    const QPixmap bild =
+        füllt ? u.bilder.bild(szene->Picture().Datei, maß.rechteck({0, 0, szene->Width, szene->Height}).size())
+              : QPixmap();
+    p.scale(1 / maß.dichte, 1 / maß.dichte);
+    maleRand(p, punkte(rect()), punkte(anzeige.geometry()), bild, farbton::aus(ton));
+}
+
+/// Das Fenster rings um die Anzeige gehört zu der Szene darin.
+void Fenster::folgeUmland() {
+    const Umland neu = umland(u.p);
+    if (neu == umgebend) return;
+    umgebend = neu;
+    update();
 }
 
 void Fenster::resizeEvent(QResizeEvent *) {

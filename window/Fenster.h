@@ -2,6 +2,7 @@
 // Das Fenster des Programms: darin die Anzeige von 800 mal 600 Bildpunkten des Entwurfs, auf das Fenster gestreckt, mit
 // einer Fläche je geladener Form.
 #include "platform/Eingabe.h"
+#include "shell/Umland.h"
 #include "surface/Tasten.h"
 #include "window/Fokusring.h"
 #include "window/Formfläche.h"
@@ -59,6 +60,7 @@ class Fenster : public QWidget {
     void räumeAuf();
     void wechsleVollbild();
     void folgeReihenfolge(const std::vector<Form *> &);
+    void folgeUmland();
     void folgeFokus();
     void folgeRing();
     void nimmFokus();
@@ -73,6 +75,7 @@ class Fenster : public QWidget {
     Maß maß;
     std::map<std::uint64_t, Formfläche *> flächen; // nach der Nummer der Form
     std::vector<std::uint64_t> reihenfolge;
+    Umland umgebend;
     class Ziehbild;
     Ziehbild *ziehbild;
     Fokus tastenfokus;
