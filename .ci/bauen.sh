@@ -8,6 +8,8 @@ Spielpakete="$Schriftpakete timgm6mb-soundfont"
 # Für die Seite im Browser: der Übersetzer, und was Bilder, Töne, Film und Schriften für sie umwandelt.
 Browserpakete="emscripten node-acorn cmake ninja-build webp ffmpeg opus-tools fluidsynth timgm6mb-soundfont
     python3-fonttools python3-brotli"
+# Worin die Seite geprüft wird; WebKitGTK braucht einen Bildschirm.
+Browserprobe="chromium chromium-driver firefox-esr webkit2gtk-driver xvfb xauth python3-numpy python3-pil"
 # Für die Prüfungen am wirklichen Fenster: Bildschirm und Ton ohne Gerät, und was Vorleseprogramme mit ihm verbindet.
 Fensterpakete="xvfb dbus at-spi2-core gir1.2-atspi-2.0 python3-gi pulseaudio pulseaudio-utils"
 

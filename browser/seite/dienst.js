@@ -1,0 +1,73 @@
+// Der Dienst hinter der Seite: gibt sie aus dem Vorrat des Browsers, auch ohne Netz. FASSUNG setzt der Bau davor: name,
+// kern (Datei -> SHA-256, alles, ohne das nichts geht) und dinge (Bilder, Töne, Film; ihr Name trägt ihren Abdruck).
+const KERNVORRAT = "velmo-kern-" + FASSUNG.name;
+const DINGVORRAT = "velmo-dinge"; // gilt über Fassungen hinweg: was gleich blieb, wird nicht noch einmal geholt
+const DINGE = new Set(FASSUNG.dinge);
+const wurzel = new URL("./", self.location).href;
+
+async function prüfsumme(bytes) {
+  const summe = await crypto.subtle.digest("SHA-256", bytes);
+  return [...new Uint8Array(summe)].map((b) => b.toString(16).padStart(2, "0")).join("");
+}
+
+/// Eine Fassung ist ganz da oder gar nicht: stimmt eine Datei nicht, weil der Server gerade gewechselt wird, gilt die alte.
+async function holeKern() {
+  const vorrat = await caches.open(KERNVORRAT);
+  await Promise.all(Object.entries(FASSUNG.kern).map(async ([datei, soll]) => {
+    const antwort = await fetch(wurzel + datei, { cache: "no-cache" });
+    const bytes = await antwort.arrayBuffer();
+    if (!antwort.ok || (await prüfsumme(bytes)) !== soll) throw new Error(datei + " gehört nicht zu dieser Fassung");
+    const art = antwort.headers.get("Content-Type");
+    await vorrat.put(wurzel + datei, new Response(bytes, { headers: { "Content-Type": art } }));
+  }));
+}
+
+/// Löst eine Fassung die andere ab, soll sie auch ohne Netz ganz sein: was die alte an Dingen hatte, braucht die neue.
+async function holeNeueDinge() {
+  const vorrat = await caches.open(DINGVORRAT);
+  if ((await vorrat.keys()).length === 0) return;
+  for (const datei of DINGE)
+    if (!(await vorrat.match(wurzel + datei, { ignoreVary: true }))) await vorrat.add(wurzel + datei);
+}
+
+async function räumeAuf() {
+  for (const name of await caches.keys())
+    if (name.startsWith("velmo-kern-") && name !== KERNVORRAT) await caches.delete(name);
+  const vorrat = await caches.open(DINGVORRAT);
+  for (const anfrage of await vorrat.keys())
+    if (!DINGE.has(anfrage.url.slice(wurzel.length))) await vorrat.delete(anfrage);
+}
+
+async function antworte(anfrage) {
+  const ort = new URL(anfrage.url);
+  let datei = (ort.origin + ort.pathname).slice(wurzel.length);
+  if (anfrage.mode === "navigate" && datei === "") datei = "index.html";
+  try {
+    const wahl = { ignoreVary: true };
+    const da = await caches.match(wurzel + datei, { ...wahl, cacheName: DINGE.has(datei) ? DINGVORRAT : KERNVORRAT });
+    if (da) return da;
+  } catch {} // der Browser verweigert den Vorrat: dann eben vom Netz
+  const antwort = await fetch(anfrage);
+  if (antwort.status === 200 && DINGE.has(datei)) {
+    // Ist kein Platz mehr, spielt es sich weiter, nur nicht ohne Netz.
+    const kopie = antwort.clone();
+    await caches.open(DINGVORRAT).then((vorrat) => vorrat.put(wurzel + datei, kopie)).catch(() => {});
+  }
+  return antwort;
+}
+
+self.addEventListener("install", (e) => e.waitUntil(holeKern().then(holeNeueDinge).catch(async (fehler) => {
+  if (!self.registration.active) await caches.delete(KERNVORRAT);
+  throw fehler;
+})));
+self.addEventListener("activate", (e) => e.waitUntil(räumeAuf().then(() => self.clients.claim())));
+self.addEventListener("fetch", (e) => {
+  if (e.request.method === "GET" && e.request.url.startsWith(wurzel)) e.respondWith(antworte(e.request));
+});
+/// Die Seite beginnt gerade und ist die einzige: jetzt wechselt die Fassung.
+self.addEventListener("message", (e) => {
+  if (e.data !== "wechsle") return;
+  e.waitUntil(self.clients.matchAll({ includeUncontrolled: true }).then((seiten) => {
+    if (seiten.length <= 1) return self.skipWaiting();
+  }));
+});
