@@ -18,7 +18,8 @@ template <class R, class F, class P = identity> constexpr auto find_if(R &&r, F 
                         [&](auto &&x) -> bool { return std::invoke(frage, std::invoke(blick, x)); });
 }
 template <class R, class T, class P = identity> constexpr auto find(R &&r, const T &wert, P blick = {}) {
-    return ranges::find_if(r, [&](auto &&x) { return x == wert; }, blick);
+    return ranges::find_if(
+        r, [&](auto &&x) { return x == wert; }, blick);
 }
 template <class R, class F, class P = identity> constexpr bool any_of(R &&r, F frage, P blick = {}) {
     return ranges::find_if(r, frage, blick) != std::end(r);
@@ -34,7 +35,8 @@ template <class R, class F, class P = identity> constexpr auto count_if(R &&r, F
                          [&](auto &&x) -> bool { return std::invoke(frage, std::invoke(blick, x)); });
 }
 template <class R, class T, class P = identity> constexpr auto count(R &&r, const T &wert, P blick = {}) {
-    return ranges::count_if(r, [&](auto &&x) { return x == wert; }, blick);
+    return ranges::count_if(
+        r, [&](auto &&x) { return x == wert; }, blick);
 }
 template <class R, class F> constexpr void for_each(R &&r, F tut) { std::for_each(std::begin(r), std::end(r), tut); }
 template <class R, class F = std::less<>, class P = identity> constexpr void sort(R &&r, F vor = {}, P blick = {}) {

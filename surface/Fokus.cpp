@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <ranges>
 #include <utility>
 
 namespace velmo {
@@ -57,14 +56,18 @@ Platz platz(const VisualControl &c) {
 /// Zeilen von oben nach unten, in jeder von links nach rechts. In eine Zeile gehört, was über der Mitte ihres Ersten
 /// beginnt.
 void ordne(std::vector<VisualControl *> &alle) {
-    std::ranges::stable_sort(alle, {}, [](const VisualControl *c) { return platz(*c).oben; });
+    const auto höher = [](const VisualControl *a, const VisualControl *b) { return platz(*a).oben < platz(*b).oben; };
+    const auto weiterLinks = [](const VisualControl *a, const VisualControl *b) {
+        return platz(*a).links < platz(*b).links;
+    };
+    std::stable_sort(alle.begin(), alle.end(), höher);
     for (auto zeile = alle.begin(); zeile != alle.end();) {
         const VisualControl *erster = *zeile;
         const auto ende =
             std::stable_partition(zeile, alle.end(), [erster, mitte = platz(*erster).mitteY()](const VisualControl *c) {
                 return c == erster || platz(*c).oben < mitte;
             });
-        std::ranges::stable_sort(zeile, ende, {}, [](const VisualControl *c) { return platz(*c).links; });
+        std::stable_sort(zeile, ende, weiterLinks);
         zeile = ende;
     }
 }
@@ -113,11 +116,10 @@ Form *Fokus::form() const {
                    return dynamic_cast<const CommandButton *>(c) && erreichbar(*c);
                });
     };
-    for (Form *f : formen | std::views::reverse)
-        if (fragt(f)) return f;
-    for (Form *f : formen | std::views::reverse)
-        if (f->Visible() && f->Enabled() && !f->region()) return f;
-    return nullptr;
+    const auto spielt = [](const Form *f) { return f->Visible() && f->Enabled() && !f->region(); };
+    if (const auto f = std::find_if(formen.rbegin(), formen.rend(), fragt); f != formen.rend()) return *f;
+    const auto f = std::find_if(formen.rbegin(), formen.rend(), spielt);
+    return f == formen.rend() ? nullptr : *f;
 }
 
 /// Alle Stellen in Lesefolge, auch die gerade nicht zu erreichen sind.
@@ -231,7 +233,8 @@ bool Fokus::nachbar(Richtung r) {
     const auto weite = [&, hier = platz(*von)](const VisualControl *c) {
         return c == von ? std::numeric_limits<double>::infinity() : abstand(hier, platz(*c), r);
     };
-    const auto nächster = std::ranges::min_element(alle, {}, weite);
+    const auto nächster =
+        std::min_element(alle.begin(), alle.end(), [&](const auto *a, const auto *b) { return weite(a) < weite(b); });
     if (nächster == alle.end() || std::isinf(weite(*nächster))) {
         meldeWechsel();
         return false;
@@ -254,9 +257,11 @@ bool Fokus::druckAn(VisualControl &c) {
     if (!p.eingabe.gezogen()) return true;
     ablage = nullptr;
     const auto ziele = reihe();
-    const auto nah = std::ranges::min_element(ziele, {}, [&](const VisualControl *z) {
+    const auto weite = [&von](const VisualControl *z) {
         return std::hypot(platz(*z).mitteX() - von.mitteX(), platz(*z).mitteY() - von.mitteY());
-    });
+    };
+    const auto nah =
+        std::min_element(ziele.begin(), ziele.end(), [&](const auto *a, const auto *b) { return weite(a) < weite(b); });
     if (nah != ziele.end()) merke(**nah);
     return true;
 }

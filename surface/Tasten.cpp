@@ -4,7 +4,6 @@
 #include "surface/Tastentafel.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace velmo {
 
@@ -22,8 +21,8 @@ Tasten::Tasten(Programm &p, Fokus &fokus, Bearbeiter bearbeite) : p(p), fokus(fo
 /// Die vorderste Form kann jede Taste selbst nehmen, die etwas schreibt.
 bool Tasten::geheAnForm(const Tastendruck &e) {
     const auto formen = p.Formen();
-    const auto vorn = std::ranges::find_if(formen | std::views::reverse, [](const Form *f) { return f->Visible(); });
-    if (vorn == std::ranges::rend(formen) || !(*vorn)->KeyPress || e.text.empty()) return false;
+    const auto vorn = std::find_if(formen.rbegin(), formen.rend(), [](const Form *f) { return f->Visible(); });
+    if (vorn == formen.rend() || !(*vorn)->KeyPress || e.text.empty()) return false;
     bearbeite([&] { p.eingabe.taste(**vorn, e.text); });
     return true;
 }
