@@ -24,30 +24,27 @@ def rufe(*worte):
 
 @dataclasses.dataclass(frozen=True, eq=False)
 class Auftrag:
-    """Eine Datei der Seite und der Befehl, der sie macht; QUELLE und ZIEL stehen für die Orte."""
+    """Eine Quelle und die Befehle, die aus ihr Dateien der Seite machen. QUELLE und ZWISCHEN stehen für Orte, jede Endung
+    des Ziels ("*.webp") für ihr Ergebnis."""
     quelle: pathlib.Path
-    befehle: tuple  # nacheinander; ZWISCHEN ist ein Ort dazwischen
+    befehle: tuple
     ordner: str
     schlüssel: str
-    art: str  # unter welchem Wort das Verzeichnis sie nennt
-    endung: str
+    ziele: dict  # unter welchem Wort das Verzeichnis sie nennt -> Endung
     angaben: dict = dataclasses.field(default_factory=dict)
 
-    @property
-    def name(self):
-        return self.schlüssel + ("" if self.art != "halb" else "-halb")
-
     def ergebnis(self, vorrat):
+        """Wort -> Bytes."""
         herkunft = repr(self.befehle).encode() + self.quelle.read_bytes()
-        return vorrat.hole(herkunft, self.endung, self.führe_aus)
+        return dict(zip(self.ziele, vorrat.hole(herkunft, tuple(self.ziele.values()), self.führe_aus)))
 
     def führe_aus(self):
         with tempfile.TemporaryDirectory() as ordner:
-            ziel = pathlib.Path(ordner) / ("ziel" + self.endung)
-            orte = {"QUELLE": self.quelle, "ZIEL": ziel, "ZWISCHEN": pathlib.Path(ordner) / "zwischen.wav"}
+            orte = {"QUELLE": self.quelle, "ZWISCHEN": pathlib.Path(ordner) / "zwischen.wav"}
+            orte |= {"*" + endung: pathlib.Path(ordner) / ("ziel" + endung) for endung in self.ziele.values()}
             for befehl in self.befehle:
                 rufe(*(orte.get(wort, wort) for wort in befehl))
-            return ziel.read_bytes()
+            return [orte["*" + endung].read_bytes() for endung in self.ziele.values()]
 
 
 def bildgröße(datei):
@@ -67,12 +64,12 @@ def bilder(quellen):
     for datei in sorted(wurzel.rglob("*.*")):
         breite, höhe = png_größe(datei) if datei.suffix == ".png" else bildgröße(datei)
         schlüssel = datei.relative_to(wurzel).with_suffix("").as_posix().lower()
-        schritte = [("bild", 86, ())]
+        angaben = {"b": breite, "h": höhe}
+        gemeinsam = ("cwebp", "-quiet", "-m", 5, "-alpha_q", 95, "-sharp_yuv", "QUELLE", "-o", "*.webp")
+        yield Auftrag(datei, ((*gemeinsam, "-q", 86),), "bilder", schlüssel, {"bild": ".webp"}, angaben)
         if breite >= GROSS:
-            schritte.append(("halb", 84, ("-resize", breite // 2, höhe // 2)))
-        for art, güte, maß in schritte:
-            befehl = ("cwebp", "-quiet", "-m", 5, "-q", güte, "-alpha_q", 95, "-sharp_yuv", *maß, "QUELLE", "-o", "ZIEL")
-            yield Auftrag(datei, (befehl,), "bilder", schlüssel, art, ".webp", {"b": breite, "h": höhe})
+            halb = (*gemeinsam, "-q", 84, "-resize", breite // 2, höhe // 2)
+            yield Auftrag(datei, (halb,), "bilder", schlüssel, {"halb": ".webp"}, angaben)
 
 
 def dauer(datei):
@@ -83,31 +80,36 @@ def dauer(datei):
 def töne(quellen):
     """Wellen und Stücke als Opus, und für Safari als AAC."""
     for datei in sorted((quellen / "sound").iterdir()):
-        if datei.suffix == ".mid":
-            vorher = (("fluidsynth", "-q", "-n", "-i", "-g", MUSIKSTÄRKE, "-r", 48000, "-F", "ZWISCHEN", KLANGSATZ,
-                       "QUELLE"),)
-            ton, rate = "ZWISCHEN", 80
-        else:
-            vorher, ton, rate = (), "QUELLE", 96
-        schlüssel = datei.stem.lower()
-        angaben = {} if vorher else {"ms": dauer(datei)}
-        yield Auftrag(datei, (*vorher, ("opusenc", "--quiet", "--bitrate", rate, ton, "ZIEL")), "ton", schlüssel, "opus",
-                      ".opus", angaben)
-        yield Auftrag(datei, (*vorher, ("ffmpeg", "-v", "error", "-i", ton, "-c:a", "aac", "-b:a", f"{rate + 32}k",
-                                        "-movflags", "+faststart", "ZIEL")), "ton", schlüssel, "m4a", ".m4a")
+        stück = datei.suffix == ".mid"
+        ton, rate = ("ZWISCHEN", 80) if stück else ("QUELLE", 96)
+        befehle = (("opusenc", "--quiet", "--bitrate", rate, ton, "*.opus"),
+                   ("ffmpeg", "-v", "error", "-i", ton, "-c:a", "aac", "-b:a", f"{rate + 32}k", "-movflags", "+faststart",
+                    "*.m4a"))
+        if stück:
+            befehle = (("fluidsynth", "-q", "-n", "-i", "-g", MUSIKSTÄRKE, "-r", 48000, "-F", "ZWISCHEN", KLANGSATZ,
+                        "QUELLE"), *befehle)
+        yield Auftrag(datei, befehle, "ton", datei.stem.lower(), {"opus": ".opus", "m4a": ".m4a"},
+                      {} if stück else {"ms": dauer(datei)})
+
+
+def opusdauer(daten):
+    """ms; die letzte Seite der Datei zählt die Abtastungen, 48 je ms, mit dem Vorlauf, den der Kopf nennt."""
+    ende = int.from_bytes(daten[(letzte := daten.rindex(b"OggS")) + 6:letzte + 14], "little")
+    vorlauf = int.from_bytes(daten[(kopf := daten.index(b"OpusHead")) + 10:kopf + 12], "little")
+    return round((ende - vorlauf) / 48)
 
 
 def film(quellen):
     """Der Film als VP9, und für Safari als H.264; dessen Zeilen müssen gerade sein."""
     datei = quellen / "ani.hvi"
     breite, höhe = bildgröße(datei)
-    gerade = f"scale={breite + breite % 2}:{höhe + höhe % 2}"
-    gemeinsam = ("ffmpeg", "-v", "error", "-i", "QUELLE", "-an", "-vf", gerade, "-pix_fmt", "yuv420p")
-    angaben = {"ms": filmdauer(datei), "b": breite, "h": höhe}
-    yield Auftrag(datei, ((*gemeinsam, "-c:v", "libvpx-vp9", "-b:v", 0, "-crf", 51, "-deadline", "good", "-cpu-used", 3,
-                           "-row-mt", 1, "-tile-columns", 1, "-g", 250, "ZIEL"),), "film", "ani", "webm", ".webm", angaben)
-    yield Auftrag(datei, ((*gemeinsam, "-c:v", "libx264", "-crf", 31, "-preset", "medium", "-movflags", "+faststart",
-                           "ZIEL"),), "film", "ani", "mp4", ".mp4")
+    gemeinsam = ("ffmpeg", "-v", "error", "-i", "QUELLE", "-an", "-vf",
+                 f"scale={breite + breite % 2}:{höhe + höhe % 2}", "-pix_fmt", "yuv420p")
+    befehle = ((*gemeinsam, "-c:v", "libvpx-vp9", "-b:v", 0, "-crf", 51, "-deadline", "good", "-cpu-used", 3, "-row-mt", 1,
+                "-tile-columns", 1, "-g", 250, "*.webm"),
+               (*gemeinsam, "-c:v", "libx264", "-crf", 31, "-preset", "medium", "-movflags", "+faststart", "*.mp4"))
+    yield Auftrag(datei, befehle, "film", "ani", {"webm": ".webm", "mp4": ".mp4"},
+                  {"ms": filmdauer(datei), "b": breite, "h": höhe})
 
 
 def filmdauer(datei):

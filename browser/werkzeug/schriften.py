@@ -43,7 +43,7 @@ def lege(seite, vorrat):
     regeln = []
     for familie, gewicht, name in SCHNITTE:
         datei = ORDNER / name
-        daten = vorrat.hole(weg + datei.read_bytes(), ".woff2", lambda: gekürzt(datei))
+        [daten] = vorrat.hole(weg + datei.read_bytes(), (".woff2",), lambda: [gekürzt(datei)])
         url = seite.lege_mit_abdruck("schrift", datei.stem, ".woff2", daten)
         regeln.append(f'@font-face{{font-family:"{familie}";font-weight:{gewicht};font-display:block;'
                       f'src:url("../{url}") format("woff2")}}')
