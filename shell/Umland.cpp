@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <ranges>
 #include <string_view>
 
 namespace velmo {
@@ -31,10 +30,10 @@ constexpr Zeile Szenen[] = {
 
 Umland umland(const Programm &p) {
     const std::vector<Form *> formen = p.Formen();
-    for (const Form *form : formen | std::views::reverse) {
+    for (auto form = formen.rbegin(); form != formen.rend(); ++form) {
         const auto *zeile = std::ranges::find_if(
-            Szenen, [&](const Zeile &z) { return form->Visible && std::string_view(z.Form.Text) == form->Name; });
-        if (zeile != std::end(Szenen)) return {form, zeile->Ton};
+            Szenen, [&](const Zeile &z) { return (*form)->Visible && std::string_view(z.Form.Text) == (*form)->Name; });
+        if (zeile != std::end(Szenen)) return {*form, zeile->Ton};
     }
     return {};
 }
