@@ -66,9 +66,9 @@ def bilder(quellen):
         schlüssel = datei.relative_to(wurzel).with_suffix("").as_posix().lower()
         angaben = {"b": breite, "h": höhe}
         gemeinsam = ("cwebp", "-quiet", "-m", 5, "-alpha_q", 95, "-sharp_yuv", "QUELLE", "-o", "*.webp")
-        yield Auftrag(datei, ((*gemeinsam, "-q", 86),), "bilder", schlüssel, {"bild": ".webp"}, angaben)
+        yield Auftrag(datei, ((*gemeinsam, "-q", 80),), "bilder", schlüssel, {"bild": ".webp"}, angaben)
         if breite >= GROSS:
-            halb = (*gemeinsam, "-q", 84, "-resize", breite // 2, höhe // 2)
+            halb = (*gemeinsam, "-q", 82, "-resize", breite // 2, höhe // 2)
             yield Auftrag(datei, (halb,), "bilder", schlüssel, {"halb": ".webp"}, angaben)
 
 
@@ -81,10 +81,10 @@ def töne(quellen):
     """Wellen und Stücke als Opus, und für Safari als AAC."""
     for datei in sorted((quellen / "sound").iterdir()):
         stück = datei.suffix == ".mid"
-        ton, rate = ("ZWISCHEN", 80) if stück else ("QUELLE", 96)
+        ton, rate = ("ZWISCHEN", 56) if stück else ("QUELLE", 96)
         befehle = (("opusenc", "--quiet", "--bitrate", rate, ton, "*.opus"),
-                   ("ffmpeg", "-v", "error", "-i", ton, "-c:a", "aac", "-b:a", f"{rate + 32}k", "-movflags", "+faststart",
-                    "*.m4a"))
+                   ("ffmpeg", "-v", "error", "-i", ton, "-c:a", "aac", "-b:a", f"{rate + 8}k", "-ar", 32000, "-movflags",
+                    "+faststart", "*.m4a"))
         if stück:
             befehle = (("fluidsynth", "-q", "-n", "-i", "-g", MUSIKSTÄRKE, "-r", 48000, "-F", "ZWISCHEN", KLANGSATZ,
                         "QUELLE"), *befehle)
@@ -126,7 +126,7 @@ def mitgeliefertes(quellen):
 
 def großes_zeichen(quellen):
     """Für den Startbildschirm eines Telefons."""
-    with tempfile.TemporaryDirectory() as zwischen:
-        ziel = pathlib.Path(zwischen) / "zeichen.png"
-        rufe("ffmpeg", "-v", "error", "-i", quellen / "paket/zeichen/256.png", "-vf", "scale=512:512:flags=lanczos", ziel)
+    with tempfile.TemporaryDirectory() as ordner:
+        ziel = pathlib.Path(ordner) / "zeichen.webp"
+        rufe("cwebp", "-quiet", "-q", 90, "-resize", 512, 512, quellen / "paket/zeichen/256.png", "-o", ziel)
         return ziel.read_bytes()

@@ -26,6 +26,7 @@ def gekürzt(datei):
     wahl = subset.Options()
     wahl.flavor = "woff2"
     wahl.layout_features = ["kern", "mark", "ccmp", "liga"]
+    wahl.drop_tables += ["FFTM"]
     wahl.hinting = False  # Browser glätten selbst; die Anweisungen wögen ein Drittel
     wahl.name_IDs = [0, 1, 2, 13, 14]  # Urheber und Lizenz bleiben dabei
     kürzer = subset.Subsetter(wahl)

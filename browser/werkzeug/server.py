@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Ein kleiner Server zum Ausprobieren der Seite: server ORDNER [PORT]. Jeder andere, der Dateien ausliefert, geht auch."""
+"""Ein kleiner Server zum Ausprobieren der Seite: server.py ORDNER [PORT]. Jeder andere, der Dateien ausliefert, geht auch."""
 import functools
 import http.server
 import os
