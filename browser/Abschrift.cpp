@@ -1,5 +1,6 @@
 #include "browser/Abschrift.h"
 
+#include "shell/Umland.h"
 #include "surface/Malplatz.h"
 #include "surface/Tasten.h"
 
@@ -43,9 +44,21 @@ void Abschrift::folge() {
         folgeForm(*f, formen[f->Nummer]);
         neu.push_back(f->Nummer);
     }
-    if (neu == reihenfolge) return;
-    reihenfolge = std::move(neu);
-    bündel.nimm("formfolge", {{"formen", json(reihenfolge)}});
+    if (neu != reihenfolge) {
+        reihenfolge = std::move(neu);
+        bündel.nimm("formfolge", {{"formen", json(reihenfolge)}});
+    }
+    folgeUmland();
+}
+
+/// Was rings um die Anzeige ist.
+void Abschrift::folgeUmland() {
+    const auto [szene, ton] = umland(p);
+    const bool füllt = szene && 2 * szene->Width > p.Screen().Width;
+    Merkmale neu{{"ton", json(ton)}, {"bild", bildort(p, füllt ? szene->Picture().Datei : "")}};
+    if (neu == umgebung) return;
+    umgebung = std::move(neu);
+    bündel.nimm("umland", umgebung);
 }
 
 void Abschrift::folgeForm(const Form &f, Seitenform &seite) {

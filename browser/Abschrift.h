@@ -36,12 +36,14 @@ class Abschrift {
         std::vector<int> reihenfolge;
     };
     void folgeForm(const Form &, Seitenform &);
+    void folgeUmland();
     void folgeStück(const Form &, Seitenform &, const Stück &);
 
     Programm &p;
     Bündel &bündel;
     std::map<std::uint64_t, Seitenform> formen; // nach der Nummer der Form
     std::vector<std::uint64_t> reihenfolge;
+    Merkmale umgebung; // wie zuletzt gemeldet
 };
 
 } // namespace velmo

@@ -4,6 +4,7 @@
 #include "include/Programm.h"
 #include "platform/Dateien.h"
 #include "shell/Formtafel.h"
+#include "surface/Tastentafel.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,6 +14,14 @@
 namespace velmo {
 
 namespace {
+
+/// Die Tasten einer Tafel: je Name und Wirkung.
+template <class Tafel> std::string tastenliste(const Tafel &tafel) {
+    std::string text = "[";
+    for (const auto &t : tafel)
+        text += (text.size() > 1 ? ",[" : "[") + json(t.Name) + "," + json(t.Wirkung) + "]";
+    return text + "]";
+}
 
 std::optional<Angaben> nächstesEreignis() {
     char *text = seite_ereignis();
@@ -30,6 +39,7 @@ int Browseroberfläche::laufe(Programm &programm, const Handler &beginn) {
     p = &programm;
     abschrift = std::make_unique<Abschrift>(*p, bündel);
     ereignisse = std::make_unique<Ereignisse>(*p, *abschrift, bündel, [this](const Handler &h) { bearbeite(h); });
+    bündel.nimm("tasten", {{"überall", tastenliste(Fenstertastentafel)}, {"brett", tastenliste(Brettastentafel)}});
     int endstand = 0;
     try {
         while (nimmEreignis()) // womit die Seite beginnt: Dauern, Wünsche

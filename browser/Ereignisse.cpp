@@ -171,8 +171,7 @@ void Ereignisse::folge() {
     neu = {{"wie", json("default")}};
     if (t.control && t.control->Click) neu["wie"] = json("pointer");
     if (t.control && t.control->DragMode) neu["wie"] = json("grab");
-    if (t.control && !t.control->MouseIcon().leer())
-        neu["bild"] = json(t.control->MouseIcon().Datei.substr(p.Ordner.size() + sizeof "/bilder"));
+    if (t.control && !t.control->MouseIcon().leer()) neu["bild"] = bildort(p, t.control->MouseIcon().Datei);
     if (bild) neu = {{"wie", json("grabbing")}};
     melde("zeiger", zeiger, std::move(neu));
 }

@@ -14,10 +14,6 @@ constexpr const char *Rollennamen[] = {"", "Text", "Ansage", "Bild", "Gruppe", "
 
 template <class E> constexpr std::size_t stelle(E e) { return static_cast<std::size_t>(e); }
 
-std::string bildort(const Programm &p, const std::string &datei) {
-    return datei.empty() ? "null" : json(datei.substr(p.Ordner.size() + sizeof "/bilder"));
-}
-
 /// Ein Teil einer Region als Pfad; alle laufen in derselben Richtung um, damit sie sich vereinigen.
 struct AlsPfad {
     std::string operator()(const Ellipse &e) const {
@@ -135,25 +131,27 @@ void nimmEigenes(Merkmale &m, const Programm &p, const Stück &s) {
 
 } // namespace
 
+std::string bildort(const Programm &p, const std::string &datei) {
+    return datei.empty() ? "null" : json(datei.substr(p.Ordner.size() + sizeof "/bilder"));
+}
+
 Merkmale merkmale(const Programm &p, const Form &form) {
     const Saum s = saum(form);
     const Formbenennung name = benenne(form);
-    Merkmale m{{"ort", json(Rechteck{form.Left, form.Top, form.Width, form.Height})},
-               {"sichtbar", json(form.Visible())},
-               {"gesperrt", json(!form.Enabled())},
-               {"farbe", json(form.BackColor())},
-               {"bild", bildort(p, form.Picture().Datei)},
-               {"schatten", json(s.Schatten)},
-               {"saum", json(std::vector<double>{s.links, s.oben, s.rechts, s.unten})},
-               {"heißt", json(name.Name)},
-               {"dialog", json(name.istDialog)}};
+    Merkmale m{
+        {"name", json(form.Name)},          {"ort", json(Rechteck{form.Left, form.Top, form.Width, form.Height})},
+        {"sichtbar", json(form.Visible())}, {"gesperrt", json(!form.Enabled())},
+        {"farbe", json(form.BackColor())},  {"bild", bildort(p, form.Picture().Datei)},
+        {"schatten", json(s.Schatten)},     {"saum", json(std::vector<double>{s.links, s.oben, s.rechts, s.unten})},
+        {"heißt", json(name.Name)},         {"dialog", json(name.istDialog)}};
     if (form.region()) m["umriss"] = json(pfad(*form.region()));
     if (form.Zeichnung()) m["zeichnung"] = zeichnung(form);
     return m;
 }
 
 Merkmale merkmale(const Programm &p, const Stück &s, const Benennung &b) {
-    Merkmale m{{"sorte", json(Sortennamen[stelle(s.sorte)])},
+    Merkmale m{{"name", json(s.control->Name)},
+               {"sorte", json(Sortennamen[stelle(s.sorte)])},
                {"ort", json(malplatz(s))},
                {"sichtbar", json(s.sichtbar)},
                {"gesperrt", json(s.gesperrt)},

@@ -7,6 +7,8 @@
 
 namespace velmo {
 
+/// Eine Datei im Ordner der Bilder; null ohne eine.
+std::string bildort(const Programm &, const std::string &datei);
 Merkmale merkmale(const Programm &, const Form &);
 /// Ein Stück der Zeichenliste und wie es heißt.
 Merkmale merkmale(const Programm &, const Stück &, const Benennung &);

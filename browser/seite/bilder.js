@@ -1,0 +1,44 @@
+// Die Bilder: welches zu einem Namen gehört, und ihr Wechsel ohne Flackern.
+import { bilder } from "./verzeichnis.js";
+import { bildurl } from "./vorrat.js";
+
+const geladene = new Map(); // Adresse -> Image, das da ist
+
+const eintrag = (bild) => bilder[bild.toLowerCase().replace(/\.[^./]*$/, "")];
+
+/// Die Größe in Punkten der Vorlage: vier sind ein Bildpunkt des Entwurfs.
+export const größe = (bild) => eintrag(bild) ?? { b: 0, h: 0 };
+
+/// Verspricht das geladene Bild, so fein wie die Breite in Bildpunkten des Bildschirms es braucht.
+export function lade(bild, punkte) {
+  const wo = eintrag(bild);
+  if (!wo) return Promise.reject(new Error(`kein Bild ${bild}`));
+  const url = bildurl(wo, punkte);
+  if (!geladene.has(url)) {
+    const neues = new Image();
+    neues.src = url;
+    geladene.set(url, neues.decode().then(() => neues, (fehler) => {
+      geladene.delete(url);
+      throw fehler;
+    }));
+  }
+  return geladene.get(url);
+}
+
+/// Zeigt im Element das Bild, sobald es da ist; bis dahin bleibt das vorige.
+export function zeige(img, bild, punkte) {
+  const wo = bild && eintrag(bild);
+  const url = wo ? bildurl(wo, punkte) : "";
+  if (img.dataset.soll === url) return;
+  img.dataset.soll = url;
+  if (!url) {
+    img.removeAttribute("src");
+    img.hidden = true;
+    return;
+  }
+  lade(bild, punkte).then(() => {
+    if (img.dataset.soll !== url) return;
+    img.src = url;
+    img.hidden = false;
+  }, () => {});
+}
