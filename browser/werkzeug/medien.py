@@ -81,7 +81,7 @@ def töne(quellen):
     """Wellen und Stücke als Opus, und für Safari als AAC."""
     for datei in sorted((quellen / "sound").iterdir()):
         stück = datei.suffix == ".mid"
-        ton, rate = ("ZWISCHEN", 56) if stück else ("QUELLE", 96)
+        ton, rate = ("ZWISCHEN", 48) if stück else ("QUELLE", 96)
         befehle = (("opusenc", "--quiet", "--bitrate", rate, ton, "*.opus"),
                    ("ffmpeg", "-v", "error", "-i", ton, "-c:a", "aac", "-b:a", f"{rate + 8}k", "-ar", 32000, "-movflags",
                     "+faststart", "*.m4a"))

@@ -17,6 +17,7 @@ class Auskunft(http.server.SimpleHTTPRequestHandler):
 
     def translate_path(self, path):
         """Nimmt die gepackte Datei, wo es sie gibt und der Browser sie versteht."""
+        self.gepackt = False
         ort = super().translate_path(path)
         if os.path.isdir(ort) and os.path.exists(os.path.join(ort, "index.html")):
             ort = os.path.join(ort, "index.html")
@@ -38,9 +39,18 @@ class Auskunft(http.server.SimpleHTTPRequestHandler):
         pass
 
 
+class Server(http.server.ThreadingHTTPServer):
+    """Der Server auf diesem Rechner; Anschluss 0 nimmt einen freien."""
+
+    def __init__(self, ordner, anschluss, auskunft=Auskunft):
+        super().__init__(("127.0.0.1", anschluss), functools.partial(auskunft, directory=ordner))
+
+    def handle_error(self, *_):
+        """Ein Browser, der mittendrin auflegt, ist kein Fehler."""
+
+
 def main():
-    ordner, port = sys.argv[1], int(sys.argv[2]) if len(sys.argv) > 2 else 8000
-    with http.server.ThreadingHTTPServer(("127.0.0.1", port), functools.partial(Auskunft, directory=ordner)) as server:
+    with Server(sys.argv[1], int(sys.argv[2]) if len(sys.argv) > 2 else 8000) as server:
         print(f"http://localhost:{server.server_port}/   Strg+C beendet.", flush=True)
         server.serve_forever()
 
