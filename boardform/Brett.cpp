@@ -36,6 +36,7 @@ Notenstapel::Notenstapel(Form &form, int note, const char *feld, const char *kno
     : Note(note), g(form, feld, r), p(g, bild, Feldmaß), k(g, knopf, {0, 0, 972, 252}) {
     g.Enabled = false;
     p.Visible = false;
+    p.gebaren = Gebaren::Fliegt;
 }
 
 Brett::Brett(Programm &p) : Form(p, Formname, {0, 0, 9600, 7200}, "Velmo") {
@@ -43,8 +44,11 @@ Brett::Brett(Programm &p) : Form(p, Formname, {0, 0, 9600, 7200}, "Velmo") {
         plätze.emplace_back(Picture1, platz.Control, platz.Ort).Visible = false;
     for (const Auto &a : Autotafel)
         autos.emplace_back(Picture1, a.Control, a.Ort);
-    for (const Stufe &s : Stufen)
-        gebäude.emplace_back(Picture1, s.Bild, s.Ort).Visible = false;
+    for (const Stufe &s : Stufen) {
+        Image &bild = gebäude.emplace_back(Picture1, s.Bild, s.Ort);
+        bild.Visible = false;
+        bild.Schattenort = Schattenort(s.Ort);
+    }
     // Was weiter vorn steht, verdeckt, was dahinter steht.
     std::vector<Image *> nachTiefe;
     for (Image &bild : gebäude)
@@ -59,6 +63,7 @@ Brett::Brett(Programm &p) : Form(p, Formname, {0, 0, 9600, 7200}, "Velmo") {
     Info.Visible = false;
     for (const Stapelzeile &z : Stapeltafel)
         Stapel.emplace_back(*this, z.Note, z.g, z.k, z.p, Rechteck{z.Left, z.Top, Feldmaß.Width, Feldmaß.Height});
+    Picture7.gebaren = Picture8.gebaren = Gebaren::Purzelt;
     Fertig.Enabled = false;
     Pfeil.Visible = false;
 }

@@ -18,9 +18,9 @@ template <class C> bool gibBild(Programm &p, const Form &form, Control &c) {
     return mitBild;
 }
 
-/// Der eigene Mauszeiger liegt neben dem Bild seines Elements.
-Picture zeiger(Programm &p, const Form &form, const Control &c) {
-    const std::string name = std::string(form.Name) + "/" + c.Name + "Zeiger";
+/// Der eigene Mauszeiger und der Schatten liegen neben dem Bild ihres Elements.
+Picture beiwerk(Programm &p, const Form &form, const Control &c, const char *was) {
+    const std::string name = std::string(form.Name) + "/" + c.Name + was;
     return bild(p, "formen/" + name, name);
 }
 
@@ -37,8 +37,10 @@ void Entwurfsbilder(Programm &p, Form &form) {
     form.Icon = bild(p, "formen/velmo", "velmo");
     for (Control *c : form.Controls())
         gibBild<Image>(p, form, *c) || gibBild<PictureBox>(p, form, *c) || gibBild<SSCommand>(p, form, *c);
-    for (Control *c : form.Controls())
-        if (auto *sichtbar = dynamic_cast<VisualControl *>(c)) sichtbar->MouseIcon = zeiger(p, form, *c);
+    for (Control *c : form.Controls()) {
+        if (auto *sichtbar = dynamic_cast<VisualControl *>(c)) sichtbar->MouseIcon = beiwerk(p, form, *c, "Zeiger");
+        if (auto *image = dynamic_cast<Image *>(c)) image->Schatten = beiwerk(p, form, *c, "Schatten");
+    }
 }
 
 } // namespace velmo

@@ -1,6 +1,7 @@
 #pragma once
 // Die Bilder des Programms aus dem Ordner bilder/: bilder/TYP/ID.png oder .jpg, und die Bilder des Entwurfs unter
-// bilder/formen/FORM/STEUERELEMENT, ihre Mauszeiger unter STEUERELEMENTZeiger. Die Schreibung groß oder klein spielt
+// bilder/formen/FORM/STEUERELEMENT, ihre Mauszeiger unter STEUERELEMENTZeiger,
+// ihre Schatten unter STEUERELEMENTSchatten. Die Schreibung groß oder klein spielt
 // keine Rolle; was fehlt, ist ein leeres Bild.
 #include "include/Programm.h"
 

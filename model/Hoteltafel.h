@@ -24,6 +24,19 @@ struct Stufe {
     Rechteck Ort;
 };
 
+/// Das Brettbild, in Twips.
+inline constexpr Rechteck Brettbild{0, 0, 8892, 5124};
+
+/// Worauf der Schatten einer Stufe fällt: die Sonne steht links vorn, also rechts neben sie, desto weiter, je höher sie
+/// ist; am Rand des Brettes hört er auf.
+constexpr Rechteck Schattenort(const Rechteck &stufe) {
+    constexpr double Saum = 72, Länge = 0.6;
+    const double links = std::max(0.0, stufe.Left - Saum), oben = std::max(0.0, stufe.Top - Saum);
+    const double rechts = std::min(Brettbild.Width, stufe.Left + stufe.Width + Saum + Länge * stufe.Height);
+    const double unten = std::min(Brettbild.Height, stufe.Top + stufe.Height + Saum);
+    return {links, oben, rechts - links, unten - oben};
+}
+
 // clang-format off
 inline constexpr auto Hotels = [] {
     using H = Hotelkürzel;

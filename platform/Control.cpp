@@ -85,12 +85,27 @@ void SSCommand::zähleAuf(const Namensempfänger &e) {
     e("Font3D", zugang(Font3D));
 }
 
-Image::Image(Behälter wo, const char *Name, Rechteck r)
-    : VisualControl(wo, Name, r), entwurfBreite(r.Width), entwurfHöhe(r.Height) {}
+Image::Image(Behälter wo, const char *Name, Rechteck r) : VisualControl(wo, Name, r), entwurf(r) {}
 
 // Bilder haben eine feste Zahl von Bildpunkten; der Entwurf hat 12 Twips je Bildpunkt.
-double Image::natürlicheBreite() const { return entwurfBreite * form.laufzeit.Screen().TwipsPerPixelX / 12; }
-double Image::natürlicheHöhe() const { return entwurfHöhe * form.laufzeit.Screen().TwipsPerPixelY / 12; }
+double Image::natürlicheBreite() const { return entwurf.Width * form.laufzeit.Screen().TwipsPerPixelX / 12; }
+double Image::natürlicheHöhe() const { return entwurf.Height * form.laufzeit.Screen().TwipsPerPixelY / 12; }
+
+// Hinten und vorn bleibt er am Fuß des Bildes, zur Seite hin und nach hinten so lang, wie es hoch ist.
+Rechteck Image::Schattenwurf() const {
+    const double breit = natürlicheBreite() / entwurf.Width, hoch = natürlicheHöhe() / entwurf.Height;
+    const double anteil = std::clamp(Height / natürlicheHöhe(), 0.0, 1.0);
+    const Rechteck &s = Schattenort, &e = entwurf;
+    const double links = (s.Left - e.Left) * breit, rechts = (s.Left + s.Width - e.Left - e.Width) * breit;
+    const double vorn = (s.Top + s.Height - e.Top - e.Height) * hoch, tief = s.Height * hoch * anteil;
+    const double fuß = Top + (Wächst ? natürlicheHöhe() : Height());
+    return {Left + links, fuß + vorn - tief, natürlicheBreite() - links + rechts * anteil, tief};
+}
+
+double Image::Drehung() const {
+    constexpr double JeHöhe = -18; // Grad auf einem Weg, so lang wie es hoch ist
+    return gebaren == Gebaren::Fliegt ? JeHöhe * (entwurf.Top - Top) / entwurf.Height : 0;
+}
 
 void Image::geändert() {
     Control::geändert();

@@ -46,6 +46,14 @@ using Bewegungshandler = std::function<void(double X, double Y)>;
 enum class Ziehzustand { Betreten, Verlassen, Darüber };
 
 /// Ein Steuerelement mit Platz auf der Form.
+/// Was eine Oberfläche aus der Bewegung eines Elements machen darf; an seinen Werten ändert es nichts.
+enum class Gebaren {
+    Keins,
+    Purzelt, // ein Würfel: wechselt sein Bild, so rollt er darauf
+    Fliegt,  // ein Blatt: je weiter von seinem Ort, desto mehr dreht es sich
+    Schwebt, // über dem, was hinter ihm liegt: es wirft einen Schatten ringsum
+};
+
 class VisualControl : public Control {
   public:
     VisualControl(Behälter, const char *Name, Rechteck);
@@ -58,6 +66,7 @@ class VisualControl : public Control {
     Eigenschaft<bool> DragMode{*this, false};
     /// Der eigene Mauszeiger, seine Spitze in der Mitte; leer: der übliche.
     Eigenschaft<velmo::Picture> MouseIcon{*this, {}};
+    Gebaren gebaren = Gebaren::Keins;
 
     Handler Click, DblClick;
     Maushandler MouseDown, MouseUp;
@@ -137,15 +146,22 @@ class Image : public VisualControl {
     Eigenschaft<bool> Stretch{*this, false};
     /// Ein Bild, das in die Höhe wächst, steigt aus dem Boden seiner vollen Höhe.
     Eigenschaft<bool> Wächst{*this, false};
+    /// Was es auf den Grund seines Bildfelds wirft, und wohin, wo der Entwurf das Bild hinstellt.
+    Eigenschaft<velmo::Picture> Schatten{*this, {}};
+    Rechteck Schattenort{0, 0, 0, 0};
 
     bool Fenster() const override { return false; }
     void geändert() override;
     void zähleAuf(const Namensempfänger &) override;
     double natürlicheBreite() const;
     double natürlicheHöhe() const;
+    /// Wo der Schatten jetzt liegt, im Bildfeld: er wächst mit dem Bild und wird mit ihm flach.
+    Rechteck Schattenwurf() const;
+    /// Wie weit sich ein fliegendes Bild gedreht hat, in Grad im Uhrzeigersinn.
+    double Drehung() const;
 
   private:
-    const double entwurfBreite, entwurfHöhe;
+    const Rechteck entwurf;
     bool gestreckt = false;
 };
 

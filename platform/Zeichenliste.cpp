@@ -31,6 +31,7 @@ Stück stück(const Image &i) {
     s.bild = i.Picture().Datei;
     s.rand = i.BorderStyle() == Rand::Einfach;
     s.wächst = i.Wächst;
+    s.drehung = i.Drehung();
     if (!i.Stretch || i.Wächst) {
         s.natürlicheBreite = i.natürlicheBreite();
         s.natürlicheHöhe = i.natürlicheHöhe();
@@ -79,6 +80,27 @@ Stück stück(const VisualControl &c) {
     return s;
 }
 
+/// Schatten liegen auf dem Grund des Bildfelds, unter allem, was darauf steht.
+void nimmSchatten(Zeichenliste &liste, const Stück &feld, const std::vector<VisualControl *> &kinder) {
+    for (const VisualControl *c : kinder) {
+        const auto *i = dynamic_cast<const Image *>(c);
+        if (!i || i->Schatten().leer()) continue;
+        const Rechteck ort = i->Schattenwurf();
+        Stück s;
+        s.control = i;
+        s.sorte = Sorte::Schatten;
+        s.bild = i->Schatten().Datei;
+        s.Left = feld.Left + ort.Left;
+        s.Top = feld.Top + ort.Top;
+        s.Width = ort.Width;
+        s.Height = ort.Height;
+        s.natürlicheBreite = i->Schattenort.Width;
+        s.natürlicheHöhe = i->Schattenort.Height;
+        s.sichtbar = feld.sichtbar && i->Visible;
+        liste.push_back(s);
+    }
+}
+
 void nimmKinder(Zeichenliste &liste, const std::vector<VisualControl *> &kinder, double x, double y, bool sichtbar) {
     for (const bool fenster : {false, true})
         for (const VisualControl *c : kinder) {
@@ -93,9 +115,12 @@ void nimmKinder(Zeichenliste &liste, const std::vector<VisualControl *> &kinder,
             s.gesperrt = !c->Enabled;
             s.ablage = c->DragDrop && c->Enabled;
             s.hinweis = c->ToolTipText;
+            s.gebaren = c->gebaren;
             liste.push_back(s);
-            if (const auto *feld = dynamic_cast<const PictureBox *>(c))
+            if (const auto *feld = dynamic_cast<const PictureBox *>(c)) {
+                nimmSchatten(liste, s, feld->Kinder);
                 nimmKinder(liste, feld->Kinder, s.Left, s.Top, s.sichtbar);
+            }
         }
 }
 

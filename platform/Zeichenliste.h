@@ -9,10 +9,10 @@
 
 namespace velmo {
 
-enum class Sorte { Beschriftung, Bild, Bildfeld, Rahmen, Linie, Film, Knopf, Bedienelement };
+enum class Sorte { Schatten, Beschriftung, Bild, Bildfeld, Rahmen, Linie, Film, Knopf, Bedienelement };
 
 struct Stück {
-    const Control *control = nullptr; // nur zum Wiedererkennen
+    const Control *control = nullptr; // nur zum Wiedererkennen; beim Schatten, was ihn wirft
     Sorte sorte = Sorte::Bild;
     double Left = 0, Top = 0, Width = 0, Height = 0; // auf der Form; bei Linien von Punkt zu Punkt
     bool sichtbar = true, gesperrt = false;
@@ -28,6 +28,8 @@ struct Stück {
     std::string bild;
     double natürlicheBreite = 0, natürlicheHöhe = 0; // 0: das Bild füllt das Rechteck
     bool wächst = false;
+    double drehung = 0; // Grad im Uhrzeigersinn um seine Mitte
+    Gebaren gebaren = Gebaren::Keins;
     double rand = 0; // Bildpunkte des Entwurfs
     Gestalt gestalt = Gestalt::Rechteck;
 

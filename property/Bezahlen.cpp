@@ -34,6 +34,7 @@ std::optional<int> satzDesDialogs(const Spielzustand &z, const Mietzeile &zeile)
 
 Bezahlen::Bezahlen(Programm &programm) : Form(programm, Formname, {0, 240, 7476, 1620}), p(programm) {
     Image2.Visible = false;
+    Image2.gebaren = Gebaren::Purzelt;
     SSCommand1.Enabled = false;
     Label1.FontSize = 10;
     Image3.MouseDown = [this](Maustaste, double, double) { p.eingabe.zieheForm(*this); };

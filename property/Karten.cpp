@@ -14,6 +14,7 @@ constexpr int ErsteKarte = 117, LetzteKarte = 124;
 
 Karten::Karten(Programm &programm) : Form(programm, Formname, {204, 384, 9216, 6540}), p(programm) {
     verbindeFahrten();
+    picture1.gebaren = Gebaren::Schwebt;
     Timer9.Tick = [this] { p.entlade(Formname); };
     Timer10.Tick = [this] { Timer10_Timer(); };
     for (const auto &[pfeil, um] : {std::pair{&Image1, -1}, std::pair{&Image2, 1}})

@@ -2,6 +2,7 @@
 
 #include "include/Programm.h"
 #include "surface/Malplatz.h"
+#include "surface/Schrittfolge.h"
 #include "surface/Tasten.h"
 #include "window/Farbtöne.h"
 #include "window/Knopf.h"
@@ -32,6 +33,9 @@ void drücke(Eingabe &eingabe, const VisualControl &c) {
 
 Formfläche::Formfläche(QWidget *anzeige, Umgebung &u) : QWidget(anzeige), u(u) {
     setMouseTracking(true);
+    schwungtakt.setInterval(static_cast<int>(Bildzeit));
+    schwungtakt.setTimerType(Qt::PreciseTimer);
+    schwungtakt.callOnTimeout([this] { folgeSchwung(); });
     hide();
 }
 
@@ -53,7 +57,7 @@ bool Formfläche::folge(const Form &form, const Maß &m, const VisualControl *ge
 }
 
 /// Wo etwas zu zeigen ist, das dort ist.
-Rechteck Formfläche::beruhigt(const void *was, const Rechteck &ist) {
+Rechteck Formfläche::beruhigt(Bewegtes was, const Rechteck &ist) {
     if (!maß.wünsche.ruhig) return ist;
     const qint64 nun = QDateTime::currentMSecsSinceEpoch();
     auto [hier, frisch] = bewegungen.try_emplace(was, Bewegung{ist, ist, 0});
@@ -81,7 +85,7 @@ void Formfläche::folgePlatz(const Form &form) {
     umriss = form.region() ? umrissVon(*form.region(), u.p.Screen().TwipsPerPixelX * maß.jeTwip) : QPainterPath();
     saum = saumVon(form);
     wirftSchatten = velmo::saum(form).Schatten;
-    const Rechteck platz = beruhigt(this, {form.Left, form.Top, 0, 0});
+    const Rechteck platz = beruhigt({this, {}}, {form.Left, form.Top, 0, 0});
     const QPoint ecke(maß.punkt(platz.Left), maß.punkt(platz.Top));
     setGeometry(maß.fensterrechteck(QRect(ecke, größe).marginsAdded(saum)));
     setAttribute(Qt::WA_OpaquePaintEvent, umriss.isEmpty() && !wirftSchatten);
@@ -96,7 +100,7 @@ void Formfläche::folgeListe(const Form &form, const VisualControl *gezogen) {
     if (gezogen) blendeVerdeckendes(neu, gezogen);
     for (Stück &s : neu) {
         s.hinweis = mitTaste(s.hinweis, form.Name, s.control->Name);
-        const Rechteck ort = beruhigt(s.control, s.ort());
+        const Rechteck ort = beruhigt({s.control, s.sorte}, s.ort());
         std::tie(s.Left, s.Top, s.Width, s.Height) = std::tie(ort.Left, ort.Top, ort.Width, ort.Height);
     }
     std::swap(neu, liste);
@@ -105,7 +109,20 @@ void Formfläche::folgeListe(const Form &form, const VisualControl *gezogen) {
         if (i < alt.size() && i < liste.size() && alt[i] == liste[i]) continue;
         if (i < alt.size() && alt[i].sichtbar) erneuere(malbereich(alt[i], maß));
         if (i < liste.size() && liste[i].sichtbar) erneuere(malbereich(liste[i], maß));
+        if (i < alt.size() && i < liste.size() && !maß.wünsche.ruhig) schwung.bemerke(alt[i], liste[i]);
     }
+    folgeSchwung();
+}
+
+/// Solange etwas in Bewegung ist, wird es mit jedem Bild der Anzeige neu gezeichnet.
+void Formfläche::folgeSchwung() {
+    const auto lebendes = schwung.lebendes();
+    for (const Control *c : lebendes)
+        if (const Stück *s = stück(*c)) erneuere(schwungbereich(*s, maß));
+    if (lebendes.empty())
+        schwungtakt.stop();
+    else if (!schwungtakt.isActive())
+        schwungtakt.start();
 }
 
 void Formfläche::folgeZeichnung(const Form &form) {
@@ -153,18 +170,25 @@ void Formfläche::folgeBedienelemente(const Form &form) {
 }
 
 const Stück *Formfläche::stück(const Control &c) const {
-    const auto hier = std::find_if(liste.begin(), liste.end(), [&](const Stück &s) { return s.control == &c; });
+    const auto hier = std::find_if(liste.begin(), liste.end(),
+                                   [&](const Stück &s) { return s.control == &c && s.sorte != Sorte::Schatten; });
     return hier == liste.end() ? nullptr : &*hier;
 }
 
-void Formfläche::versetze(const Control &c, double dx, double dy) {
+void Formfläche::versetze(const Control &c, const Haltung &haltung) {
     const Stück *s = stück(c);
     if (!s) return;
-    erneuere(
-        malbereich(*s, maß).translated(versetztes == &c ? ortVon(*s).topLeft() - malort(*s, maß).topLeft() : QPoint()));
-    versetztes = dx == 0 && dy == 0 ? nullptr : &c;
-    versatz = {dx, dy};
-    erneuere(malbereich(*s, maß).translated(ortVon(*s).topLeft() - malort(*s, maß).topLeft()));
+    if (versetztes == &c) erneuere(bereichVon(*s));
+    versetztes = &c;
+    versatz = haltung;
+    erneuere(bereichVon(*s));
+}
+
+void Formfläche::stelleHin() {
+    const Stück *s = versetztes ? stück(*versetztes) : nullptr;
+    if (s) erneuere(bereichVon(*s));
+    versetztes = nullptr;
+    if (s) erneuere(bereichVon(*s));
 }
 
 bool Formfläche::nenneBilder(std::set<Bildwunsch> &gezeigt) const {
@@ -184,9 +208,19 @@ void Formfläche::erneuere(const QRect &punkte) {
     update(maß.fensterrechteck(punkte.translated(ursprung())).adjusted(-1, -1, 1, 1));
 }
 
+Haltung Formfläche::haltungVon(const Stück &s) const {
+    return s.control == versetztes && s.sorte != Sorte::Schatten ? versatz : schwung.haltung(s);
+}
+
 QRect Formfläche::ortVon(const Stück &s) const {
-    const QRect ort = malort(s, maß);
-    return s.control != versetztes ? ort : ort.translated(maß.punkt(versatz.x()), maß.punkt(versatz.y()));
+    const QPointF um = haltungVon(s).versatz;
+    return malort(s, maß).translated(maß.punkt(um.x()), maß.punkt(um.y()));
+}
+
+QRect Formfläche::bereichVon(const Stück &s) const {
+    const Haltung h = haltungVon(s);
+    const QRect bereich = malbereich(s, maß).translated(maß.punkt(h.versatz.x()), maß.punkt(h.versatz.y()));
+    return h.drehung == 0 && h.maß == 1 ? bereich : gedreht(bereich);
 }
 
 void Formfläche::maleSaum(QPainter &p) {
@@ -213,17 +247,38 @@ void Formfläche::maleAlles(QPainter &p, const QRect &bereich) {
     for (const Stück &s : liste) {
         QRect ort = ortVon(s);
         if (s.sorte == Sorte::Beschriftung) ort &= ganz; // Schrift soll nicht über den Rand laufen
-        if (!s.sichtbar || !malbereich(s, maß).translated(ort.topLeft() - malort(s, maß).topLeft()).intersects(bereich))
-            continue;
+        if (!s.sichtbar || !bereichVon(s).intersects(bereich)) continue;
         if (s.sorte == Sorte::Film) {
             if (const QImage *film = u.filmbild(s.control))
                 p.drawImage(ort.topLeft(), film->scaled(ort.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
             continue;
         }
         p.setOpacity(s.blass ? 0.4 : 1);
-        male(p, u.bilder, maß, s, ort);
+        maleStück(p, s, ort);
     }
     p.setOpacity(1);
+    for (const Stück &s : liste)
+        if (s.sichtbar && s.sorte == Sorte::Bild) schwung.maleStaub(p, maß, s);
+}
+
+/// In seiner Haltung: gedreht und gestreckt um die Mitte.
+void Formfläche::maleStück(QPainter &p, const Stück &s, const QRect &ort) {
+    const Haltung h = haltungVon(s);
+    if (h.drehung == 0 && h.breite == 1 && h.maß == 1) return male(p, u.bilder, maß, s, ort);
+    const QPointF mitte = QRectF(ort).center();
+    p.save();
+    p.translate(mitte);
+    p.rotate(h.drehung);
+    p.scale(h.maß * h.breite, h.maß);
+    p.translate(-mitte);
+    if (h.bild.empty()) {
+        male(p, u.bilder, maß, s, ort);
+    } else {
+        Stück anders = s;
+        anders.bild = h.bild;
+        male(p, u.bilder, maß, anders, ort);
+    }
+    p.restore();
 }
 
 void Formfläche::paintEvent(QPaintEvent *e) {
@@ -262,7 +317,8 @@ bool Formfläche::event(QEvent *e) {
     const auto *wo = static_cast<QHelpEvent *>(e);
     const QPoint hier = (QPointF(wo->pos()) * maß.dichte).toPoint() - ursprung();
     const auto s = std::find_if(liste.rbegin(), liste.rend(), [&](const Stück &s) {
-        return s.sichtbar && s.sorte != Sorte::Rahmen && s.sorte != Sorte::Linie && ortVon(s).contains(hier);
+        return s.sichtbar && s.sorte != Sorte::Schatten && s.sorte != Sorte::Rahmen && s.sorte != Sorte::Linie &&
+               ortVon(s).contains(hier);
     });
     if (s == liste.rend() || s->hinweis.empty())
         QToolTip::hideText();

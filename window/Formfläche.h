@@ -5,9 +5,11 @@
 #include "window/Bedienelemente.h"
 #include "window/Bildspeicher.h"
 #include "window/Maß.h"
+#include "window/Schwung.h"
 
 #include <QMargins>
 #include <QPainterPath>
+#include <QTimer>
 #include <QWidget>
 
 #include <functional>
@@ -45,8 +47,9 @@ class Formfläche : public QWidget {
     bool nenneBilder(std::set<Bildwunsch> &) const;
     /// Wie das Steuerelement zuletzt gezeigt wurde; null, wenn es nicht unter den Gezeichneten ist.
     const Stück *stück(const Control &) const;
-    /// Zeigt es um dx, dy Twips verschoben.
-    void versetze(const Control &, double dx, double dy);
+    /// Zeigt es in dieser Haltung, bis es wieder hingestellt wird.
+    void versetze(const Control &, const Haltung &);
+    void stelleHin();
     /// Das Bedienelement des Systems zum Steuerelement, und umgekehrt; sonst null.
     QWidget *feld(const Control &) const;
     VisualControl *zu(const QWidget &) const;
@@ -69,17 +72,22 @@ class Formfläche : public QWidget {
         Rechteck ist, gezeigt;
         qint64 seit; // ms der Uhr
     };
-    Rechteck beruhigt(const void *was, const Rechteck &ist);
+    using Bewegtes = std::pair<const void *, Sorte>; // die Form oder eines ihrer Stücke
+    Rechteck beruhigt(Bewegtes, const Rechteck &ist);
     void folgePlatz(const Form &);
     QMargins saumVon(const Form &) const;
     void folgeListe(const Form &, const VisualControl *gezogen);
     void folgeZeichnung(const Form &);
     void folgeBedienelemente(const Form &);
     void erneuere(const QRect &punkte);
+    void folgeSchwung();
+    Haltung haltungVon(const Stück &) const;
     QRect ortVon(const Stück &) const;
+    QRect bereichVon(const Stück &) const;
     QPoint ursprung() const { return {saum.left(), saum.top()}; }
     void maleSaum(QPainter &);
     void maleAlles(QPainter &, const QRect &bereich);
+    void maleStück(QPainter &, const Stück &, const QRect &ort);
 
     Umgebung &u;
     Maß maß;
@@ -93,9 +101,11 @@ class Formfläche : public QWidget {
     Zeichenliste liste;
     std::vector<std::pair<Rechteck, Farbe>> zeichnung;
     const Control *versetztes = nullptr;
-    QPointF versatz; // Twips
+    Haltung versatz;
+    Schwung schwung;
+    QTimer schwungtakt;
 
-    std::map<const void *, Bewegung> bewegungen; // der Form und ihrer Elemente
+    std::map<Bewegtes, Bewegung> bewegungen;
     bool ausstehend = false;
 
     std::map<const Control *, Knopf *> knöpfe;

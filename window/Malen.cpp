@@ -3,12 +3,14 @@
 #include "surface/Malplatz.h"
 #include "window/Farbtöne.h"
 #include "window/Schrift.h"
+#include "window/Schwung.h"
 
 #include <QLinearGradient>
 #include <QPainterPath>
 #include <QRadialGradient>
 
 #include <algorithm>
+#include <cmath>
 
 namespace velmo {
 
@@ -42,7 +44,29 @@ void maleWachsendes(QPainter &p, Bildspeicher &bilder, const Maß &m, const Stü
     p.drawPixmap(QRectF(ganz.left(), ganz.bottom() + 1 - hoch, ganz.width(), hoch), bild, quelle);
 }
 
+void maleBodenschatten(QPainter &p, Bildspeicher &bilder, const Maß &m, const Stück &s, const QRect &ort) {
+    if (ort.isEmpty()) return;
+    const QPixmap bild = bilder.bild(s.bild, bildgröße(s, m));
+    if (bild.isNull()) return;
+    p.setOpacity(std::sqrt(std::min(1.0, s.Height / s.natürlicheHöhe))); // solange es steigt, ist er noch blass
+    p.drawPixmap(ort, bild);
+    p.setOpacity(1);
+}
+
+/// So breit ist der Schatten um ein Schwebendes, in Bildpunkten.
+int schwebeschatten(const Maß &m) { return static_cast<int>(std::ceil(m.strich(12))); }
+
+/// Gezeichnet wird nur, was neben dem Schwebenden zu sehen ist.
+void maleSchwebeschatten(QPainter &p, const Maß &m, const QRect &ort) {
+    const int breite = schwebeschatten(m);
+    p.save();
+    p.setClipRegion(QRegion(ort.adjusted(-breite, -breite, breite, breite)) - ort, Qt::IntersectClip);
+    maleSchatten(p, ort, breite);
+    p.restore();
+}
+
 void maleBildelement(QPainter &p, Bildspeicher &bilder, const Maß &m, const Stück &s, const QRect &ort) {
+    if (s.gebaren == Gebaren::Schwebt) maleSchwebeschatten(p, m, ort);
     if (s.wächst)
         maleWachsendes(p, bilder, m, s, ort);
     else
@@ -92,6 +116,12 @@ void maleLinie(QPainter &p, const Maß &m, const Stück &s) {
     p.drawLine(QPointF(s.Left, s.Top) * m.jeTwip, QPointF(s.Left + s.Width, s.Top + s.Height) * m.jeTwip);
 }
 
+/// Weiches ist so fein wie der Entwurf, wie groß das Fenster auch ist.
+QSize schattengröße(const Stück &s) {
+    return {static_cast<int>(std::lround(s.natürlicheBreite / 12)),
+            static_cast<int>(std::lround(s.natürlicheHöhe / 12))};
+}
+
 } // namespace
 
 int ausrichtung(const Stück &s) {
@@ -108,17 +138,34 @@ QRect knopfschrift(const Stück &s, const Maß &m, const QRect &knopf) {
 
 QRect malort(const Stück &s, const Maß &m) { return m.rechteck(malplatz(s)); }
 
-QSize bildgröße(const Stück &s, const Maß &m) { return m.rechteck(bildplatz(s)).size(); }
+QSize bildgröße(const Stück &s, const Maß &m) {
+    return s.sorte == Sorte::Schatten ? schattengröße(s) : m.rechteck(bildplatz(s)).size();
+}
+
+QRect gedreht(const QRect &r) {
+    constexpr double Spiel = 1.1; // ein Würfel hüpft beim Rollen ein wenig auf den Betrachter zu
+    const int halb = static_cast<int>(std::ceil(std::hypot(r.width(), r.height()) / 2 * Spiel));
+    return {r.center() - QPoint(halb, halb), r.center() + QPoint(halb, halb)};
+}
+
+QRect schwungbereich(const Stück &s, const Maß &m) {
+    const int staub = s.sorte == Sorte::Bild ? m.punkt(Schwung::Staubweite) : 0;
+    return gedreht(malbereich(s, m)) | malbereich(s, m).adjusted(-staub, 0, staub, staub);
+}
 
 QRect malbereich(const Stück &s, const Maß &m) {
     QRect bereich = malort(s, m).normalized();
+    if (s.drehung != 0) bereich = gedreht(bereich);
     if (s.wächst) bereich |= m.rechteck(bildplatz(s));
-    const int rand = s.sorte == Sorte::Linie ? static_cast<int>(m.strich(s.rand)) + 1 : 1;
+    int rand = s.sorte == Sorte::Linie ? static_cast<int>(m.strich(s.rand)) + 1 : 1;
+    if (s.gebaren == Gebaren::Schwebt) rand += schwebeschatten(m);
     return bereich.adjusted(-rand, -rand, rand, rand);
 }
 
 void male(QPainter &p, Bildspeicher &bilder, const Maß &m, const Stück &s, const QRect &ort) {
     switch (s.sorte) {
+    case Sorte::Schatten:
+        return maleBodenschatten(p, bilder, m, s, ort);
     case Sorte::Beschriftung:
         return maleBeschriftung(p, m, s, ort);
     case Sorte::Bild:

@@ -13,6 +13,11 @@ QRect malort(const Stück &, const Maß &);
 /// Was es höchstens überdeckt: mit Rand und geglätteten Kanten.
 QRect malbereich(const Stück &, const Maß &);
 
+/// Was es drehend und mit seinem Staub höchstens überdeckt.
+QRect schwungbereich(const Stück &, const Maß &);
+/// Worin sich das Rechteck um seine Mitte drehen kann.
+QRect gedreht(const QRect &);
+
 /// Die Größe, in der sein Bild gebraucht wird.
 QSize bildgröße(const Stück &, const Maß &);
 

@@ -180,17 +180,21 @@ void QtOberfläche::zeigeSchritt(const Control &c, double ms) {
     if (!beginn) return;
     const Halt halt(hält);
     const Stück *vorher = fläche->stück(c);
-    const QPointF alt = vorher ? QPointF(vorher->Left, vorher->Top) : QPointF();
+    if (!vorher) return fenster->folge();
+    const QPointF alt(vorher->Left, vorher->Top);
+    const std::string altesBild = vorher->bild;
     fenster->folge();
     const Stück *nachher = fläche->stück(c);
-    if (!vorher || !nachher) return;
+    if (!nachher) return;
     const QPointF weg = alt - QPointF(nachher->Left, nachher->Top);
-    // Ein kleiner Hüpfer von Feld zu Feld.
-    const double sprung = std::min(90.0, std::hypot(weg.x(), weg.y()) / 4);
+    const std::string bild = nachher->bild;
     for (;;) {
         const double jetzt = nun();
-        const double anteil = std::clamp((jetzt - *beginn) / ms, 0.0, 1.0), rest = 1 - anteil;
-        fläche->versetze(c, weg.x() * rest, weg.y() * rest - 4 * sprung * anteil * rest);
+        const double anteil = std::clamp((jetzt - *beginn) / ms, 0.0, 1.0);
+        if (anteil < 1)
+            fläche->versetze(c, fahrt(weg, anteil, altesBild, bild));
+        else
+            fläche->stelleHin();
         zeigeBild();
         if (anteil >= 1) return;
         const double dann = std::min(jetzt + Bildzeit, schritte.ende()) - nun();

@@ -4,6 +4,7 @@ Eine Stufe ist eine Routine ohne Argumente. Sie baut um den Fußpunkt ihres Rech
 y = 0 seine Unterkante. Was in Tiefe y in Höhe z endet, liegt im Bild (y + z) / 1,414 Punkte über der Unterkante.
 """
 from kasten import *
+from knoten import Baum, Wert
 
 
 # ---------------------------------------------------------------- Flächen, Kippen
@@ -30,9 +31,30 @@ def kreis(x, y, r, quer=1.0, teile=32):
             for i in range(teile)]
 
 
-def boden(b, t, stoff_, y=0.6, x=0.0, ecke=5.0, dick=0.25):
-    """Eigenes Stück Land unter einer Stufe."""
-    return prisma(umriss(b, t, ecke, x, y), 0, dick, stoff_, .1)
+def boden(b, t, stoff_, y=0.6, x=0.0, ecke=5.0, hoch=0.25, saum=4.0):
+    """Eigenes Stück Land unter einer Stufe; über die Breite des Saums verliert es sich im Land ringsum."""
+    saum = min(saum, .45 * min(b, t))
+    ringe = umriss(b, t, ecke, x, y) + umriss(b - 2 * saum, t - 2 * saum, max(ecke - saum, 1), x, y + saum)
+    n = len(ringe) // 2
+    me = netz_aus([(*p, 0) for p in ringe],
+                  [(i, (i + 1) % n, n + (i + 1) % n, n + i) for i in range(n)] + [tuple(range(n, 2 * n))])
+    me.attributes.new("Saum", "FLOAT", "POINT").data.foreach_set("value", [0.0] * n + [1.0] * n)
+    o = objekt("Boden", me, ausgefranst(als_stoff(stoff_)), lage(z=hoch))
+    o.visible_shadow = False
+    return o
+
+
+def ausgefranst(stoff_):
+    """Derselbe Stoff, der nach dem Feld "Saum" des Netzes in Flecken durchsichtig wird."""
+    m = stoff_.copy()
+    baum = Baum(m)
+    ende = baum.knoten["Material Output"]
+    fleck = baum.rauschen(baum.neu("NewGeometry", aus="Position"), .5, 3)
+    deckt = baum.neu("Attribute", aus="Fac", attribute_name="Saum") * 2 + fleck * 3 - 2
+    deckt = baum.neu("Clamp", {0: deckt})
+    fläche = Wert(baum, ende.inputs["Surface"].links[0].from_socket)
+    baum.setze(ende, {"Surface": baum.neu("MixShader", {0: deckt, 1: baum.neu("BsdfTransparent"), 2: fläche})})
+    return m
 
 
 def erde(farbe):

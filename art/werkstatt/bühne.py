@@ -142,11 +142,18 @@ def kamerafarbe(baum, licht, bild):
     baum.setze(baum.knoten["World Output"], {0: misch})
 
 
+def lichtgrund(z=0.0):
+    """Boden, den niemand sieht; er wirft Licht zurück, wie es das Brett täte."""
+    ecken = [(-4000, -4000, 0), (4000, -4000, 0), (4000, 4000, 0), (-4000, 4000, 0)]
+    grund = objekt("Grund", netz_aus(ecken, [(0, 1, 2, 3)]), "#808080", Matrix.Translation((0, 0, z)))
+    grund.visible_camera = False
+    return grund
+
+
 def schattengrund(z=0.0):
     """Unsichtbarer Boden, der nur den Schatten auffängt."""
-    ecken = [(-4000, -4000, 0), (4000, -4000, 0), (4000, 4000, 0), (-4000, 4000, 0)]
-    grund = objekt("Schattengrund", netz_aus(ecken, [(0, 1, 2, 3)]), "#808080", Matrix.Translation((0, 0, z)))
-    grund.is_shadow_catcher = True
+    grund = lichtgrund(z)
+    grund.visible_camera = grund.is_shadow_catcher = True
     return grund
 
 

@@ -27,8 +27,8 @@ template <class Tafel, class Schreibe> void liste(const char *name, const Tafel 
     std::cout << ']';
 }
 
-void ort(const Rechteck &r) {
-    std::cout << "\"ort\": [" << r.Left << ", " << r.Top << ", " << r.Width << ", " << r.Height << ']';
+void ort(const Rechteck &r, const char *name = "ort") {
+    std::cout << '"' << name << "\": [" << r.Left << ", " << r.Top << ", " << r.Width << ", " << r.Height << ']';
 }
 
 void preise(const Hotel &h) {
@@ -65,6 +65,8 @@ int main() {
     liste("stufen", Stufen, [](const Stufe &s) {
         std::cout << "\"bild\": \"" << s.Bild << "\", \"hotel\": \"" << hotel(s.Hotel).Name << "\", ";
         ort(s.Ort);
+        std::cout << ", ";
+        ort(Schattenort(s.Ort), "schatten");
     });
     std::cout << ",\n";
     liste("wagen", Autotafel, [](const Auto &a) {
@@ -72,6 +74,9 @@ int main() {
         ort(a.Ort);
     });
     std::cout << ",\n";
+    std::cout << "\"brett\": {";
+    ort(Brettbild);
+    std::cout << "},\n";
     liste("hotels", Hotels, preise);
     std::cout << "}\n";
 }

@@ -25,7 +25,7 @@ WAGEN = TAFELN["wagen"]
 # Bank und Rathaus sind Steuerelemente der Brettform, keine Zeilen einer Tafel.
 BANK = (5040, 4200, 1008, 756)
 RATHAUS = (5544, 600, 468, 528)
-BRETT = (0, 0, 8892, 5124)
+BRETT = TAFELN["brett"]["ort"]
 _, _, WAGEN_B, WAGEN_H = WAGEN[0]["ort"]
 
 # Wegpunkte der Straße nach einem Feld, wo die Mitten der Felder allein sie nicht führen

@@ -38,7 +38,7 @@ std::string entwurf(Form &form) {
             text += std::to_string(static_cast<int>(rahmen->gestalt)) + "\n";
     }
     for (const Stück &s : zeichenliste(form)) // von hinten nach vorn
-        text += std::string(s.control->Name) + "\n";
+        if (s.sorte != Sorte::Schatten) text += std::string(s.control->Name) + "\n";
     return text;
 }
 
