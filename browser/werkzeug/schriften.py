@@ -32,6 +32,10 @@ def gekürzt(datei):
     kürzer = subset.Subsetter(wahl)
     kürzer.populate(unicodes=ZEICHEN)
     kürzer.subset(schrift)
+    # Jeder Browser liest ein anderes dieser Maße; hier sind sie gleich.
+    maß, kopf = schrift["OS/2"], schrift["hhea"]
+    kopf.ascent, kopf.descent, kopf.lineGap = maß.sTypoAscender, maß.sTypoDescender, maß.sTypoLineGap
+    maß.usWinAscent, maß.usWinDescent = maß.sTypoAscender, -maß.sTypoDescender
     schrift.flavor = "woff2"
     ziel = io.BytesIO()
     schrift.save(ziel, reorderTables=False)
