@@ -1,8 +1,12 @@
 // Schrift auf den Formen: gesetzt in Bildpunkten des Entwurfs, damit ein Text bei jeder Größe gleich umbricht; was nicht
 // passt, wird kleiner, höchstens auf gut die Hälfte.
 
-// Der Durchschuss zwischen zwei Zeilen, in Graden; über der ersten und unter der letzten steht keiner.
-const DURCHSCHUSS = { "Lato": 0.2, "URW Bookman": 0.2, "Comic Neue": 0 };
+// Wie hoch eine Zeile ist und welcher Teil davon Durchschuss, in Graden; über der ersten und unter der letzten steht
+// keiner.
+const ZEILEN = { "Lato": [1.2, 0.2], "URW Bookman": [1.324, 0], "Comic Neue": [1.15, 0] };
+
+/// Die Zeilenhöhe der Schrift, in Graden.
+export const zeilenhöhe = (schrift) => ZEILEN[schrift]?.[0] ?? 1.2;
 
 /// Setzt den Text in das innere Element des Stücks. platz: Breite und Höhe in Bildpunkten des Entwurfs.
 export function setze(innen, m, breite, höhe) {
@@ -10,9 +14,9 @@ export function setze(innen, m, breite, höhe) {
   if (innen.dataset.wie === wie) return;
   innen.dataset.wie = wie;
   innen.textContent = m.text;
-  const schuss = DURCHSCHUSS[m.schrift] ?? 0;
+  const [zeile, schuss] = ZEILEN[m.schrift] ?? ZEILEN["Lato"];
   Object.assign(innen.style, {
-    fontFamily: `"${m.schrift}", "DejaVu Sans", sans-serif`, fontWeight: m.stärke, margin: `${-schuss / 2}em 0`,
+    fontFamily: `"${m.schrift}", "DejaVu Sans", sans-serif`, fontWeight: m.stärke, lineHeight: zeile, margin: `${-schuss / 2}em 0`,
   });
   passeEin(innen, m.grad, schuss, breite, höhe);
 }

@@ -2,7 +2,7 @@
 import { zeige } from "./bilder.js";
 import { neuesFeld } from "./felder.js";
 import { neuerKnopf, zeigeKnopf } from "./knopf.js";
-import { setze } from "./schrift.js";
+import { setze, zeilenhöhe } from "./schrift.js";
 import { film } from "./verzeichnis.js";
 import { Filmart } from "./vorrat.js";
 
@@ -92,6 +92,12 @@ export class Stückelement {
     e.classList.toggle("schild", Boolean(schild));
     e.style.backgroundColor = schild ? m.grund : "";
     e.style.borderColor = schild ? dunkler(m.grund, 1.6) : "";
+    // Schrift soll nicht über den Rand der Form laufen.
+    const { breite, höhe } = this.form.o;
+    o.breite = Math.min(o.breite, breite - o.links);
+    o.höhe = Math.min(o.höhe, höhe - o.oben);
+    e.style.width = `${o.breite}px`;
+    e.style.height = `${o.höhe}px`;
     setze(e.firstChild, m, o.breite, o.höhe);
   }
 
@@ -135,11 +141,13 @@ export class Stückelement {
   }
 
   zeigeFeld() {
-    const { e, m } = this;
+    const { e, m, form: { bühne } } = this;
     if (m.schrift) {
       e.style.fontFamily = `"${m.schrift}", "DejaVu Sans", sans-serif`;
       e.style.fontWeight = m.stärke;
-      e.style.fontSize = `${m.grad}px`;
+      this.grad = Math.round(m.grad * bühne.faktor) / bühne.faktor;
+      e.style.fontSize = `${this.grad}px`;
+      e.style.lineHeight = zeilenhöhe(m.schrift);
     }
     e.disabled = m.gesperrt;
     this.feld.folge(m);
@@ -148,9 +156,9 @@ export class Stückelement {
 
   /// Verkleinert die Schrift, bis der Text in die Breite passt, höchstens auf zwei Drittel.
   passeFeldEin() {
-    const { e, m } = this;
+    const { e, grad } = this;
     if (!e.matches("input")) return;
-    for (let g = m.grad; g > (m.grad * 2) / 3 && e.scrollWidth > e.clientWidth; g -= 0.5) e.style.fontSize = `${g}px`;
+    for (let g = grad; g > (grad * 2) / 3 && e.scrollWidth > e.clientWidth; g -= 0.5) e.style.fontSize = `${g}px`;
   }
 
   /// Was ein Vorleseprogramm davon sagt. Was keinen Namen hat, ist Zierde.

@@ -9,7 +9,7 @@ ORDNER = pathlib.Path("/usr/share/fonts")
 # Familie, Gewicht, Datei; Gewichte wie in window/Schrift.cpp. DejaVu Sans springt ein, wo ein Zeichen fehlt.
 SCHNITTE = [
     ("Comic Neue", 700, "opentype/comic-neue/ComicNeue-Bold.otf"),
-    ("URW Bookman", 500, "opentype/urw-base35/URWBookman-Light.otf"),
+    ("URW Bookman", 500, "opentype/urw-base35/URWBookman-Demi.otf"),
     ("URW Bookman", 600, "opentype/urw-base35/URWBookman-Demi.otf"),
     ("Lato", 500, "truetype/lato/Lato-Medium.ttf"),
     ("Lato", 700, "truetype/lato/Lato-Bold.ttf"),
@@ -19,6 +19,14 @@ SCHNITTE = [
 ]
 # Windows-1252, in dem die Dateien des Spiels stehen: mehr kann kein Name enthalten.
 ZEICHEN = [ord(z) for z in bytes(range(32, 256)).decode("cp1252", "ignore")]
+
+
+def gleiche_maße_an(maß, kopf):
+    """Jeder Browser liest andere dieser Maße; hier sind sie gleich, und die, mit denen das Fenster setzt."""
+    if not maß.fsSelection & 1 << 7:
+        maß.sTypoAscender, maß.sTypoDescender, maß.sTypoLineGap = maß.usWinAscent, -maß.usWinDescent, 0
+    kopf.ascent, kopf.descent, kopf.lineGap = maß.sTypoAscender, maß.sTypoDescender, maß.sTypoLineGap
+    maß.usWinAscent, maß.usWinDescent = maß.sTypoAscender, -maß.sTypoDescender
 
 
 def gekürzt(datei):
@@ -32,10 +40,7 @@ def gekürzt(datei):
     kürzer = subset.Subsetter(wahl)
     kürzer.populate(unicodes=ZEICHEN)
     kürzer.subset(schrift)
-    # Jeder Browser liest ein anderes dieser Maße; hier sind sie gleich.
-    maß, kopf = schrift["OS/2"], schrift["hhea"]
-    kopf.ascent, kopf.descent, kopf.lineGap = maß.sTypoAscender, maß.sTypoDescender, maß.sTypoLineGap
-    maß.usWinAscent, maß.usWinDescent = maß.sTypoAscender, -maß.sTypoDescender
+    gleiche_maße_an(schrift["OS/2"], schrift["hhea"])
     schrift.flavor = "woff2"
     ziel = io.BytesIO()
     schrift.save(ziel, reorderTables=False)
