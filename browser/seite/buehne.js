@@ -151,6 +151,9 @@ export class Bühne {
     if ([...this.formen.values()].some((f) => f.m.name === "Menu" && f.m.sichtbar)) this.beimMenü();
   }
 
-  /// Nach jedem Bündel.
-  fertig() {}
+  /// Nach jedem Bündel; was nur zu einer Form gehört, sieht an der Seite, welche vorn steht.
+  fertig() {
+    const stehende = [...this.formen.values()].filter((f) => f.m.sichtbar).sort((a, b) => a.e.style.zIndex - b.e.style.zIndex);
+    document.body.dataset.vorn = stehende.at(-1)?.m.name ?? "";
+  }
 }
