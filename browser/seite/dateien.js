@@ -56,7 +56,8 @@ class Blatt {
   }
 
   öffne() {
-    this.meldung.textContent = "";
+    this.meldung.textContent = document.body.dataset.vorrat === "ganz" && navigator.serviceWorker?.controller
+      ? "Das Spiel ist ganz geladen und geht auch ohne Netz." : "";
     this.zeigeListe();
     this.dialog.showModal();
   }

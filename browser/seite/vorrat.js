@@ -24,19 +24,20 @@ const ruhe = () => new Promise((weiter) => {
   else setTimeout(weiter, 100);
 });
 
-/// Holt alles, eines nach dem anderen; gibt, ob nun alles da ist. Wer Daten sparen will, dem bleibt es beim Nötigen.
+/// Holt alles, eines nach dem anderen; ist es da, sagt die Seite data-vorrat="ganz". Wer Daten sparen will, dem bleibt es
+/// beim Nötigen.
 export async function vorlade() {
-  if (navigator.connection?.saveData) return false;
+  if (navigator.connection?.saveData) return;
   for (const url of alle()) {
     await ruhe();
     if (document.hidden) await new Promise((f) => document.addEventListener("visibilitychange", f, { once: true }));
     try {
       const antwort = await fetch(url, { priority: "low" });
       await antwort.arrayBuffer();
-      if (!antwort.ok) return false;
+      if (!antwort.ok) return;
     } catch {
-      return false; // das Netz ist fort; beim nächsten Besuch geht es weiter
+      return; // das Netz ist fort; beim nächsten Besuch geht es weiter
     }
   }
-  return true;
+  document.body.dataset.vorrat = "ganz";
 }

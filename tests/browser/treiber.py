@@ -201,7 +201,7 @@ class Browser:
         return base64.b64decode(self.leitung.bild())
 
     def zeige_hin(self, *schritte, art="mouse"):
-        """Ein Zeiger: ("hin", x, y[, ms]), ("drück",), ("lös",), ("ruh", ms)."""
+        """Ein Zeiger: ("hin", x, y[, ms]), ("drück"[, taste]), ("lös"[, taste]), ("ruh", ms); die rechte Taste ist 2."""
         folge = []
         for wort, *rest in schritte:
             if wort == "hin":
@@ -210,7 +210,7 @@ class Browser:
             elif wort == "ruh":
                 folge.append({"type": "pause", "duration": rest[0]})
             else:
-                folge.append({"type": {"drück": "pointerDown", "lös": "pointerUp"}[wort], "button": 0})
+                folge.append({"type": {"drück": "pointerDown", "lös": "pointerUp"}[wort], "button": rest[0] if rest else 0})
         self.leitung.befehl("PerformActions", {"actions": [
             {"type": "pointer", "id": art, "parameters": {"pointerType": art}, "actions": folge}]})
 
