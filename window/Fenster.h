@@ -65,6 +65,7 @@ class Fenster : public QWidget {
     void folgeRing();
     void nimmFokus();
     void folgeGezogenem();
+    void folgeBerührtem();
     void folgeZeiger(Punkt);
     void setzeZeiger(const Picture &);
     Punkt ort(const QMouseEvent &) const;

@@ -13,6 +13,7 @@ namespace {
 constexpr const char *Zustandsbilder[] = {"/ruhe.png", "/ruhe.png", "/gedrueckt.png", "/gesperrt.png"};
 constexpr int Ecke = 44;        // so weit reichen die Ecken der Zustandsbilder, in ihren Punkten
 constexpr double JeEntwurf = 4; // ihre Punkte je Bildpunkt des Entwurfs
+constexpr double Niedrig = 18;  // Bildpunkte des Entwurfs
 
 /// Das Bild in neuer Größe: die Ecken bleiben, die Kanten und die Mitte strecken sich.
 QImage gestreckt(const QImage &bild, const QSize &größe) {
@@ -67,7 +68,9 @@ QPixmap Knopf::körper(Zustand z, const QSize &größe) const {
         bild = QPixmap(größe);
         bild.fill(isEnabled() ? farbton::Holz.lighter(z == Zustand::Gedrückt ? 130 : 170) : farbton::Papier);
     } else {
-        const double je = JeEntwurf / (12 * maß.jeTwip);
+        // Ein niedriger Knopf hat feinere Kanten.
+        const double fein = größe.height() < maß.strich(Niedrig) ? 2 : 1;
+        const double je = fein * JeEntwurf / (12 * maß.jeTwip);
         const QImage groß = gestreckt(vorlage, QSizeF(größe.width() * je, größe.height() * je).toSize());
         bild = QPixmap::fromImage(groß.scaled(größe, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     }
