@@ -76,10 +76,10 @@ Brett::Brett(Programm &p) : Form(p, Formname, {0, 0, 9600, 7200}, "Velmo") {
 /// Die Schrift sitzt auf dem Papier, dem Messing und dem Täfelchen des Tischs.
 void Brett::setzeBeschriftungen() {
     Label1.Mittig = true;
-    Label1.Zeicheneinzug = {36, 12, 24, 12};
+    Label1.Zeicheneinzug = {48, -48, 24, 72};
     setzeMittig(label9, 1, {0, 0, 0, 24});
     setzeMittig(Geldlabel, 1.6, {0, -12, 0, 12});
-    setzeMittig(Label4, 0.72, {20, -48, 100, 132});
+    setzeMittig(Label4, 0.64, {20, -48, 100, 132});
     setzeMittig(toteinG, 1.1, {-186, -24, -66, 72});
     setzeMittig(Info, 1, {});
     Info.Deckend = true;

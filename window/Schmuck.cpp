@@ -86,7 +86,8 @@ void maleFunken(QPainter &p, const QRect &kern, const QColor &farbe) {
     QRadialGradient licht(r.center(), r.width() / 2);
     licht.setColorAt(0, mit(Qt::white, kraft));
     licht.setColorAt(0.12, mit(ton.lighter(150), kraft));
-    licht.setColorAt(0.25, mit(ton, kraft * 2 / 5));
+    licht.setColorAt(0.25, mit(ton, kraft / 3));
+    licht.setColorAt(0.55, mit(ton, kraft / 10));
     licht.setColorAt(1, mit(ton, 0));
     p.fillRect(r, licht);
 }
