@@ -100,8 +100,8 @@ void nimmEigenes(Merkmale &m, const Programm &p, const Stück &s) {
         m["mittig"] = json(s.mittig);
         if (s.deckend) m["grund"] = json(s.grund);
         if (s.liste)
-            m["liste"] = json(std::vector<double>{double(s.liste->Zeilen), double(s.liste->Rang),
-                                                  double(s.liste->Hervorgehoben)});
+            m["liste"] = json(
+                std::vector<double>{double(s.liste->Zeilen), double(s.liste->Rang), double(s.liste->Hervorgehoben)});
         break;
     case Sorte::Bild:
         m["bild"] = bildort(p, s.bild);

@@ -50,6 +50,7 @@ Menu2::Menu2(Programm &programm) : Form(programm, Formname, {420, 1056, 8868, 47
         knopf->Zeicheneinzug.unten = 36;
     Label4.Satzausrichtung = Ausrichtung::Mitte;
     Label4.Zeicheneinzug = {0, 0, 48, 0}; // mitten über der Liste
+    Label4.Schriftmaß = 0.94;
     klickl.WieKnopf = klickr.WieKnopf = true;
     for (Schriftelement *feld : std::initializer_list<Schriftelement *>{&Text1, &Text2, &List1, &List2, &List3})
         feld->FontSize = 9;

@@ -114,15 +114,19 @@ void Formfläche::folgeZeichnung(const Form &form) {
     static const std::vector<std::pair<Rechteck, Farbe>> keine;
     const auto &neu = form.Zeichnung() ? *form.Zeichnung() : keine;
     if (neu.empty() && zeichnung.empty()) return;
-    const auto erneuereAlle = [this](const Funken &funken) {
+    const auto bereich = [this](const Funken &funken) {
+        QRect alle;
         for (const auto &[r, farbe] : funken)
-            erneuere(funkenbereich(maß.rechteck(r)));
+            alle |= funkenbereich(maß.rechteck(r));
+        return alle;
     };
     if (!zeichnung.empty()) spur.push_front(std::move(zeichnung));
     zeichnung = neu;
-    erneuereAlle(zeichnung);
+    // Ein Rechteck um alles: hundert kleine wären langsamer.
+    QRect alle = bereich(zeichnung);
     for (const Funken &alte : spur)
-        erneuereAlle(alte);
+        alle |= bereich(alte);
+    erneuere(alle);
     if (spur.size() > Spurlänge) spur.pop_back();
 }
 
@@ -226,9 +230,12 @@ void Formfläche::maleFeuerwerk(QPainter &p) {
     if (zeichnung.empty() && spur.empty()) return;
     p.setCompositionMode(QPainter::CompositionMode_Plus);
     for (std::size_t alter = spur.size(); alter-- > 0;) {
+        const Funken &hier = spur[alter], &danach = alter > 0 ? spur[alter - 1] : zeichnung;
+        if (hier.size() != danach.size()) continue; // einer verglühte: wer wo war, ist nicht zu sagen
         const double anteil = 1 - static_cast<double>(alter + 1) / (Spurlänge + 1);
-        for (const auto &[r, farbe] : spur[alter])
-            maleSpur(p, maß.rechteck(r), farbton::aus(farbe), anteil);
+        for (std::size_t i = 0; i < hier.size(); ++i)
+            maleSpur(p, maß.rechteck(hier[i].first), maß.rechteck(danach[i].first), farbton::aus(hier[i].second),
+                     anteil);
     }
     for (const auto &[r, farbe] : zeichnung)
         maleFunken(p, maß.rechteck(r), farbton::aus(farbe));

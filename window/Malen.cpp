@@ -165,6 +165,20 @@ bool maleBild(QPainter &p, Bildspeicher &bilder, const std::string &Datei, const
     return true;
 }
 
+void maleGestreckt(QPainter &p, const QImage &bild, int ecke, const QRect &ziel, int zielecke) {
+    const int eckeX = std::min(zielecke, ziel.width() / 2), eckeY = std::min(zielecke, ziel.height() / 2);
+    const int vonX[] = {0, ecke, bild.width() - ecke, bild.width()},
+              vonY[] = {0, ecke, bild.height() - ecke, bild.height()};
+    const int nachX[] = {0, eckeX, ziel.width() - eckeX, ziel.width()};
+    const int nachY[] = {0, eckeY, ziel.height() - eckeY, ziel.height()};
+    p.setRenderHint(QPainter::SmoothPixmapTransform);
+    for (int x = 0; x < 3; ++x)
+        for (int y = 0; y < 3; ++y)
+            p.drawImage(QRect(QPoint(nachX[x], nachY[y]), QPoint(nachX[x + 1] - 1, nachY[y + 1] - 1))
+                            .translated(ziel.topLeft()),
+                        bild, QRect(QPoint(vonX[x], vonY[y]), QPoint(vonX[x + 1] - 1, vonY[y + 1] - 1)));
+}
+
 namespace {
 
 /// Größer, wie der Spieler es wünscht, soweit der Platz reicht.

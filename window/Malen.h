@@ -26,6 +26,8 @@ QRect knopfschrift(const Stück &, const Maß &, const QRect &knopf);
 
 /// Ein Bild im Rechteck, ohne Verzerrung der Kanten; falsch, wenn es sich nicht lesen lässt.
 bool maleBild(QPainter &, Bildspeicher &, const std::string &Datei, const QRect &);
+/// Ein Bild auf das Rechteck gestreckt: seine Ecken bleiben, die Kanten und die Mitte strecken sich.
+void maleGestreckt(QPainter &, const QImage &, int ecke, const QRect &ziel, int zielecke);
 /// Umbrochener Text; was nicht passt, wird kleiner. Die Schrift ist in Satzpunkten.
 void maleText(QPainter &, const Maß &, const QRect &, int ausrichtung, const QString &, const QFont &, const QColor &);
 /// Wie viel Platz derselbe Text braucht, Bildpunkte des Bildschirms.

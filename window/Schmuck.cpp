@@ -92,11 +92,10 @@ void maleFunken(QPainter &p, const QRect &kern, const QColor &farbe) {
     p.fillRect(r, licht);
 }
 
-void maleSpur(QPainter &p, const QRect &kern, const QColor &farbe, double anteil) {
-    const double halb = kern.width() * (0.12 + 0.2 * anteil);
-    p.setPen(Qt::NoPen);
-    p.setBrush(mit(leuchtfarbe(farbe), static_cast<int>(farbe.value() * anteil * 0.55)));
-    p.drawEllipse(QRectF(kern).center(), halb, halb);
+void maleSpur(QPainter &p, const QRect &kern, const QRect &nächster, const QColor &farbe, double anteil) {
+    const double breite = kern.width() * (0.15 + 0.3 * anteil);
+    p.setPen(QPen(mit(leuchtfarbe(farbe), static_cast<int>(farbe.value() * anteil * 0.5)), breite));
+    p.drawLine(QRectF(kern).center(), QRectF(nächster).center());
 }
 
 } // namespace velmo

@@ -16,7 +16,7 @@ void maleNacht(QPainter &, const QRect &);
 /// Ein glühender Funke, und wie weit sein Licht reicht.
 QRect funkenbereich(const QRect &kern);
 void maleFunken(QPainter &, const QRect &kern, const QColor &);
-/// Was von ihm nachleuchtet; anteil: 1 eben noch, 0 vergangen.
-void maleSpur(QPainter &, const QRect &kern, const QColor &, double anteil);
+/// Was auf dem Weg zum nächsten Ort von ihm nachleuchtet; anteil: 1 eben noch, 0 vergangen.
+void maleSpur(QPainter &, const QRect &kern, const QRect &nächster, const QColor &, double anteil);
 
 } // namespace velmo
