@@ -10,7 +10,6 @@ namespace velmo {
 namespace {
 
 constexpr int Augenrollen = 10, Frage = 100;
-constexpr int LangerSatz = 111;       // Zeichen, ab denen die Blase weiterrückt
 constexpr int LesezeitJeZeichen = 42; // ms
 
 /// Wartet, bis die Figur ganz oben ist. Wer später wartet, kommt zuerst heraus: mit Absicht so.
@@ -27,7 +26,7 @@ void sage(Programm &p, const std::string &Text, bool augenrollen) {
     warteAufFigur(p, 0.5, 50000);
     auto &figur = p.form<Assistent>();
     auto &blase = p.form<Sprech>();
-    blase.Timer1.Enabled = Zeichenzahl(Text) >= LangerSatz;
+    blase.Timer1.Enabled = Zeichenzahl(Text) >= Sprech::LangerSatz;
     figur.Unsichtbar.Interval = Zeichenzahl(Text) * LesezeitJeZeichen;
     blase.schreibe(Text);
     figur.Runterfahr.Enabled = true;

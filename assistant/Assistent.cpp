@@ -11,7 +11,10 @@ constexpr double Augenruhe = 852, AugenruheRechts = 1200;
 
 } // namespace
 
-void ImmerOben(Form &form, bool Ein) { form.Topmost = Ein; }
+void ImmerOben(Form &form, bool Ein) {
+    form.Topmost = Ein;
+    form.laufzeit.nachVorn(form);
+}
 
 void BlaseAnlegen(Programm &p) {
     auto &figur = p.form<Assistent>();

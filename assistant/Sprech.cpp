@@ -21,6 +21,9 @@ Sprech::Sprech(Programm &programm) : Form(programm, Formname, {-1200, -2076, 556
     Label1.FontName = "Comic Sans MS";
     Label1.FontSize = 7.5; // sechs Zeilen
     Label1.ForeColor = farbe::Weiß;
+    Label1.Mittig = true;
+    Label1.Satzausrichtung = Ausrichtung::Mitte;
+    VScroll1.Zeicheneinzug = {-72, 96, 84, 180};
     for (Line *linie : {&Line1, &Line2, &Line3, &Line4, &Line5})
         linie->BorderColor = farbe::Blasenrand;
     zeigeKnöpfe(false);
@@ -41,11 +44,20 @@ void Sprech::eigeneWerte(const Namensempfänger &e) { e("Abgeschnitten", feldzug
 void Sprech::schreibe(const std::string &Text) {
     Label1.Caption = Text;
     p.Zustand.Satzlänge = Zeichenzahl(Text);
+    ordneBlase();
+}
+
+/// Ringsum bleibt gleich viel frei; gerollt wird nur, was lang ist oder schon gerollt wurde.
+void Sprech::ordneBlase() {
+    const bool kurz = Zeichenzahl(Label1.Caption()) < LangerSatz;
+    VScroll1.Überflüssig = kurz && VScroll1.Value() == 0;
+    Label1.Zeicheneinzug = {-48, 60, 36, Command1.Visible ? 252.0 : 60.0};
 }
 
 void Sprech::zeigeKnöpfe(bool sichtbar) {
     Command1.Visible = sichtbar;
     Command2.Visible = sichtbar;
+    ordneBlase();
 }
 
 void Sprech::Command1_Click() {
@@ -84,6 +96,7 @@ void Sprech::VScroll1_Change() {
     } else {
         Label1.Caption = Abgeschnitten + satz; // mit Absicht auch vor einen anderen Satz
     }
+    ordneBlase();
 }
 
 } // namespace velmo

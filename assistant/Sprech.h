@@ -33,7 +33,11 @@ class Sprech : public Form {
     void schreibe(const std::string &Text);
     void zeigeKnöpfe(bool sichtbar);
 
+    /// Ab so vielen Zeichen rückt der Text von selbst weiter.
+    static constexpr int LangerSatz = 111;
+
   private:
+    void ordneBlase();
     void Command1_Click();
     void Command2_Click();
     void Timer1_Timer();

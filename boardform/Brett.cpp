@@ -30,11 +30,20 @@ void gestalte(Label &schild) {
     schild.BackColor = Farbe{0xFFF6DC};
 }
 
+/// Ein Text mitten in seinem Platz, so viel größer.
+void setzeMittig(Label &l, double schriftmaß, Einzug einzug) {
+    l.Satzausrichtung = Ausrichtung::Mitte;
+    l.Mittig = true;
+    l.Schriftmaß = schriftmaß;
+    l.Zeicheneinzug = einzug;
+}
+
 } // namespace
 
 Notenstapel::Notenstapel(Form &form, int note, const char *feld, const char *knopf, const char *bild, Rechteck r)
     : Note(note), g(form, feld, r), p(g, bild, Feldmaß), k(g, knopf, {0, 0, 972, 252}) {
     g.Enabled = false;
+    g.WieKnopf = g.WirftSchatten = true;
     p.Visible = false;
     p.gebaren = Gebaren::Fliegt;
 }
@@ -66,6 +75,21 @@ Brett::Brett(Programm &p) : Form(p, Formname, {0, 0, 9600, 7200}, "Velmo") {
     Picture7.gebaren = Picture8.gebaren = Gebaren::Purzelt;
     Fertig.Enabled = false;
     Pfeil.Visible = false;
+    setzeBeschriftungen();
+}
+
+/// Die Schrift sitzt auf dem Papier, dem Messing und dem Täfelchen des Tischs.
+void Brett::setzeBeschriftungen() {
+    Label1.Mittig = true;
+    Label1.Zeicheneinzug = {48, -48, 24, 72};
+    setzeMittig(label9, 1, {0, 0, 0, 24});
+    setzeMittig(Geldlabel, 1.6, {0, -12, 0, 12});
+    setzeMittig(Label4, 0.64, {20, -48, 100, 132});
+    setzeMittig(toteinG, 1.1, {-186, -24, -66, 72});
+    setzeMittig(Info, 1, {});
+    Info.Deckend = true;
+    Info.BackColor = farbe::Papier;
+    Picture2.WieKnopf = true;
 }
 
 Image &Brett::Platzbild(int eingang) { return plätze.at(static_cast<std::size_t>(eingang - 2)); }

@@ -82,6 +82,8 @@ class Brett : public Form {
     Notenstapel &stapel(int note);
 
   private:
+    void setzeBeschriftungen();
+
     std::deque<Image> plätze, autos, gebäude;
     std::deque<Label> schilder;
 };

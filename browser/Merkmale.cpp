@@ -74,7 +74,7 @@ void nimmFeld(Merkmale &m, const Control &c) {
     if (const auto *e = dynamic_cast<const Schriftelement *>(&c)) {
         const Schriftzeile &z = schriftzeile(e->FontName());
         m["schrift"] = json(z.hier);
-        m["grad"] = json(e->FontSize * PunkteJeGrad * z.grad);
+        m["grad"] = json(e->FontSize * e->Schriftmaß * PunkteJeGrad * z.grad);
         m["stärke"] = json(e->FontBold ? z.fett : z.normal);
     }
     if (const auto *t = dynamic_cast<const TextBox *>(&c)) {
@@ -99,12 +99,16 @@ void nimmEigenes(Merkmale &m, const Programm &p, const Stück &s) {
         m["lage"] = json(static_cast<int>(stelle(s.ausrichtung)));
         m["mittig"] = json(s.mittig);
         if (s.deckend) m["grund"] = json(s.grund);
+        if (s.liste)
+            m["liste"] = json(
+                std::vector<double>{double(s.liste->Zeilen), double(s.liste->Rang), double(s.liste->Hervorgehoben)});
         break;
     case Sorte::Bild:
         m["bild"] = bildort(p, s.bild);
         m["rand"] = json(s.rand);
         if (s.wächst) m["voll"] = json(bildplatz(s));
         m["blass"] = json(s.blass);
+        m["schein"] = s.schein ? json(*s.schein) : "null";
         break;
     case Sorte::Knopf:
         nimmSchrift(m, s);
@@ -158,7 +162,10 @@ Merkmale merkmale(const Programm &p, const Stück &s, const Benennung &b) {
                {"hinweis", json(s.hinweis)},
                {"rolle", json(Rollennamen[stelle(b.rolle)])},
                {"heißt", json(b.name)},
-               {"dazu", json(b.beschreibung)}};
+               {"dazu", json(b.beschreibung)},
+               {"schatten", json(s.schatten)},
+               {"taste", json(s.wieKnopf)},
+               {"glanz", json(s.nurUnterZeiger)}};
     nimmEigenes(m, p, s);
     return m;
 }

@@ -23,6 +23,8 @@ class Programm : public Laufzeit {
     /// Wo das Programm schreibt: Charaktere und Bestenliste.
     const std::string &Spielerordner() const { return eigener.empty() ? Zustand.Programmpfad : eigener; }
     Bilderordner Bilder{Ordner + "/bilder"};
+    /// Der Platz des letzten Siegs in der Bestenliste, ab 1; 0: keiner.
+    int LetzterRang = 0;
 
     /// Die Form der Klasse, geladen; F::Formname ist ihr Name.
     template <class F> F &form() { return static_cast<F &>(lade(F::Formname)); }

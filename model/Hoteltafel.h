@@ -42,14 +42,14 @@ inline constexpr auto Hotels = [] {
     using H = Hotelkürzel;
     return std::to_array<Hotel>({
     // Kürzel Name      Seite           Schild      sein Ort
-    {H::b, "Boomerang", Seite::links,  "Booml",    {6530, 4462, 1020, 192}},
-    {H::p, "President", Seite::links,  "Presil",   {2850, 4582, 1020, 192}},
+    {H::b, "Boomerang", Seite::links,  "Booml",    {5640, 4590, 1020, 192}},
+    {H::p, "President", Seite::links,  "Presil",   {3650, 4590, 1020, 192}},
     {H::w, "Waikiki",   Seite::links,  "Waikikil", { 200,  790,  870, 192}},
-    {H::t, "Taj Mahal", Seite::links,  "Tajl",     {3714,  940, 1020, 192}},
+    {H::t, "Taj Mahal", Seite::links,  "Tajl",     {2790,  760, 1020, 192}},
     {H::s, "Safari",    Seite::links,  "Safaril",  {7900,  860,  980, 192}},
-    {H::f, "Fujijama",  Seite::rechts, "Fujil",    {5490, 2936, 1020, 192}},
-    {H::l, "L'Étoile",  Seite::rechts, "Etoill",   {4940, 3412,  800, 192}},
-    {H::r, "Royal",     Seite::rechts, "Royall",   {2738, 2210, 1020, 192}},
+    {H::f, "Fujijama",  Seite::rechts, "Fujil",    {5600, 3330, 1020, 192}},
+    {H::l, "L'Étoile",  Seite::rechts, "Etoill",   {4640, 3424, 1020, 192}},
+    {H::r, "Royal",     Seite::rechts, "Royall",   {2738, 2592, 1020, 192}},
     });
 }();
 static_assert(Hotels.size() == 8);

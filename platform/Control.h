@@ -5,6 +5,7 @@
 #include "platform/Rechteck.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -45,6 +46,12 @@ using Bewegungshandler = std::function<void(double X, double Y)>;
 /// Was beim Ziehen über einem Ziel geschieht.
 enum class Ziehzustand { Betreten, Verlassen, Darüber };
 
+/// Wie weit jede Kante des Gezeichneten innerhalb ihrer Kante liegt, Twips des Entwurfs; negativ reicht es darüber
+/// hinaus.
+struct Einzug {
+    double links = 0, oben = 0, rechts = 0, unten = 0;
+};
+
 /// Ein Steuerelement mit Platz auf der Form.
 /// Was eine Oberfläche aus der Bewegung eines Elements machen darf; an seinen Werten ändert es nichts.
 enum class Gebaren {
@@ -67,6 +74,13 @@ class VisualControl : public Control {
     /// Der eigene Mauszeiger, seine Spitze in der Mitte; leer: der übliche.
     Eigenschaft<velmo::Picture> MouseIcon{*this, {}};
     Gebaren gebaren = Gebaren::Keins;
+    /// Nur fürs Zeichnen; Maus und Regeln kennen allein den Ort.
+    Einzug Zeicheneinzug;
+    bool WirftSchatten = false;
+    /// Ein Bild, das zum Drücken da ist: unter dem Zeiger leuchtet es auf, gedrückt sinkt es ein.
+    bool WieKnopf = false;
+    /// Zu sehen nur, solange der Zeiger auf seiner Form ist und keine vor ihr steht.
+    bool NurUnterZeiger = false;
 
     Handler Click, DblClick;
     Maushandler MouseDown, MouseUp;
@@ -94,6 +108,8 @@ class Schriftelement : public VisualControl {
     Eigenschaft<double> FontSize{*this, 8.25};
     Eigenschaft<bool> FontBold{*this, false};
     Eigenschaft<Farbe> ForeColor{*this, farbe::Schwarz};
+    /// So viel größer setzt die Oberfläche die Schrift, soweit der Platz reicht.
+    double Schriftmaß = 1;
 
     void zähleAuf(const Namensempfänger &) override;
 
@@ -106,6 +122,14 @@ enum class Rand { Ohne, Einfach };
 /// Wie stark der 3D-Knopf seine Schrift hervorhebt.
 enum class Betonung { Keine = 0, Stark = 2 };
 
+/// Ein Text als Liste: jede Zeile gleich hoch und auf einer Linie, gezählt von 1.
+struct Listensatz {
+    int Zeilen = 0;        // so viele haben Platz
+    bool Rang = false;     // mit dem Rang davor, die ersten drei mit einer Medaille
+    int Hervorgehoben = 0; // 0: keine
+    bool operator==(const Listensatz &) const = default;
+};
+
 class Label : public Schriftelement {
   public:
     using Schriftelement::Schriftelement;
@@ -113,6 +137,9 @@ class Label : public Schriftelement {
     Eigenschaft<Ausrichtung> Alignment{*this, Ausrichtung::Links};
     /// Der Text steht in halber Höhe statt oben.
     Eigenschaft<bool> Mittig{*this, false};
+    /// Wie der Text gezeichnet wird, wenn nicht nach Alignment.
+    std::optional<Ausrichtung> Satzausrichtung;
+    std::optional<Listensatz> Liste;
     /// Ohne Hintergrundfarbe scheint durch, was dahinter liegt.
     Eigenschaft<bool> Deckend{*this, false};
     Eigenschaft<Farbe> BackColor{*this, farbe::Weiß};
@@ -149,6 +176,8 @@ class Image : public VisualControl {
     /// Was es auf den Grund seines Bildfelds wirft, und wohin, wo der Entwurf das Bild hinstellt.
     Eigenschaft<velmo::Picture> Schatten{*this, {}};
     Rechteck Schattenort{0, 0, 0, 0};
+    /// Die Farbe des Scheins, in dem es steht.
+    Eigenschaft<std::optional<Farbe>> Schein{*this, std::nullopt};
 
     bool Fenster() const override { return false; }
     void geändert() override;
@@ -257,6 +286,8 @@ class VScrollBar : public VisualControl {
   public:
     using VisualControl::VisualControl;
     Eigenschaft<double> Value{*this, 0};
+    /// Es gibt nichts zu rollen: die Oberfläche zeigt ihn nicht.
+    Eigenschaft<bool> Überflüssig{*this, false};
     Handler Change;
     void geändert() override;
     void zähleAuf(const Namensempfänger &) override;

@@ -8,7 +8,7 @@ namespace {
 
 void nimmSchrift(Stück &s, const Schriftelement &e) {
     s.schriftart = e.FontName;
-    s.schriftgrad = e.FontSize;
+    s.schriftgrad = e.FontSize * e.Schriftmaß;
     s.fett = e.FontBold;
     s.farbe = e.ForeColor;
 }
@@ -18,9 +18,10 @@ Stück stück(const Label &l) {
     s.sorte = Sorte::Beschriftung;
     nimmSchrift(s, l);
     s.text = l.Caption;
-    s.ausrichtung = l.Alignment;
+    s.ausrichtung = l.Satzausrichtung.value_or(l.Alignment);
     s.deckend = l.Deckend;
     s.mittig = l.Mittig;
+    s.liste = l.Liste;
     s.grund = l.BackColor;
     return s;
 }
@@ -32,6 +33,7 @@ Stück stück(const Image &i) {
     s.rand = i.BorderStyle() == Rand::Einfach;
     s.wächst = i.Wächst;
     s.drehung = i.Drehung();
+    s.schein = i.Schein;
     if (!i.Stretch || i.Wächst) {
         s.natürlicheBreite = i.natürlicheBreite();
         s.natürlicheHöhe = i.natürlicheHöhe();
@@ -81,7 +83,7 @@ Stück stück(const VisualControl &c) {
 }
 
 /// Schatten liegen auf dem Grund des Bildfelds, unter allem, was darauf steht.
-void nimmSchatten(Zeichenliste &liste, const Stück &feld, const std::vector<VisualControl *> &kinder) {
+void nimmSchatten(Zeichenliste &liste, const std::vector<VisualControl *> &kinder, double x, double y, bool sichtbar) {
     for (const VisualControl *c : kinder) {
         const auto *i = dynamic_cast<const Image *>(c);
         if (!i || i->Schatten().leer()) continue;
@@ -90,15 +92,38 @@ void nimmSchatten(Zeichenliste &liste, const Stück &feld, const std::vector<Vis
         s.control = i;
         s.sorte = Sorte::Schatten;
         s.bild = i->Schatten().Datei;
-        s.Left = feld.Left + ort.Left;
-        s.Top = feld.Top + ort.Top;
+        s.Left = x + ort.Left;
+        s.Top = y + ort.Top;
         s.Width = ort.Width;
         s.Height = ort.Height;
         s.natürlicheBreite = i->Schattenort.Width;
         s.natürlicheHöhe = i->Schattenort.Height;
-        s.sichtbar = feld.sichtbar && i->Visible;
+        s.sichtbar = sichtbar && i->Visible;
         liste.push_back(s);
     }
+}
+
+void legeAn(Stück &s, const VisualControl &c, double x, double y) {
+    const double je = c.form.laufzeit.Screen().TwipsPerPixelX / 12; // Einzüge sind die des Entwurfs
+    const Einzug &e = c.Zeicheneinzug;
+    s.Left = x + c.Left + e.links * je;
+    s.Top = y + c.Top + e.oben * je;
+    s.Width = c.Width - (e.links + e.rechts) * je;
+    s.Height = c.Height - (e.oben + e.unten) * je;
+    if (s.natürlicheBreite > 0) {
+        s.natürlicheBreite -= (e.links + e.rechts) * je;
+        s.natürlicheHöhe -= (e.oben + e.unten) * je;
+    }
+    s.schatten = c.WirftSchatten;
+    s.wieKnopf = c.WieKnopf;
+    s.nurUnterZeiger = c.NurUnterZeiger;
+}
+
+/// Was den Umriss einer Form nachzöge, zeichnet dort der Umriss selbst.
+bool zuSehen(const VisualControl &c) {
+    const auto *leiste = dynamic_cast<const VScrollBar *>(&c);
+    const bool nachgezogen = c.form.region() && dynamic_cast<const Shape *>(&c);
+    return c.Visible && !nachgezogen && !(leiste && leiste->Überflüssig);
 }
 
 void nimmKinder(Zeichenliste &liste, const std::vector<VisualControl *> &kinder, double x, double y, bool sichtbar) {
@@ -107,19 +132,17 @@ void nimmKinder(Zeichenliste &liste, const std::vector<VisualControl *> &kinder,
             if (c->Fenster() != fenster) continue;
             Stück s = stück(*c);
             s.control = c;
-            s.Left = x + c->Left;
-            s.Top = y + c->Top;
-            s.Width = c->Width;
-            s.Height = c->Height;
-            s.sichtbar = sichtbar && c->Visible;
+            legeAn(s, *c, x, y);
+            s.sichtbar = sichtbar && zuSehen(*c);
             s.gesperrt = !c->Enabled;
             s.ablage = c->DragDrop && c->Enabled;
             s.hinweis = c->ToolTipText;
             s.gebaren = c->gebaren;
             liste.push_back(s);
             if (const auto *feld = dynamic_cast<const PictureBox *>(c)) {
-                nimmSchatten(liste, s, feld->Kinder);
-                nimmKinder(liste, feld->Kinder, s.Left, s.Top, s.sichtbar);
+                const double links = x + c->Left, oben = y + c->Top;
+                nimmSchatten(liste, feld->Kinder, links, oben, s.sichtbar);
+                nimmKinder(liste, feld->Kinder, links, oben, s.sichtbar);
             }
         }
 }
@@ -162,7 +185,7 @@ Zeichenliste zeichenliste(const Form &form) {
             s.Top = l->y1;
             s.Width = l->x2 - l->x1;
             s.Height = l->y2 - l->y1;
-            s.sichtbar = l->Visible;
+            s.sichtbar = l->Visible && !form.region();
             s.rand = l->BorderWidth;
             s.farbe = l->BorderColor;
             liste.push_back(s);

@@ -4,6 +4,7 @@
 #include "platform/Form.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,12 +19,15 @@ struct Stück {
     bool sichtbar = true, gesperrt = false;
     bool ablage = false; // nimmt Gezogenes
     bool blass = false;  // lässt durchscheinen, was dahinter liegt
+    bool schatten = false, wieKnopf = false, nurUnterZeiger = false;
+    std::optional<Farbe> schein;
 
     std::string text, schriftart, hinweis;
     double schriftgrad = 8.25;
     bool fett = false, deckend = false, erhaben = false, mittig = false;
     Farbe farbe, grund;
     Ausrichtung ausrichtung = Ausrichtung::Links;
+    std::optional<Listensatz> liste;
 
     std::string bild;
     double natürlicheBreite = 0, natürlicheHöhe = 0; // 0: das Bild füllt das Rechteck

@@ -33,7 +33,11 @@ void verlangeBauwürfel(Programm &p) {
 Baufeld::Baufeld(Programm &programm) : Brettdialog(programm, Formname, 5952, 2760) {
     Label2.MouseDown = zieht();
     Label2.FontSize = 12;
+    Label2.Mittig = true;
+    Label2.Zeicheneinzug = {60, 0, 180, 132};
     Label1.FontSize = 12;
+    Label1.Mittig = true;
+    Label1.Zeicheneinzug.links = -660; // neben dem Hammer
     Command2.Click = [this] { p.entlade(Formname); };
     Command3.Click = [this] { Command3_Click(); };
     Command4.Click = [this] { p.zeige(formular::Karten); };

@@ -11,8 +11,19 @@ namespace velmo {
 
 namespace {
 
-void zeigeGekauft(Programm &p, int platz) { brett(p).Platzbild(platz).Picture = Bildladen(p, 700 + platz, "Eingangn"); }
-void zeigeMöglich(Programm &p, int platz) { brett(p).Platzbild(platz).Picture = Bildladen(p, 800 + platz, "Eingangs"); }
+constexpr Farbe ScheinMöglich{0x2A8CFF}, ScheinGetroffen{0x35D94A};
+
+void zeigeGekauft(Programm &p, int platz) {
+    Image &bild = brett(p).Platzbild(platz);
+    bild.Picture = Bildladen(p, 700 + platz, "Eingangn");
+    bild.Schein = std::nullopt;
+}
+
+void zeigeMöglich(Programm &p, int platz) {
+    Image &bild = brett(p).Platzbild(platz);
+    bild.Picture = Bildladen(p, 800 + platz, "Eingangs");
+    bild.Schein = ScheinMöglich;
+}
 
 bool gegenüberVergeben(const Spielzustand &z, int platz) {
     const int gegenüber = eingangsplatz(platz).Gegenüber;
@@ -105,7 +116,10 @@ void Pfeiltakt(Programm &p) {
 
 void EingangÜberPlatz(Programm &p, int Platz, Ziehzustand zustand) {
     if (p.Zustand.Eingang[Platz]) return;
-    if (zustand == Ziehzustand::Betreten) zeigeGekauft(p, Platz);
+    if (zustand == Ziehzustand::Betreten) {
+        zeigeGekauft(p, Platz);
+        brett(p).Platzbild(Platz).Schein = ScheinGetroffen;
+    }
     if (zustand == Ziehzustand::Verlassen) zeigeMöglich(p, Platz);
 }
 

@@ -15,6 +15,10 @@ constexpr int ErsteKarte = 117, LetzteKarte = 124;
 Karten::Karten(Programm &programm) : Form(programm, Formname, {204, 384, 9216, 6540}), p(programm) {
     verbindeFahrten();
     picture1.gebaren = Gebaren::Schwebt;
+    for (Image *pfeil : {&Image1, &Image2, &Image3})
+        pfeil->WieKnopf = true;
+    Image1.Zeicheneinzug = {0, -54, 0, 54}; // auf gleicher Höhe
+    Image2.Zeicheneinzug = {-60, 54, 60, -54};
     Timer9.Tick = [this] { p.entlade(Formname); };
     Timer10.Tick = [this] { Timer10_Timer(); };
     for (const auto &[pfeil, um] : {std::pair{&Image1, -1}, std::pair{&Image2, 1}})

@@ -25,7 +25,9 @@ eingang::eingang(Programm &programm) : Brettdialog(programm, Formname, 6360, 390
         label->MouseDown = zieht();
         label->FontSize = 14;
         label->Alignment = Ausrichtung::Mitte;
+        label->Mittig = true;
     }
+    Label1.Zeicheneinzug = {120, 0, 120, 0};
     for (Line *linie : {&Line1, &Line2, &Line3, &Line4})
         linie->BorderColor = farbe::Holz;
     Knöpfe.beiKlick([this](Hotelkürzel k) { wähle(k); });

@@ -63,6 +63,8 @@ void eröffneSchuld(Programm &p, const std::string &satz) {
 geldfeld::geldfeld(Programm &programm) : Brettdialog(programm, Formname, 4332, 1860) {
     MouseUp = [this](Maustaste, double X, double Y) { Form_MouseUp(X, Y); };
     SSCommand1.FontSize = SSCommand2.FontSize = 7.5; // "Boomerang Zwangskaufen" füllt den Knopf
+    SSCommand1.Zeicheneinzug.links = 72;
+    SSCommand2.Zeicheneinzug.rechts = 72;
     SSCommand1.Click = [this] { kaufe(SSCommand1, Seite::links); };
     SSCommand2.Click = [this] { kaufe(SSCommand2, Seite::rechts); };
     SSCommand3.Click = [this] { SSCommand3_Click(); };

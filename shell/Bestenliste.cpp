@@ -10,8 +10,6 @@ namespace velmo {
 
 namespace {
 
-constexpr std::size_t Plätze = 9;
-
 std::string pfad(const Programm &p) { return p.Spielerordner() + "/besten.sav"; }
 
 /// Die nächste Zeile; falsch am Ende der Datei. Ein Wagenrücklauf vor dem Zeilenende gehört nicht zur Zeile.
@@ -37,7 +35,7 @@ Bestenliste liesBestenliste(const Programm &p) {
     Bestenliste liste;
     try {
         std::istringstream datei(liesDatei(pfad(p)));
-        for (Eintrag e; liste.size() < Plätze && liesZeile(datei, e.Name); e = {}) {
+        for (Eintrag e; liste.size() < Bestenplätze && liesZeile(datei, e.Name); e = {}) {
             liesZeile(datei, e.Punkte);
             liste.push_back(e);
         }
@@ -49,8 +47,9 @@ Bestenliste liesBestenliste(const Programm &p) {
 
 void trageEin(Programm &p, std::int32_t Punkte) {
     Bestenliste liste = liesBestenliste(p);
-    liste.resize(Plätze);
+    liste.resize(Bestenplätze);
     const auto platz = std::ranges::find_if(liste, [&](const Eintrag &e) { return weicht(e, Punkte); });
+    p.LetzterRang = platz == liste.end() ? 0 : static_cast<int>(platz - liste.begin()) + 1;
     if (platz != liste.end()) {
         std::shift_right(platz, liste.end(), 1);
         *platz = {p.Zustand.Spielername, geschrieben(Punkte)};

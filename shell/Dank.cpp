@@ -25,6 +25,7 @@ Dank::Dank(Programm &programm) : Form(programm, Formname, {-132, -192, 9948, 745
     BackColor = farbe::Schwarz;
     Label1.Alignment = Ausrichtung::Mitte;
     Label1.ForeColor = farbe::Weiß;
+    Label1.Zeicheneinzug = {0, 0, 0, 240};
     Label1.FontName = "Tahoma";
     Label1.FontSize = 13;
     Text1.Text = Danktext;

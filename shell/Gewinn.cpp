@@ -12,6 +12,13 @@ Gewinn::Gewinn(Programm &programm) : Form(programm, Formname, {0, 0, 12288, 9216
     Label1.FontName = "Comic Sans MS";
     Label1.FontSize = 24;
     Label1.ForeColor = farbe::Weiß;
+    Label1.Satzausrichtung = Ausrichtung::Mitte;
+    Label1.Mittig = true;
+    Label1.Schriftmaß = 1.3;
+    Label1.Zeicheneinzug = {0, 180, 5772 - 9600, -360}; // über die ganze Anzeige
+    SSCommand1.Zeicheneinzug = {0, 0, 0, 120};
+    SSCommand2.Zeicheneinzug = {0, 120, 0, 0};
+    Label3.Mittig = true;
     Label3.FontSize = 12;
     Label3.Alignment = Ausrichtung::Mitte;
     SSCommand1.Click = [this] { SSCommand1_Click(); };

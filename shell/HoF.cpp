@@ -22,6 +22,10 @@ HoF::HoF(Programm &programm) : Form(programm, Formname, {0, 0, 9600, 7428}), p(p
         label->ForeColor = farbe::Weiß;
     for (Label *label : {&Namending, &Zahlending})
         label->FontSize = 18;
+    Namending.Zeicheneinzug = {-216, 60, 180, -432};
+    Zahlending.Zeicheneinzug = {-60, 60, 408, 288};
+    Zahlending.Satzausrichtung = Ausrichtung::Rechts;
+    SSCommand1.Zeicheneinzug = {0, 0, 0, 48};
     SSCommand1.Click = [this] { p.entlade(Formname); };
 }
 
@@ -34,6 +38,8 @@ void HoF::Form_Load() {
         zahlen += (erster && !e.Punkte.empty() ? Rechts(e.Punkte, Zeichenzahl(e.Punkte) - 1) : e.Punkte) + "\n";
         erster = false;
     }
+    Namending.Liste = Listensatz{Bestenplätze, true, p.LetzterRang};
+    Zahlending.Liste = Listensatz{Bestenplätze, false, p.LetzterRang};
     Zahlending.Caption = zahlen;
     Namending.Caption = namen;
 }

@@ -39,7 +39,9 @@ Menu::Menu(Programm &programm) : Form(programm, Formname, {192, 0, 9504, 7200}, 
     for (Shape *rahmen : {&Shape2, &Shape3, &Shape4, &Shape5}) {
         rahmen->BorderWidth = 4;
         rahmen->BorderColor = Glanzfarbe;
+        rahmen->NurUnterZeiger = true;
     }
+    Shape1.NurUnterZeiger = true;
     zeigeGlanz(nullptr);
 }
 

@@ -45,6 +45,13 @@ Menu2::Menu2(Programm &programm) : Form(programm, Formname, {420, 1056, 8868, 47
     BackColor = farbe::Weiß;
     for (Shape *rahmen : {&Shape1, &Shape2})
         rahmen->BorderColor = Farbe{0x9C7440};
+    Shape2.Zeicheneinzug = {0, 24, 48, 108};
+    for (CommandButton *knopf : {&Command3, &Command4, &Command5})
+        knopf->Zeicheneinzug.unten = 36;
+    Label4.Satzausrichtung = Ausrichtung::Mitte;
+    Label4.Zeicheneinzug = {0, 0, 48, 0}; // mitten über der Liste
+    Label4.Schriftmaß = 0.94;
+    klickl.WieKnopf = klickr.WieKnopf = true;
     for (Schriftelement *feld : std::initializer_list<Schriftelement *>{&Text1, &Text2, &List1, &List2, &List3})
         feld->FontSize = 9;
     // Von einem Pfeil geradewegs zum anderen behalten mit Absicht beide ihren Rand.

@@ -29,6 +29,11 @@ std::string Versionszeile() {
     Titelzeile.FontBold = true;
     Macherzeile.FontName = "Arial";
     Macherzeile.FontSize = 12;
+    Macherzeile.Zeicheneinzug.links = -74; // bündig mit dem Titel
+    imgIcon.Zeicheneinzug = {-132, -132, -132, -132};
+    Wir.Zeicheneinzug = {0, -420, 0, 420};
+    Versionn.Zeicheneinzug = {0, -480, 0, 480};
+    Label1.Zeicheneinzug = {-84, -540, 0, 540};
     Command1.Click = Wir.Click = [this] { p.zeige(formular::Dank); };
     OK.Click = [this] { p.entlade(Formname); };
     Timer1.Tick = [this] { Timer1_Timer(); };

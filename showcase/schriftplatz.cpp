@@ -9,6 +9,7 @@
 #include "shell/Formtafel.h"
 #include "window/Bedienelemente.h"
 #include "window/Gestaltung.h"
+#include "window/Liste.h"
 #include "window/Malen.h"
 #include "window/Schrift.h"
 
@@ -222,7 +223,8 @@ class Setzer {
     }
 
     void prüfeBeschriftung(const Satz &s, const Maß &maß, double v) {
-        const QRect ort = maß.rechteck(s.stück.ort()) & maß.rechteck({0, 0, s.formbreite, s.formhöhe});
+        if (s.stück.liste) return prüfeListe(s, maß, v);
+        const QRect ort = maß.rechteck(s.stück.ort());
         const int wie = ausrichtung(s.stück);
         const QFont f = schrift(s.stück.schriftart, s.stück.schriftgrad, s.stück.fett, Satzpunkte);
         const auto passend = setze(s, maß, v, ort, wie, f);
@@ -231,6 +233,16 @@ class Setzer {
         for (const QRectF &z : zeilen(text(s.stück.text), *passend, QSizeF(ort.size()) / strecke, wie)) {
             const QRectF r(QPointF(ort.topLeft()) + z.topLeft() * strecke, z.size() * strecke);
             prüfeZeile(s, maß, v, r);
+        }
+    }
+
+    void prüfeListe(const Satz &s, const Maß &maß, double v) {
+        const QStringList alle = text(s.stück.text).split('\n');
+        for (int i = 0; i < alle.size(); ++i) {
+            Satz zeile = s;
+            zeile.stück.text = alle[i].trimmed().toStdString();
+            setze(zeile, maß, v, zeilenplatz(s.stück, maß.rechteck(s.stück.ort()), i), Qt::AlignVCenter,
+                  schrift(s.stück.schriftart, s.stück.schriftgrad, s.stück.fett, Satzpunkte));
         }
     }
 

@@ -6,8 +6,9 @@ namespace velmo::farbe {
 
 inline constexpr Farbe Papierlicht{0xFFFBF2}; // Felder zum Schreiben
 inline constexpr Farbe Holzschatten{0x5C4024};
-inline constexpr Farbe Messing{0xE2B03A}; // Betonung, Tastaturfokus
+inline constexpr Farbe Messing{0xE2B03A};     // Betonung, Tastaturfokus
+inline constexpr Farbe Überschrift{0x8A2F1C}; // in einem langen Text
 inline constexpr Farbe Tinte{0x2E2114};
-inline constexpr Farbe Blass{0x8E8270}; // Schrift auf Gesperrtem
+inline constexpr Farbe Blass{0x726654}; // Schrift auf Gesperrtem
 
 } // namespace velmo::farbe

@@ -7,10 +7,11 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyleOption>
+#include <QTextBlock>
+#include <QTextEdit>
 
 namespace velmo {
 
@@ -18,7 +19,7 @@ namespace {
 
 /// Schrift in Längen des Fensters.
 void nimmSchrift(QWidget &w, const Schriftelement &e, const Maß &m) {
-    QFont f = schrift(e.FontName, e.FontSize, e.FontBold, m.jeTwip * 12 / m.dichte);
+    QFont f = schrift(e.FontName, e.FontSize * e.Schriftmaß, e.FontBold, m.jeTwip * 12 / m.dichte);
     // Im Feld soll eine Zeile ganz zu sehen sein, in der Liste zwei.
     const double anteil = dynamic_cast<const ListBox *>(&e) ? 0.42 : 0.55;
     const int höchstens = static_cast<int>(e.Height * m.jeTwip / m.dichte * anteil);
@@ -64,17 +65,52 @@ Bedienelement textfeld(TextBox &feld, QWidget *form, Programm &p, const Bearbeit
     return {w, [w, &feld](const Maß &m) {
                 nimmSchrift(*w, feld, m);
                 if (w->text() != text(feld.Text)) w->setText(text(feld.Text));
+                if (!w->hasFocus()) w->setCursorPosition(0); // ein langer Text zeigt seinen Anfang
                 passeEin(*w, innen(feld, m));
             }};
 }
 
+/// Eine Überschrift beginnt mit einem Strich oder steht ganz in Großbuchstaben.
+bool istÜberschrift(const QString &zeile) {
+    return zeile.startsWith('-') || (zeile.toUpper() == zeile && zeile.toLower() != zeile);
+}
+
+/// Der Text als Seite: Überschriften abgesetzt, Aufzählungen eingerückt; grad: Längen des Fensters.
+void setzeSeite(QTextEdit &w, const QString &t, int grad) {
+    w.setPlainText(t);
+    w.document()->setDocumentMargin(grad * 0.7);
+    for (QTextBlock zeile = w.document()->begin(); zeile.isValid(); zeile = zeile.next()) {
+        const bool überschrift = istÜberschrift(zeile.text()), punkt = zeile.text().startsWith('-');
+        const bool gezählt = !zeile.text().isEmpty() && zeile.text()[0].isDigit();
+        QTextCursor hier(zeile);
+        QTextBlockFormat satz;
+        satz.setTopMargin(überschrift ? grad * (punkt ? 0.7 : 1.2) : grad * 0.12);
+        satz.setLineHeight(112, QTextBlockFormat::ProportionalHeight);
+        if (gezählt) satz.setLeftMargin(grad * 1.4);
+        hier.setBlockFormat(satz);
+        if (!überschrift) continue;
+        QTextCharFormat schrift;
+        schrift.setFontWeight(QFont::Bold);
+        schrift.setForeground(punkt ? farbton::Überschrift : farbton::Holz);
+        schrift.setProperty(QTextFormat::FontPixelSize, static_cast<int>(grad * (punkt ? 1.06 : 1.25)));
+        hier.select(QTextCursor::BlockUnderCursor);
+        hier.mergeCharFormat(schrift);
+    }
+}
+
 Bedienelement textfläche(TextBox &feld, QWidget *form) {
-    auto *w = new QPlainTextEdit(form);
+    auto *w = new QTextEdit(form);
     w->setReadOnly(true);
     w->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    return {w, [w, &feld](const Maß &m) {
+    w->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    return {w, [w, &feld, gesetzt = 0](const Maß &m) mutable {
                 nimmSchrift(*w, feld, m);
-                if (w->toPlainText() != text(feld.Text)) w->setPlainText(text(feld.Text));
+                const int grad = w->font().pixelSize();
+                if (grad == gesetzt && w->toPlainText() == text(feld.Text)) return;
+                const int stelle = w->verticalScrollBar()->value();
+                setzeSeite(*w, text(feld.Text), grad);
+                w->verticalScrollBar()->setValue(stelle);
+                gesetzt = grad;
             }};
 }
 
@@ -109,6 +145,9 @@ Bedienelement liste(Listenelement &l, QWidget *form, Programm &p, const Bearbeit
 
 Bedienelement auswahl(Listenelement &l, QWidget *form, Programm &p, const Bearbeiter &bearbeite) {
     auto *w = new QComboBox(form);
+    QPalette papier = w->palette();
+    papier.setColor(QPalette::Button, farbton::Papierlicht);
+    w->setPalette(papier);
     QObject::connect(w, &QComboBox::activated, w,
                      [&, bearbeite](int zeile) { bearbeite([&] { p.eingabe.wähle(l, zeile); }); });
     return {w, [w, &l](const Maß &m) {

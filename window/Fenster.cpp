@@ -23,9 +23,10 @@ namespace velmo {
 namespace {
 
 constexpr QSize Entwurf(800, 600);
-constexpr double Zeigerbild = 768; // Twips: 64 Bildpunkte des Entwurfs im Geviert
-constexpr int Ruhezeit = 150;      // ms
-constexpr double Ziehgröße = 1.75; // das Gezogene ist größer, damit man es unter dem Zeiger sieht
+constexpr double Zeigerbild = 768;  // Twips: 64 Bildpunkte des Entwurfs im Geviert
+constexpr double Ziehabstand = 120; // Twips
+constexpr int Ruhezeit = 150;       // ms
+constexpr double Ziehgröße = 1.75;  // das Gezogene ist größer, damit man es unter dem Zeiger sieht
 
 /// Die größte bequeme Größe, die auf den Bildschirm passt.
 QSize anfangsgröße(const QSize &bildschirm) {
@@ -58,7 +59,7 @@ Tastendruck tastendruck(const QKeyEvent &e) {
 
 } // namespace
 
-/// Das Bild, das der Spieler zieht, unter dem Zeiger.
+/// Das Bild, das der Spieler zieht, über dem Zeiger: was er trifft, bleibt zu sehen.
 class Fenster::Ziehbild : public QWidget {
   public:
     explicit Ziehbild(QWidget *anzeige) : QWidget(anzeige) {
@@ -157,6 +158,7 @@ void Fenster::folge() {
     folgeReihenfolge(formen);
     folgeUmland();
     folgeGezogenem();
+    folgeBerührtem();
     tastenfokus.folge();
     folgeRing();
     blatt->folge(maß);
@@ -235,8 +237,21 @@ void Fenster::folgeGezogenem() {
     const Punkt zeiger = u.p.eingabe.zeiger();
     const Stück &s = *quelle->stück(*bild);
     const double breit = s.Width * Ziehgröße, hoch = s.Height * Ziehgröße;
-    const QRect punkte = maß.rechteck({zeiger.x - breit / 2, zeiger.y - hoch / 2, breit, hoch});
+    const QRect punkte = maß.rechteck({zeiger.x - breit / 2, zeiger.y - hoch - Ziehabstand, breit, hoch});
     ziehbild->zeige(u.bilder.bild(s.bild, punkte.size()), maß.fensterrechteck(punkte));
+}
+
+/// Was unter dem Zeiger liegt, zeigt es.
+void Fenster::folgeBerührtem() {
+    const bool hält = u.p.eingabe.hält();
+    const Treffer t = u.p.eingabe.trifft(u.p.eingabe.zeiger());
+    const auto formen = u.p.Formen();
+    const auto vorderste =
+        std::ranges::find_if(formen | std::views::reverse, [](const Form *f) { return f->Visible() && !f->region(); });
+    for (const auto &[nummer, fläche] : flächen) {
+        const bool hier = t.form && t.form->Nummer == nummer;
+        fläche->zeigeZeiger(hier && t.form == *vorderste, hier && !u.p.eingabe.gezogen() ? t.control : nullptr, hält);
+    }
 }
 
 /// Die Hand zeigt, was sich anfassen lässt.

@@ -38,6 +38,8 @@ class Fenster : public QWidget {
     void erfülle(const Wünsche &);
     bool ruhig() const { return maß.wünsche.ruhig; }
     Vorleser *vorleser() const { return leser.get(); }
+    /// Papier und Holz der Dialoge; leer, wenn das Bild fehlt.
+    QImage dialoggrund() { return u.bilder.roh(u.p.Ordner + "/bilder/formen/exchange/exchange.jpg"); }
     /// Eine kurze Notiz am unteren Rand.
     void notiere(const QString &t) { zettel->zeige(t, vergrößerung()); }
 
@@ -65,6 +67,7 @@ class Fenster : public QWidget {
     void folgeRing();
     void nimmFokus();
     void folgeGezogenem();
+    void folgeBerührtem();
     void folgeZeiger(Punkt);
     void setzeZeiger(const Picture &);
     Punkt ort(const QMouseEvent &) const;

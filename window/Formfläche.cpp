@@ -7,6 +7,7 @@
 #include "window/Farbtöne.h"
 #include "window/Knopf.h"
 #include "window/Malen.h"
+#include "window/Schmuck.h"
 #include "window/Schrift.h"
 #include "window/Umriss.h"
 
@@ -88,6 +89,7 @@ void Formfläche::folgePlatz(const Form &form) {
     const Rechteck platz = beruhigt({this, {}}, {form.Left, form.Top, 0, 0});
     const QPoint ecke(maß.punkt(platz.Left), maß.punkt(platz.Top));
     setGeometry(maß.fensterrechteck(QRect(ecke, größe).marginsAdded(saum)));
+    leuchtet = form.Zeichnung();
     setAttribute(Qt::WA_OpaquePaintEvent, umriss.isEmpty() && !wirftSchatten);
     const Grund neu{form.Picture().Datei, form.BackColor};
     if (neu == grund) return;
@@ -128,17 +130,21 @@ void Formfläche::folgeSchwung() {
 void Formfläche::folgeZeichnung(const Form &form) {
     static const std::vector<std::pair<Rechteck, Farbe>> keine;
     const auto &neu = form.Zeichnung() ? *form.Zeichnung() : keine;
-    const auto gleich = [&](std::size_t i) {
-        const auto &[a, fa] = zeichnung[i];
-        const auto &[b, fb] = neu[i];
-        return fa == fb && a.Left == b.Left && a.Top == b.Top && a.Width == b.Width && a.Height == b.Height;
+    if (neu.empty() && zeichnung.empty()) return;
+    const auto bereich = [this](const Funken &funken) {
+        QRect alle;
+        for (const auto &[r, farbe] : funken)
+            alle |= funkenbereich(maß.rechteck(r));
+        return alle;
     };
-    for (std::size_t i = 0; i < std::max(neu.size(), zeichnung.size()); ++i) {
-        if (i < neu.size() && i < zeichnung.size() && gleich(i)) continue;
-        if (i < zeichnung.size()) erneuere(maß.rechteck(zeichnung[i].first));
-        if (i < neu.size()) erneuere(maß.rechteck(neu[i].first));
-    }
+    if (!zeichnung.empty()) spur.push_front(std::move(zeichnung));
     zeichnung = neu;
+    // Ein Rechteck um alles: hundert kleine wären langsamer.
+    QRect alle = bereich(zeichnung);
+    for (const Funken &alte : spur)
+        alle |= bereich(alte);
+    erneuere(alle);
+    if (spur.size() > Spurlänge) spur.pop_back();
 }
 
 void Formfläche::folgeBedienelemente(const Form &form) {
@@ -200,6 +206,21 @@ bool Formfläche::nenneBilder(std::set<Bildwunsch> &gezeigt) const {
     return testAttribute(Qt::WA_OpaquePaintEvent) && geometry().contains(parentWidget()->rect());
 }
 
+void Formfläche::zeigeZeiger(bool hier, const Control *c, bool hält) {
+    if (hier != zeigerHier) {
+        zeigerHier = hier;
+        for (const Stück &s : liste)
+            if (s.nurUnterZeiger) erneuere(malbereich(s, maß));
+    }
+    if (c == berührt && hält == gedrückt) return;
+    for (const Control *anders : {berührt, c}) {
+        const Stück *s = anders ? stück(*anders) : nullptr;
+        if (s && s->wieKnopf) erneuere(*anders);
+    }
+    berührt = c;
+    gedrückt = hält;
+}
+
 void Formfläche::erneuere(const Control &c) {
     if (const Stück *s = stück(c)) erneuere(malbereich(*s, maß));
 }
@@ -238,31 +259,67 @@ void Formfläche::maleSaum(QPainter &p) {
         }
 }
 
+/// Die Funken, und schwächer, wo sie eben noch waren.
+void Formfläche::maleFeuerwerk(QPainter &p) {
+    if (zeichnung.empty() && spur.empty()) return;
+    p.setCompositionMode(QPainter::CompositionMode_Plus);
+    for (std::size_t alter = spur.size(); alter-- > 0;) {
+        const Funken &hier = spur[alter], &danach = alter > 0 ? spur[alter - 1] : zeichnung;
+        if (hier.size() != danach.size()) continue; // einer verglühte: wer wo war, ist nicht zu sagen
+        const double anteil = 1 - static_cast<double>(alter + 1) / (Spurlänge + 1);
+        for (std::size_t i = 0; i < hier.size(); ++i)
+            maleSpur(p, maß.rechteck(hier[i].first), maß.rechteck(danach[i].first), farbton::aus(hier[i].second),
+                     anteil);
+    }
+    for (const auto &[r, farbe] : zeichnung)
+        maleFunken(p, maß.rechteck(r), farbton::aus(farbe));
+    p.setCompositionMode(QPainter::CompositionMode_SourceOver);
+}
+
+void Formfläche::maleGrund(QPainter &p, const QRect &ganz) {
+    if (maleBild(p, u.bilder, grund.bild, ganz)) return;
+    if (leuchtet)
+        maleNacht(p, ganz);
+    else
+        malePapier(p, maß, ganz, farbton::aus(grund.farbe), wirftSchatten);
+}
+
+/// Ein Bild wie ein Knopf: unter dem Zeiger heller, gedrückt tiefer.
+void Formfläche::maleStück(QPainter &p, const Stück &s, QRect ort) {
+    const bool unterZeiger = s.wieKnopf && s.control == berührt && !s.gesperrt;
+    if (unterZeiger && gedrückt) ort.translate(0, static_cast<int>(maß.strich(1)));
+    p.setOpacity(s.blass ? 0.4 : 1);
+    maleInHaltung(p, s, ort);
+    p.setOpacity(1);
+    if (!unterZeiger || gedrückt) return;
+    p.setCompositionMode(QPainter::CompositionMode_Plus);
+    p.setOpacity(0.2);
+    maleBild(p, u.bilder, s.bild, ort);
+    p.setOpacity(1);
+    p.setCompositionMode(QPainter::CompositionMode_SourceOver);
+}
+
 void Formfläche::maleAlles(QPainter &p, const QRect &bereich) {
     const QRect ganz(QPoint(), größe);
     p.setClipRect(ganz);
-    if (!maleBild(p, u.bilder, grund.bild, ganz)) malePapier(p, maß, ganz, farbton::aus(grund.farbe), wirftSchatten);
-    for (const auto &[r, farbe] : zeichnung)
-        p.fillRect(maß.rechteck(r), farbton::aus(farbe));
+    maleGrund(p, ganz);
+    maleFeuerwerk(p);
     for (const Stück &s : liste) {
-        QRect ort = ortVon(s);
-        if (s.sorte == Sorte::Beschriftung) ort &= ganz; // Schrift soll nicht über den Rand laufen
-        if (!s.sichtbar || !bereichVon(s).intersects(bereich)) continue;
+        const QRect ort = ortVon(s);
+        if (!s.sichtbar || (s.nurUnterZeiger && !zeigerHier) || !bereichVon(s).intersects(bereich)) continue;
         if (s.sorte == Sorte::Film) {
             if (const QImage *film = u.filmbild(s.control))
                 p.drawImage(ort.topLeft(), film->scaled(ort.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
             continue;
         }
-        p.setOpacity(s.blass ? 0.4 : 1);
         maleStück(p, s, ort);
     }
-    p.setOpacity(1);
     for (const Stück &s : liste)
         if (s.sichtbar && s.sorte == Sorte::Bild) schwung.maleStaub(p, maß, s);
 }
 
 /// In seiner Haltung: gedreht und gestreckt um die Mitte.
-void Formfläche::maleStück(QPainter &p, const Stück &s, const QRect &ort) {
+void Formfläche::maleInHaltung(QPainter &p, const Stück &s, const QRect &ort) {
     const Haltung h = haltungVon(s);
     if (h.drehung == 0 && h.breite == 1 && h.maß == 1) return male(p, u.bilder, maß, s, ort);
     const QPointF mitte = QRectF(ort).center();
@@ -296,7 +353,9 @@ void Formfläche::paintEvent(QPaintEvent *e) {
         return maleAlles(p, bereich);
     }
     // Eine Form mit Umriss wird gezeichnet und dann mit glattem Rand ausgeschnitten.
-    const QRect teil = bereich.intersected(umriss.boundingRect().toAlignedRect().adjusted(-2, -2, 2, 2));
+    const double linie = maß.strich(1.5);
+    const int rand = static_cast<int>(linie) + 1;
+    const QRect teil = bereich.intersected(umriss.boundingRect().toAlignedRect().adjusted(-rand, -rand, rand, rand));
     if (teil.isEmpty()) return;
     QPixmap blatt(teil.size());
     blatt.fill(Qt::transparent);
@@ -306,7 +365,7 @@ void Formfläche::paintEvent(QPaintEvent *e) {
         q.translate(-teil.topLeft());
         maleAlles(q, teil);
     }
-    p.setPen(Qt::NoPen);
+    p.setPen(QPen(farbton::aus(farbe::Blasenrand), linie, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     p.setBrush(blatt);
     p.setBrushOrigin(teil.topLeft());
     p.drawPath(umriss);

@@ -12,6 +12,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <deque>
 #include <functional>
 #include <map>
 #include <optional>
@@ -55,6 +56,9 @@ class Formfläche : public QWidget {
     VisualControl *zu(const QWidget &) const;
     /// Zeigt den Knopf gedrückt, den die Tasten halten; null: keinen.
     void zeigeGedrückt(const Control *);
+    /// Ob der Zeiger auf der vordersten Form und diese es ist, auf welchem Steuerelement er liegt, und ob eine
+    /// Maustaste gedrückt ist.
+    void zeigeZeiger(bool hier, const Control *, bool hält);
     /// Zeichnet das Steuerelement neu.
     void erneuere(const Control &);
 
@@ -86,8 +90,11 @@ class Formfläche : public QWidget {
     QRect bereichVon(const Stück &) const;
     QPoint ursprung() const { return {saum.left(), saum.top()}; }
     void maleSaum(QPainter &);
+    void maleGrund(QPainter &, const QRect &ganz);
+    void maleFeuerwerk(QPainter &);
+    void maleStück(QPainter &, const Stück &, QRect ort);
+    void maleInHaltung(QPainter &, const Stück &, const QRect &ort);
     void maleAlles(QPainter &, const QRect &bereich);
-    void maleStück(QPainter &, const Stück &, const QRect &ort);
 
     Umgebung &u;
     Maß maß;
@@ -99,7 +106,13 @@ class Formfläche : public QWidget {
     bool wirftSchatten = false;
     QSize größe; // der Form, in Bildpunkten
     Zeichenliste liste;
-    std::vector<std::pair<Rechteck, Farbe>> zeichnung;
+    using Funken = std::vector<std::pair<Rechteck, Farbe>>;
+    static constexpr std::size_t Spurlänge = 5;
+    bool leuchtet = false; // die Form zeichnet ein Feuerwerk
+    Funken zeichnung;
+    std::deque<Funken> spur; // die letzten Zeichnungen, die jüngste vorn
+    const Control *berührt = nullptr;
+    bool gedrückt = false, zeigerHier = false;
     const Control *versetztes = nullptr;
     Haltung versatz;
     Schwung schwung;

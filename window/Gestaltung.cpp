@@ -63,7 +63,7 @@ void gestalteProgramm() {
 
 QString feldgestalt(double v) {
     return mitLängen(R"(
-        QLineEdit, QPlainTextEdit, QListWidget {
+        QLineEdit, QTextEdit, QListWidget {
             background: #FFFBF2; color: #2E2114; border: %1 solid #8A663E; border-radius: %4; padding: %1 %3;
             selection-background-color: #8A663E; selection-color: #FFFBF2 }
         QLineEdit:focus, QListWidget:focus { border-color: #C48A1E }

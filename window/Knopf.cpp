@@ -13,24 +13,7 @@ namespace {
 constexpr const char *Zustandsbilder[] = {"/ruhe.png", "/ruhe.png", "/gedrueckt.png", "/gesperrt.png"};
 constexpr int Ecke = 44;        // so weit reichen die Ecken der Zustandsbilder, in ihren Punkten
 constexpr double JeEntwurf = 4; // ihre Punkte je Bildpunkt des Entwurfs
-
-/// Das Bild in neuer Größe: die Ecken bleiben, die Kanten und die Mitte strecken sich.
-QImage gestreckt(const QImage &bild, const QSize &größe) {
-    QImage ziel(größe, QImage::Format_ARGB32_Premultiplied);
-    ziel.fill(Qt::transparent);
-    QPainter p(&ziel);
-    p.setRenderHint(QPainter::SmoothPixmapTransform);
-    const int eckeX = std::min(Ecke, größe.width() / 2), eckeY = std::min(Ecke, größe.height() / 2);
-    const int vonX[] = {0, Ecke, bild.width() - Ecke, bild.width()},
-              vonY[] = {0, Ecke, bild.height() - Ecke, bild.height()};
-    const int nachX[] = {0, eckeX, größe.width() - eckeX, größe.width()};
-    const int nachY[] = {0, eckeY, größe.height() - eckeY, größe.height()};
-    for (int x = 0; x < 3; ++x)
-        for (int y = 0; y < 3; ++y)
-            p.drawImage(QRect(QPoint(nachX[x], nachY[y]), QPoint(nachX[x + 1] - 1, nachY[y + 1] - 1)), bild,
-                        QRect(QPoint(vonX[x], vonY[y]), QPoint(vonX[x + 1] - 1, vonY[y + 1] - 1)));
-    return ziel;
-}
+constexpr double Niedrig = 18;  // Bildpunkte des Entwurfs
 
 } // namespace
 
@@ -67,8 +50,13 @@ QPixmap Knopf::körper(Zustand z, const QSize &größe) const {
         bild = QPixmap(größe);
         bild.fill(isEnabled() ? farbton::Holz.lighter(z == Zustand::Gedrückt ? 130 : 170) : farbton::Papier);
     } else {
-        const double je = JeEntwurf / (12 * maß.jeTwip);
-        const QImage groß = gestreckt(vorlage, QSizeF(größe.width() * je, größe.height() * je).toSize());
+        // Ein niedriger Knopf hat feinere Kanten.
+        const double fein = größe.height() < maß.strich(Niedrig) ? 2 : 1;
+        const double je = fein * JeEntwurf / (12 * maß.jeTwip);
+        QImage groß(QSizeF(größe.width() * je, größe.height() * je).toSize(), QImage::Format_ARGB32_Premultiplied);
+        groß.fill(Qt::transparent);
+        QPainter q(&groß);
+        maleGestreckt(q, vorlage, Ecke, groß.rect(), Ecke);
         bild = QPixmap::fromImage(groß.scaled(größe, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     }
     QPainter p(&bild);

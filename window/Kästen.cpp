@@ -2,6 +2,7 @@
 
 #include "window/Fenster.h"
 #include "window/Gestaltung.h"
+#include "window/Malen.h"
 
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -19,7 +20,7 @@ namespace {
 class Kasten : public QDialog {
   public:
     Kasten(Fenster &fenster, const QString &text, const QString &titel)
-        : QDialog(&fenster, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint), fenster(fenster),
+        : QDialog(&fenster, Qt::Dialog | Qt::FramelessWindowHint), fenster(fenster), grund(fenster.dialoggrund()),
           knöpfe(new QDialogButtonBox(QDialogButtonBox::Ok, this)) {
         const double punkt = fenster.vergrößerung(); // Längen des Fensters je Bildpunkt des Entwurfs
         const auto länge = [punkt](int entwurf) { return static_cast<int>(entwurf * punkt); };
@@ -28,12 +29,14 @@ class Kasten : public QDialog {
         auto *zeile = new QLabel(text, this);
         zeile->setTextFormat(Qt::PlainText);
         zeile->setWordWrap(true);
+        zeile->setAlignment(Qt::AlignCenter);
         zeile->setMinimumWidth(länge(260));
+        zeile->setVisible(!text.isEmpty());
         kopf = new QHBoxLayout;
         kopf->setSpacing(länge(14));
         kopf->addWidget(zeile);
         auto *spalte = new QVBoxLayout(this);
-        spalte->setContentsMargins(länge(20), länge(18), länge(20), länge(14));
+        spalte->setContentsMargins(länge(24), länge(24), länge(24), länge(20));
         spalte->setSpacing(länge(14));
         spalte->setSizeConstraint(QLayout::SetFixedSize);
         spalte->addLayout(kopf);
@@ -65,8 +68,17 @@ class Kasten : public QDialog {
         move(parentWidget()->mapToGlobal(parentWidget()->rect().center()) - rect().center());
     }
 
+    /// Papier in einem Holzrahmen, wie die Dialoge des Spiels.
+    void paintEvent(QPaintEvent *e) override {
+        constexpr int Ecke = 44; // Punkte des Bildes, vier je Bildpunkt des Entwurfs
+        if (grund.isNull()) return QDialog::paintEvent(e);
+        QPainter p(this);
+        maleGestreckt(p, grund, Ecke, rect(), static_cast<int>(fenster.vergrößerung() * Ecke / 4));
+    }
+
   private:
     Fenster &fenster;
+    const QImage grund;
     QHBoxLayout *kopf; // Zeichen und Text
     QDialogButtonBox *knöpfe;
 };

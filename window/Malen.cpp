@@ -2,6 +2,8 @@
 
 #include "surface/Malplatz.h"
 #include "window/Farbtöne.h"
+#include "window/Liste.h"
+#include "window/Schmuck.h"
 #include "window/Schrift.h"
 #include "window/Schwung.h"
 
@@ -16,22 +18,31 @@ namespace velmo {
 
 namespace {
 
+constexpr double Schattenbreite = 8; // Bildpunkte des Entwurfs
 constexpr int Ausrichtungen[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
 
 QPen stift(const QColor &farbe, double breite) { return {farbe, breite, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin}; }
 
-/// Ein Schildchen mit feinem Rand.
-void malePapier(QPainter &p, const Maß &m, const Stück &s, const QRect &ort) {
+/// Ein Schildchen mit feinem Rand, mitten an seinem Ort und nicht größer, als der Text es braucht.
+void maleSchild(QPainter &p, const Maß &m, const Stück &s, const QRect &ort, const QFont &f) {
+    const QSizeF bedarf = textbedarf(m, ort, ausrichtung(s), text(s.text), f);
+    const double breit = std::min(bedarf.width() + m.strich(8), double(ort.width())),
+                 hoch = std::min(bedarf.height() + m.strich(2), double(ort.height()));
+    const QRectF schild(QRectF(ort).center() - QPointF(breit, hoch) / 2, QSizeF(breit, hoch));
     const QColor grund = farbton::aus(s.grund);
-    p.setPen(stift(grund.darker(160), 12 * m.jeTwip));
+    p.setPen(Qt::NoPen);
+    p.setBrush(QColor(30, 15, 0, 90));
+    p.drawRoundedRect(schild.translated(m.strich(1), m.strich(1.5)), 40 * m.jeTwip, 40 * m.jeTwip);
+    p.setPen(stift(grund.darker(190), m.strich(1)));
     p.setBrush(grund);
-    p.drawRoundedRect(QRectF(ort).adjusted(0.5, 0.5, -0.5, -0.5), 40 * m.jeTwip, 40 * m.jeTwip);
+    p.drawRoundedRect(schild.adjusted(0.5, 0.5, -0.5, -0.5), 40 * m.jeTwip, 40 * m.jeTwip);
 }
 
 void maleBeschriftung(QPainter &p, const Maß &m, const Stück &s, const QRect &ort) {
-    if (s.deckend && !s.text.empty()) malePapier(p, m, s, ort);
-    maleText(p, m, ort, ausrichtung(s), text(s.text), schrift(s.schriftart, s.schriftgrad, s.fett, Satzpunkte),
-             s.gesperrt ? farbton::Blass : farbton::aus(s.farbe));
+    if (s.liste) return maleListe(p, m, s, ort);
+    const QFont f = schrift(s.schriftart, s.schriftgrad, s.fett, Satzpunkte);
+    if (s.deckend && !s.text.empty()) maleSchild(p, m, s, ort, f);
+    maleText(p, m, ort, ausrichtung(s), text(s.text), f, s.gesperrt ? farbton::Blass : farbton::aus(s.farbe));
 }
 
 /// Das Wachsende steht auf der Unterkante seiner vollen Höhe; zu sehen ist sein oberer Teil.
@@ -71,7 +82,7 @@ void maleBildelement(QPainter &p, Bildspeicher &bilder, const Maß &m, const St�
         maleWachsendes(p, bilder, m, s, ort);
     else
         maleBild(p, bilder, s.bild, ort);
-    if (s.rand > 0) {
+    if (s.rand > 0 && !s.wieKnopf) {
         const double breite = m.strich(2);
         p.setPen(stift(farbton::Messing, breite));
         p.setBrush(Qt::NoBrush);
@@ -101,7 +112,8 @@ void maleBildfeld(QPainter &p, Bildspeicher &bilder, const Maß &m, const Stück
 void maleRahmen(QPainter &p, const Maß &m, const Stück &s, const QRect &ort) {
     const double breite = m.strich(s.rand);
     const QRectF innen = QRectF(ort).adjusted(breite / 2, breite / 2, -breite / 2, -breite / 2);
-    p.setPen(stift(farbton::aus(s.farbe), breite));
+    // Was der Entwurf schwarz lässt, ist hier aus Holz.
+    p.setPen(stift(s.farbe == farbe::Schwarz ? farbton::Holz : farbton::aus(s.farbe), breite));
     p.setBrush(Qt::NoBrush);
     if (s.gestalt == Gestalt::Ellipse) p.drawEllipse(innen);
     if (s.gestalt == Gestalt::Rechteck) p.drawRect(innen);
@@ -130,8 +142,10 @@ int ausrichtung(const Stück &s) {
 }
 
 QRect knopfschrift(const Stück &s, const Maß &m, const QRect &knopf) {
-    const int rand = static_cast<int>(m.strich(3));
-    QRect r = knopf.adjusted(rand, rand, -rand, -rand);
+    constexpr double Zeile = 17; // Bildpunkte des Entwurfs; ein niedriger Knopf lässt der Schrift alle Höhe
+    const int rand = static_cast<int>(m.strich(3)), seitenrand = static_cast<int>(m.strich(5));
+    const int hochrand = std::clamp(static_cast<int>((knopf.height() - m.strich(Zeile)) / 2), 0, rand);
+    QRect r = knopf.adjusted(seitenrand, hochrand, -seitenrand, -hochrand);
     if (!s.bild.empty() && !s.text.empty()) r.setTop(r.bottom() + 1 - m.punkt(s.schriftgrad * 26));
     return r;
 }
@@ -157,12 +171,17 @@ QRect malbereich(const Stück &s, const Maß &m) {
     QRect bereich = malort(s, m).normalized();
     if (s.drehung != 0) bereich = gedreht(bereich);
     if (s.wächst) bereich |= m.rechteck(bildplatz(s));
-    int rand = s.sorte == Sorte::Linie ? static_cast<int>(m.strich(s.rand)) + 1 : 1;
+    if (s.schein) bereich = scheinbereich(bereich, m);
+    int rand = s.sorte == Sorte::Linie ? static_cast<int>(m.strich(s.rand)) + 1
+               : s.schatten            ? static_cast<int>(m.strich(Schattenbreite)) + 1
+                                       : 1;
     if (s.gebaren == Gebaren::Schwebt) rand += schwebeschatten(m);
     return bereich.adjusted(-rand, -rand, rand, rand);
 }
 
 void male(QPainter &p, Bildspeicher &bilder, const Maß &m, const Stück &s, const QRect &ort) {
+    if (s.schatten) maleSchatten(p, ort, static_cast<int>(m.strich(Schattenbreite)));
+    if (s.schein) maleSchein(p, ort, m, farbton::aus(*s.schein));
     switch (s.sorte) {
     case Sorte::Schatten:
         return maleBodenschatten(p, bilder, m, s, ort);
@@ -193,6 +212,20 @@ bool maleBild(QPainter &p, Bildspeicher &bilder, const std::string &Datei, const
     return true;
 }
 
+void maleGestreckt(QPainter &p, const QImage &bild, int ecke, const QRect &ziel, int zielecke) {
+    const int eckeX = std::min(zielecke, ziel.width() / 2), eckeY = std::min(zielecke, ziel.height() / 2);
+    const int vonX[] = {0, ecke, bild.width() - ecke, bild.width()},
+              vonY[] = {0, ecke, bild.height() - ecke, bild.height()};
+    const int nachX[] = {0, eckeX, ziel.width() - eckeX, ziel.width()};
+    const int nachY[] = {0, eckeY, ziel.height() - eckeY, ziel.height()};
+    p.setRenderHint(QPainter::SmoothPixmapTransform);
+    for (int x = 0; x < 3; ++x)
+        for (int y = 0; y < 3; ++y)
+            p.drawImage(QRect(QPoint(nachX[x], nachY[y]), QPoint(nachX[x + 1] - 1, nachY[y + 1] - 1))
+                            .translated(ziel.topLeft()),
+                        bild, QRect(QPoint(vonX[x], vonY[y]), QPoint(vonX[x + 1] - 1, vonY[y + 1] - 1)));
+}
+
 namespace {
 
 /// Größer, wie der Spieler es wünscht, soweit der Platz reicht.
@@ -214,6 +247,13 @@ void maleKontrast(QPainter &p, const QRectF &r, int ausrichtung, const QString &
 }
 
 } // namespace
+
+QSizeF textbedarf(const Maß &m, const QRect &r, int ausrichtung, const QString &t, const QFont &f) {
+    const double strecke = m.jeTwip * 12 / Satzpunkte;
+    const QSizeF platz = QSizeF(r.size()) / strecke;
+    const QFontMetricsF maß(gewünscht(f, m.wünsche, platz, ausrichtung, t));
+    return maß.boundingRect(QRectF(QPointF(), platz), ausrichtung, t).size() * strecke;
+}
 
 void maleText(QPainter &p, const Maß &m, const QRect &r, int ausrichtung, const QString &t, const QFont &f,
               const QColor &farbe) {
@@ -243,18 +283,6 @@ void malePapier(QPainter &p, const Maß &m, const QRect &r, const QColor &farbe,
     const double fein = m.strich(1), ab = breite * 1.5;
     p.setPen(QPen(QColor(0x8A, 0x66, 0x3E, 110), fein, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     p.drawRect(QRectF(r).adjusted(ab, ab, -ab, -ab));
-}
-
-void maleSchatten(QPainter &p, const QRect &form, int breite) {
-    // Ringe, die nach außen schwächer werden; nach unten versetzt, denn das Licht kommt von oben.
-    const QRectF grund = QRectF(form).translated(0, breite / 4.0);
-    p.setPen(Qt::NoPen);
-    const int ringe = std::clamp(breite, 4, 16);
-    for (int i = 0; i < ringe; ++i) {
-        const double aus = breite * 0.75 * (ringe - i) / ringe;
-        p.setBrush(QColor(20, 10, 0, 90 / ringe));
-        p.drawRoundedRect(grund.adjusted(-aus, -aus, aus, aus), aus, aus);
-    }
 }
 
 } // namespace velmo

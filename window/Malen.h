@@ -31,11 +31,13 @@ QRect knopfschrift(const Stück &, const Maß &, const QRect &knopf);
 
 /// Ein Bild im Rechteck, ohne Verzerrung der Kanten; falsch, wenn es sich nicht lesen lässt.
 bool maleBild(QPainter &, Bildspeicher &, const std::string &Datei, const QRect &);
+/// Ein Bild auf das Rechteck gestreckt: seine Ecken bleiben, die Kanten und die Mitte strecken sich.
+void maleGestreckt(QPainter &, const QImage &, int ecke, const QRect &ziel, int zielecke);
 /// Umbrochener Text; was nicht passt, wird kleiner. Die Schrift ist in Satzpunkten.
 void maleText(QPainter &, const Maß &, const QRect &, int ausrichtung, const QString &, const QFont &, const QColor &);
+/// Wie viel Platz derselbe Text braucht, Bildpunkte des Bildschirms.
+QSizeF textbedarf(const Maß &, const QRect &, int ausrichtung, const QString &, const QFont &);
 /// Der Grund einer Form ohne Bild: Papier in ihrer Farbe mit feinem Rahmen.
 void malePapier(QPainter &, const Maß &, const QRect &, const QColor &, bool rahmen);
-/// Der weiche Schatten ringsum, den eine Form auf die dahinter wirft.
-void maleSchatten(QPainter &, const QRect &form, int breite);
 
 } // namespace velmo

@@ -3,6 +3,7 @@
 #include "surface/Tastentafel.h"
 #include "window/Farbtöne.h"
 #include "window/Malen.h"
+#include "window/Schmuck.h"
 #include "window/Schrift.h"
 
 #include <QPainter>

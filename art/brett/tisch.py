@@ -1,4 +1,4 @@
-"""Der Tisch, auf dem das Brett liegt (formen/form1/form1.jpg), und das Zeichen des Spiels (formen/velmo.png)."""
+"""Das Holz des Tischs, auf dem das Brett liegt, für einlagen.py, und das Zeichen des Spiels (formen/velmo.png)."""
 from kasten import *
 from knoten import stoffbaum
 from wagen.wagen import wagen

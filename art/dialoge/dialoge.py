@@ -1,6 +1,7 @@
 """Die Hintergründe der Dialoge: warmes Papier auf Holz, Messing; ihre Dinge, Zeichen und Knöpfe."""
 from dialoge.dinge import *
 from dialoge.knöpfe import knopf, scheibenknopf
+from dialoge.wappen import mulde
 
 
 def geldfeld():
@@ -50,8 +51,7 @@ def kran(x, y, s):
 
 def bauphase():
     b, h = 1952, 1148
-    felder = "".join(f'<rect x="{x / 3 - 8}" y="{y / 3 - 8}" width="340" height="260" rx="14" fill="#5c3419" '
-                     f'opacity=".14"/>' for x in (600, 1800, 3000, 4200) for y in (840, 1680))
+    felder = "".join(mulde(k, (600 + 1200 * (k % 4)) / 3, (840 + 840 * (k // 4)) / 3) for k in range(8))
     # die Überschrift beginnt ganz oben
     return svg(b, h, tafel(b, h, 20, innen=kran(1560, 1090, .55) + felder, oben=7, zierlinie=False), grunddefs())
 
@@ -66,8 +66,7 @@ def tor(x, y, s):
 
 def eingang():
     b, h = 2120, 1300
-    felder = "".join(f'<rect x="{x / 3 - 8}" y="{y / 3 - 8}" width="340" height="260" rx="14" fill="#5c3419" '
-                     f'opacity=".14"/>' for x in (720, 1920, 3120, 4320) for y in (1440, 2280))
+    felder = "".join(mulde(k, (720 + 1200 * (k % 4)) / 3, (1440 + 840 * (k // 4)) / 3) for k in range(8))
     blätter = "".join(palmblatt(x, h - 46, w, l, .95) for x, w, l in (
         (64, -52, 190), (64, -14, 180), (b - 64, -166, 180), (b - 64, -128, 190)))
     return svg(b, h, tafel(b, h, 24, innen=tor(300, 1240, .55) + tor(1800, 1240, .55) + felder + blätter), grunddefs())
@@ -115,7 +114,7 @@ def menu2():
               f'<g transform="translate(594 940) scale(1.06)">{plakette()}</g>')
     tisch = glocke(2560, 156, 1.05) + schlüssel(260, 180, -14, 1.0)
     return svg(b, h, tafel(b, h, 34, innen=bild + buch + wappen + messingschild(970, 92, 1016, 190, "Anmeldung", 112)
-                           + tisch), grunddefs() + SEE)
+                           + tisch, zierlinie=False), grunddefs() + SEE)
 
 
 def hof():

@@ -192,7 +192,21 @@ def tauschen():
               f'<g fill="#3f7d2b" stroke="#fffbe0" stroke-width="3" stroke-linejoin="round" paint-order="stroke">'
               f'<path transform="scale(.92) translate(0 -2)" d="{pfeil}"/><path transform="rotate(180) scale(.92) '
               f'translate(0 -2)" d="{pfeil}"/></g></g>')
-    return svg(160, 160, teile, kugel("mz", [(0, "#fff3c4"), (.45, "#efc258"), (1, "#b4781f")]))
+    return svg(160, 160, tastenkörper() + f'<g transform="translate(27 24) scale(.68)">{teile}</g>',
+               kugel("mz", [(0, "#fff3c4"), (.45, "#efc258"), (1, "#b4781f")])
+               + verlauf("taste", [(0, "#fff7e2"), (.34, "#fbe6b8"), (.66, "#f0cd8c"), (1, "#dba75a")])
+               + verlauf("kante", [(0, "#b9803f"), (1, "#6b3d15")]))
+
+
+def tastenkörper():
+    """Eine Taste wie die Knöpfe der Dialoge."""
+    return ('<rect x="8" y="12" width="146" height="144" rx="28" fill="#1c0c02" opacity=".55" filter="url(#weich)"/>'
+            '<rect x="5" y="4" width="150" height="150" rx="28" fill="url(#kante)"/>'
+            '<rect x="10" y="8" width="140" height="138" rx="24" fill="#7a4a1c"/>'
+            '<rect x="10" y="8" width="140" height="132" rx="24" fill="url(#taste)"/>'
+            '<path d="M15 38Q15 13 38 13H122Q145 13 145 38" fill="none" stroke="#fffdf2" stroke-width="4" '
+            'stroke-linecap="round" '
+            'opacity=".8"/>')
 
 
 BILDER = dict(muschel=muschel, palme=palme, segler=segler, leuchtturm=leuchtturm, palast=palast)

@@ -42,6 +42,22 @@ const BAU = {
 
 const ROLLEN = { Knopf: "button", Bild: "img", Gruppe: "group", Ansage: "status", Feld: undefined, Text: undefined };
 
+/// Jede Zeile des Textes in gleicher Höhe auf einer Linie, auf Wunsch mit Rang oder Medaille.
+function zeigeListe(e, m, o) {
+  const [zahl, rang, hervor] = m.liste, hoch = o.höhe / zahl, zeilen = m.text.split("\n");
+  e.classList.add("tafel");
+  while (e.children.length < zahl) e.append(neu("span"));
+  [...e.children].forEach((zeile, i) => {
+    zeile.classList.toggle("hervor", i + 1 === hervor);
+    zeile.style.height = zeile.style.lineHeight = `${hoch}px`;
+    if (!zeile.children.length) zeile.append(neu("i"), neu("b"));
+    zeile.firstChild.textContent = rang ? i + 1 : "";
+    const text = (zeilen[i] ?? "").trim();
+    zeile.classList.toggle("leer", !text);
+    setze(zeile.lastChild, { ...m, text }, o.breite - (rang ? 1.4 : 0.5) * hoch, hoch);
+  });
+}
+
 export class Stückelement {
   constructor(form, n) {
     this.form = form;
@@ -73,6 +89,7 @@ export class Stückelement {
     if (m.sorte !== "Linie")
       Object.assign(e.style, { left: `${links}px`, top: `${oben}px`, width: `${breite}px`, height: `${höhe}px` });
     e.style.opacity = m.blass ? 0.4 : "";
+    for (const art of ["schatten", "taste", "glanz"]) e.classList.toggle(art, Boolean(m[art]));
     if (e.title !== m.hinweis) e.title = m.hinweis ?? "";
     if (m.sichtbar) this[`zeige${m.sorte}`]();
   }
@@ -92,13 +109,8 @@ export class Stückelement {
     e.classList.toggle("schild", Boolean(schild));
     e.style.backgroundColor = schild ? m.grund : "";
     e.style.borderColor = schild ? dunkler(m.grund, 1.6) : "";
-    // Schrift soll nicht über den Rand der Form laufen.
-    const { breite, höhe } = this.form.o;
-    o.breite = Math.min(o.breite, breite - o.links);
-    o.höhe = Math.min(o.höhe, höhe - o.oben);
-    e.style.width = `${o.breite}px`;
-    e.style.height = `${o.höhe}px`;
-    setze(e.firstChild, m, o.breite, o.höhe);
+    if (m.liste) zeigeListe(e, m, o);
+    else setze(e.firstChild, m, o.breite, o.höhe);
   }
 
   zeigeBild() {
@@ -106,7 +118,9 @@ export class Stückelement {
     const voll = m.voll ? bühne.ort(m.voll) : o;
     zeige(img, m.bild, voll.breite * bühne.punkte);
     Object.assign(img.style, { width: `${voll.breite}px`, height: `${voll.höhe}px` });
-    e.classList.toggle("umrandet", m.rand > 0);
+    e.classList.toggle("umrandet", m.rand > 0 && !m.taste);
+    e.classList.toggle("leuchtet", Boolean(m.schein));
+    e.style.setProperty("--schein", m.schein ?? "");
   }
 
   zeigeBildfeld() {

@@ -15,7 +15,7 @@ using namespace velmo;
 namespace {
 
 const std::map<std::string, std::uint32_t> Entwürfe = {
-    {"Form1", 3454314521},    {"Baufeld", 2320897887}, {"Bauphase", 3402272201}, {"Exchange", 1354425760},
+    {"Form1", 1509482267},    {"Baufeld", 2320897887}, {"Bauphase", 3402272201}, {"Exchange", 1354425760},
     {"Karten", 3522906824},   {"eingang", 134259359},  {"geldfeld", 2744400131}, {"Bezahlen", 315639588},
     {"Verloren", 1822796178}, {"Gewinn", 4128664492},  {"HoF", 3859453},         {"Assistent", 806231121},
     {"Sprech", 2712180336},   {"Intro", 1737451433},   {"Menu", 3428257786},     {"Menu2", 76962643},
