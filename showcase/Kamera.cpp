@@ -40,7 +40,7 @@ QImage aufnahme(Szene &szene, const Rechteck &ausschnitt, double faktor) {
     Umgebung umgebung{szene.p(),
                       {},
                       [](const Handler &) {}, // ein Bild ändert nichts
-                      [&](const Control *c) {
+                      [&](const Control *c, const QSize &) {
                           const auto film = filme.find(c);
                           return film == filme.end() ? nullptr : &film->second;
                       }};

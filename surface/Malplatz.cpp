@@ -3,6 +3,7 @@
 #include "platform/Laufzeit.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace velmo {
 
@@ -21,6 +22,8 @@ Rechteck bildplatz(const Stück &s) {
     if (s.sorte != Sorte::Bild || s.natürlicheBreite <= 0) return s.ort();
     return {s.Left, s.Top, s.natürlicheBreite, s.natürlicheHöhe};
 }
+
+double schattenkraft(const Stück &s) { return std::sqrt(std::clamp(s.Height / s.natürlicheHöhe, 0.0, 1.0)); }
 
 void blendeVerdeckendes(Zeichenliste &alle, const VisualControl *gezogen) {
     for (auto vorn = alle.begin(); vorn != alle.end(); ++vorn) {

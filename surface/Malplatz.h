@@ -9,6 +9,9 @@ Rechteck malplatz(const Stück &);
 /// Der volle Platz eines Bildes, auch wenn es erst wächst.
 Rechteck bildplatz(const Stück &);
 
+/// Wie sehr ein Schatten deckt: solange das Haus darüber noch steigt, ist er blasser.
+double schattenkraft(const Stück &);
+
 /// Was ein Steuerelement ist, das sich ziehen lässt, blendet während des Ziehens aus, was vor den Ablagen steht.
 void blendeVerdeckendes(Zeichenliste &, const VisualControl *gezogen);
 

@@ -4,6 +4,8 @@
 
 #include <QImageReader>
 
+#include <chrono>
+
 namespace velmo {
 
 namespace {
@@ -62,9 +64,28 @@ QPixmap Bildspeicher::bild(const std::string &Datei, const QSize &größe) {
     if (const std::unique_ptr<QPixmap> da(vorrat.take(vorratsname(wunsch))); da)
         fertig = *da;
     else
-        fertig = QPixmap::fromImage(gelesen(Datei, größe));
+        fertig = QPixmap::fromImage(erhalte(wunsch));
     if (!fertig.isNull()) fertige[wunsch] = fertig;
     return fertig;
+}
+
+/// Was schon ein anderer Faden liest, wird nicht zweimal gelesen.
+QImage Bildspeicher::erhalte(const Bildwunsch &wunsch) {
+    const auto anderswo = unterwegs.find(wunsch);
+    if (anderswo == unterwegs.end()) return gelesen(wunsch.Datei, wunsch.größe);
+    QImage bild = anderswo->second.get();
+    unterwegs.erase(anderswo);
+    return bild;
+}
+
+QPixmap Bildspeicher::baldigesBild(const std::string &Datei, const QSize &größe) {
+    const Bildwunsch wunsch{Datei, größe};
+    const bool da = fertige.contains(wunsch) || vorrat.contains(vorratsname(wunsch));
+    if (!nebenher || da || Datei.empty() || größe.isEmpty()) return bild(Datei, größe);
+    auto [hier, neu] = unterwegs.try_emplace(wunsch);
+    if (neu) hier->second = std::async(std::launch::async, gelesen, Datei, größe);
+    if (hier->second.wait_for(std::chrono::seconds(0)) != std::future_status::ready) return {};
+    return bild(Datei, größe);
 }
 
 void Bildspeicher::eile(bool an) {

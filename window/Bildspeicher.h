@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QPixmap>
 
+#include <future>
 #include <map>
 #include <set>
 #include <string>
@@ -29,6 +30,11 @@ class Bildspeicher {
     /// Das Bild der Datei in der Größe; ein leeres, wenn es sich nicht lesen lässt. In Eile ist es eines von anderer
     /// Größe, wenn es eines gibt.
     QPixmap bild(const std::string &Datei, const QSize &);
+    /// Dasselbe, ohne ein Bild der Anzeige aufzuhalten: ist es noch nicht gelesen, so liest es ein anderer Faden, und
+    /// es ist noch leer.
+    QPixmap baldigesBild(const std::string &Datei, const QSize &);
+    /// Ob andere Fäden lesen dürfen; sonst ist auch ein baldiges Bild gleich da.
+    bool nebenher = false;
     /// Das Bild, wie es auf der Platte steht; leer, wenn es sich nicht lesen lässt. Nur die kleinen bleiben.
     QImage roh(const std::string &Datei);
     /// Die Größe auf der Platte.
@@ -39,7 +45,10 @@ class Bildspeicher {
     void behalte(const std::set<Bildwunsch> &gezeigt);
 
   private:
+    QImage erhalte(const Bildwunsch &);
+
     std::map<Bildwunsch, QPixmap> fertige;
+    std::map<Bildwunsch, std::future<QImage>> unterwegs;
     QCache<QString, QPixmap> vorrat; // Kosten in KiB
     QCache<QString, QImage> rohe;    // ebenso
     std::map<std::string, QSize> größen;

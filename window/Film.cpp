@@ -4,6 +4,9 @@
 #include "platform/Dateien.h"
 #include "platform/Laufzeitfehler.h"
 
+#include <QBuffer>
+#include <QImageReader>
+
 #include <algorithm>
 
 namespace velmo {
@@ -33,12 +36,25 @@ void Film::zeigeStand(Zeit ms) {
     if (jetzt != gezeigt) zeige(jetzt);
 }
 
+const QImage &Film::bild(const QSize &neu) {
+    if (neu.isValid() && neu != größe) {
+        größe = neu;
+        zeige(gezeigt);
+    }
+    return gezeigtes;
+}
+
 /// Ein Bild, das sich nicht lesen lässt, lässt das vorige stehen.
 void Film::zeige(std::size_t nummer) {
     gezeigt = nummer;
     const Avi::Bild &b = aufbau.Bilder[nummer];
-    const auto *jpeg = reinterpret_cast<const uchar *>(bytes.data() + b.Ort);
-    QImage bild = QImage::fromData(QByteArrayView(jpeg, static_cast<qsizetype>(b.Länge)), "JPEG");
+    const QByteArray daten = QByteArray::fromRawData(bytes.data() + b.Ort, static_cast<qsizetype>(b.Länge));
+    QBuffer quelle;
+    quelle.setData(daten);
+    QImageReader leser(&quelle, "JPEG");
+    const QSize volle = leser.size();
+    if (größe.isValid() && größe.width() < volle.width() && größe.height() < volle.height()) leser.setScaledSize(größe);
+    QImage bild = leser.read();
     if (!bild.isNull()) gezeigtes = std::move(bild);
 }
 

@@ -20,7 +20,8 @@ class Film {
     void spiele();
     /// Zeigt das Bild nach so vielen ms, zuletzt das letzte.
     void zeigeStand(Zeit ms);
-    const QImage &bild() const { return gezeigtes; }
+    /// Das gezeigte Bild; von nun an in dieser Größe, wenn sie kleiner ist als der Film.
+    const QImage &bild(const QSize &größe = {});
     /// Wird bei jedem neuen Bild gerufen.
     std::function<void()> neuesBild;
 
@@ -32,6 +33,7 @@ class Film {
     const Avi aufbau;
     std::size_t gezeigt = 0;
     QImage gezeigtes;
+    QSize größe;
     QElapsedTimer uhr;
     QTimer takt;
 };

@@ -27,8 +27,8 @@ struct Umgebung {
     Programm &p;
     Bildspeicher bilder;
     Bearbeiter bearbeite;
-    /// Das laufende Bild eines Films; null, wenn keins läuft.
-    std::function<const QImage *(const Control *)> filmbild;
+    /// Das laufende Bild eines Films, möglichst in der Größe; null, wenn keins läuft.
+    std::function<const QImage *(const Control *, const QSize &)> filmbild;
 };
 
 class Formfläche : public QWidget {

@@ -49,7 +49,8 @@ void maleBeschriftung(QPainter &p, const Maß &m, const Stück &s, const QRect &
 void maleWachsendes(QPainter &p, Bildspeicher &bilder, const Maß &m, const Stück &s, const QRect &ort) {
     const QRect ganz(ort.topLeft(), bildgröße(s, m));
     const int hoch = std::min(m.punkt(s.Height), ganz.height());
-    const QPixmap bild = bilder.bild(s.bild, ganz.size());
+    // Auch ein Haus von null Höhe: gelesen wird es, ehe es zu sehen ist.
+    const QPixmap bild = bilder.baldigesBild(s.bild, ganz.size());
     if (bild.isNull() || hoch <= 0) return;
     const QRectF quelle(0, 0, bild.width(), bild.height() * double(hoch) / ganz.height());
     p.drawPixmap(QRectF(ganz.left(), ganz.bottom() + 1 - hoch, ganz.width(), hoch), bild, quelle);
@@ -59,7 +60,7 @@ void maleBodenschatten(QPainter &p, Bildspeicher &bilder, const Maß &m, const S
     if (ort.isEmpty()) return;
     const QPixmap bild = bilder.bild(s.bild, bildgröße(s, m));
     if (bild.isNull()) return;
-    p.setOpacity(std::sqrt(std::min(1.0, s.Height / s.natürlicheHöhe))); // solange es steigt, ist er noch blass
+    p.setOpacity(schattenkraft(s));
     p.drawPixmap(ort, bild);
     p.setOpacity(1);
 }
@@ -72,7 +73,7 @@ void maleSchwebeschatten(QPainter &p, const Maß &m, const QRect &ort) {
     const int breite = schwebeschatten(m);
     p.save();
     p.setClipRegion(QRegion(ort.adjusted(-breite, -breite, breite, breite)) - ort, Qt::IntersectClip);
-    maleSchatten(p, ort, breite);
+    maleSchatten(p, ort, breite, 5); // in Bewegung genügen wenige Ringe
     p.restore();
 }
 

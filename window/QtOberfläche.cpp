@@ -48,10 +48,11 @@ int QtOberfläche::laufe(Programm &p, const Handler &beginn) {
     umgebung.reset(new Umgebung{p,
                                 {},
                                 [this](const Handler &h) { bearbeite(h); },
-                                [this](const Control *c) {
+                                [this](const Control *c, const QSize &größe) {
                                     const auto film = filme.find(c);
-                                    return film == filme.end() ? nullptr : &film->second->bild();
+                                    return film == filme.end() ? nullptr : &film->second->bild(größe);
                                 }});
+    umgebung->bilder.nebenher = true;
     fenster = std::make_unique<Fenster>(*umgebung, [this] { schließe(); });
     if (!gedächtnis.Fenster.isEmpty()) fenster->restoreGeometry(gedächtnis.Fenster);
     richteLautstärkeEin();

@@ -24,11 +24,11 @@ QColor leuchtfarbe(const QColor &farbe) {
 
 } // namespace
 
-void maleSchatten(QPainter &p, const QRect &ding, int breite) {
+void maleSchatten(QPainter &p, const QRect &ding, int breite, int höchstens) {
     // Ringe, die nach außen schwächer werden; nach unten versetzt, denn das Licht kommt von oben.
     const QRectF grund = QRectF(ding).translated(0, breite / 4.0);
     p.setPen(Qt::NoPen);
-    const int ringe = std::clamp(breite, 4, 16);
+    const int ringe = std::clamp(breite, 4, höchstens);
     for (int i = 0; i < ringe; ++i) {
         const double aus = breite * 0.75 * (ringe - i) / ringe;
         p.setBrush(QColor(20, 10, 0, 90 / ringe));

@@ -7,7 +7,7 @@
 namespace velmo {
 
 /// Der weiche Schatten ringsum, den etwas auf das dahinter wirft.
-void maleSchatten(QPainter &, const QRect &ding, int breite);
+void maleSchatten(QPainter &, const QRect &ding, int breite, int höchstens = 16);
 /// Der Schein, in dem ein Ding steht, und wie weit er reicht.
 QRect scheinbereich(const QRect &ding, const Maß &);
 void maleSchein(QPainter &, const QRect &ding, const Maß &, const QColor &);
