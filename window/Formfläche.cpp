@@ -102,6 +102,7 @@ void Formfläche::folgeListe(const Form &form, const VisualControl *gezogen) {
     if (gezogen) blendeVerdeckendes(neu, gezogen);
     for (Stück &s : neu) {
         s.hinweis = mitTaste(s.hinweis, form.Name, s.control->Name);
+        if (maß.wünsche.ruhig) s.drehung = 0;
         const Rechteck ort = beruhigt({s.control, s.sorte}, s.ort());
         std::tie(s.Left, s.Top, s.Width, s.Height) = std::tie(ort.Left, ort.Top, ort.Width, ort.Height);
     }

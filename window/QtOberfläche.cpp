@@ -193,7 +193,7 @@ void QtOberfläche::zeigeSchritt(const Control &c, double ms) {
         const double jetzt = nun();
         const double anteil = std::clamp((jetzt - *beginn) / ms, 0.0, 1.0);
         if (anteil < 1)
-            fläche->versetze(c, fahrt(weg, anteil, altesBild, bild));
+            fläche->versetze(c, fenster->ruhig() ? Haltung{} : fahrt(weg, anteil, altesBild, bild));
         else
             fläche->stelleHin();
         zeigeBild();
