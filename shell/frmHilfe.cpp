@@ -12,7 +12,7 @@ frmHilfe::frmHilfe(Programm &programm) : Form(programm, Formname, {0, 0, 9612, 7
     Label1.Satzausrichtung = Ausrichtung::Mitte;
     Label1.Zeicheneinzug = {-2040, 24, -1188, 0};
     Text6.Zeicheneinzug = {72, 48, 192, 84};
-    Text6.Schriftmaß = 0.93; // die Zeilen passen in die Breite
+    Text6.Schriftmaß = 0.91; // die Zeilen passen in die Breite
     Command1.Zeicheneinzug = {3816, 0, 3708, 0};
     std::string text;
     for (const char *zeile : Hilfezeilen)

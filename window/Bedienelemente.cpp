@@ -13,6 +13,8 @@
 #include <QTextBlock>
 #include <QTextEdit>
 
+#include <map>
+
 namespace velmo {
 
 namespace {
@@ -70,29 +72,42 @@ Bedienelement textfeld(TextBox &feld, QWidget *form, Programm &p, const Bearbeit
             }};
 }
 
-/// Eine Überschrift beginnt mit einem Strich oder steht ganz in Großbuchstaben.
-bool istÜberschrift(const QString &zeile) {
-    return zeile.startsWith('-') || (zeile.toUpper() == zeile && zeile.toLower() != zeile);
+enum class Zeilenart { Text, Abschnitt, Punkt, Aufzählung };
+
+/// Ein Abschnitt steht ganz in Großbuchstaben; was mit einem Strich beginnt, ist kurz ein Punkt, lang aufgezählt.
+Zeilenart zeilenart(const QString &zeile) {
+    constexpr int Kurz = 50; // Zeichen
+    if (zeile.isEmpty()) return Zeilenart::Text;
+    if (zeile[0] == '-') return zeile.size() <= Kurz ? Zeilenart::Punkt : Zeilenart::Aufzählung;
+    if (zeile[0].isDigit()) return Zeilenart::Aufzählung;
+    return zeile[0].isUpper() && zeile.toUpper() == zeile ? Zeilenart::Abschnitt : Zeilenart::Text;
 }
 
 /// Der Text als Seite: Überschriften abgesetzt, Aufzählungen eingerückt; grad: Längen des Fensters.
 void setzeSeite(QTextEdit &w, const QString &t, int grad) {
+    struct Satz {
+        double darüber, links, groß;
+        QColor farbe;
+    };
+    const std::map<Zeilenart, Satz> sätze = {{Zeilenart::Text, {0.12, 0, 1, farbton::Tinte}},
+                                             {Zeilenart::Abschnitt, {1.2, 0, 1.25, farbton::Holz}},
+                                             {Zeilenart::Punkt, {0.7, 0, 1.06, farbton::Überschrift}},
+                                             {Zeilenart::Aufzählung, {0.12, 1.4, 1, farbton::Tinte}}};
     w.setPlainText(t);
     w.document()->setDocumentMargin(grad * 0.7);
     for (QTextBlock zeile = w.document()->begin(); zeile.isValid(); zeile = zeile.next()) {
-        const bool überschrift = istÜberschrift(zeile.text()), punkt = zeile.text().startsWith('-');
-        const bool gezählt = !zeile.text().isEmpty() && zeile.text()[0].isDigit();
+        const Satz &s = sätze.at(zeilenart(zeile.text()));
         QTextCursor hier(zeile);
         QTextBlockFormat satz;
-        satz.setTopMargin(überschrift ? grad * (punkt ? 0.7 : 1.2) : grad * 0.12);
+        satz.setTopMargin(grad * s.darüber);
+        satz.setLeftMargin(grad * s.links);
         satz.setLineHeight(112, QTextBlockFormat::ProportionalHeight);
-        if (gezählt) satz.setLeftMargin(grad * 1.4);
         hier.setBlockFormat(satz);
-        if (!überschrift) continue;
+        if (s.groß == 1) continue;
         QTextCharFormat schrift;
         schrift.setFontWeight(QFont::Bold);
-        schrift.setForeground(punkt ? farbton::Überschrift : farbton::Holz);
-        schrift.setProperty(QTextFormat::FontPixelSize, static_cast<int>(grad * (punkt ? 1.06 : 1.25)));
+        schrift.setForeground(s.farbe);
+        schrift.setProperty(QTextFormat::FontPixelSize, static_cast<int>(grad * s.groß));
         hier.select(QTextCursor::BlockUnderCursor);
         hier.mergeCharFormat(schrift);
     }
