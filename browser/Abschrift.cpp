@@ -13,6 +13,11 @@ int Abschrift::nummer(const Control &c) {
     return static_cast<int>(std::find(alle.begin(), alle.end(), &c) - alle.begin());
 }
 
+int Abschrift::nummer(const Stück &s) {
+    const int n = nummer(*s.control);
+    return s.sorte == Sorte::Schatten ? -1 - n : n;
+}
+
 Form *Abschrift::form(std::uint64_t nummer) const {
     for (Form *f : p.Formen())
         if (f->Nummer == nummer) return f;
@@ -48,6 +53,13 @@ void Abschrift::folge() {
         reihenfolge = std::move(neu);
         bündel.nimm("formfolge", {{"formen", json(reihenfolge)}});
     }
+    std::vector<std::uint64_t> gelesen;
+    for (const Form *f : lesbareFormen(p))
+        gelesen.push_back(f->Nummer);
+    if (Merkmale neu{{"formen", json(gelesen)}}; neu != lesbare) {
+        lesbare = std::move(neu);
+        bündel.nimm("lesbare", lesbare);
+    }
     folgeUmland();
 }
 
@@ -77,24 +89,42 @@ void Abschrift::folgeForm(const Form &f, Seitenform &seite) {
     Zeichenliste liste = zeichenliste(f);
     if (gezogen) blendeVerdeckendes(liste, gezogen);
     std::vector<int> folge;
+    const auto namen = folgeLesefolge(f, seite);
     for (Stück &s : liste) {
         s.hinweis = mitTaste(s.hinweis, f.Name, s.control->Name);
-        folgeStück(f, seite, s);
-        folge.push_back(nummer(*s.control));
+        const auto name = s.sorte == Sorte::Schatten ? namen.end() : namen.find(s.control);
+        folgeStück(f, seite, s, name == namen.end() ? Benennung{} : name->second);
+        folge.push_back(nummer(s));
     }
     if (folge == seite.reihenfolge) return;
     seite.reihenfolge = std::move(folge);
     bündel.nimm("stückfolge", {{"form", json(f.Nummer)}, {"stücke", json(seite.reihenfolge)}});
 }
 
-void Abschrift::folgeStück(const Form &f, Seitenform &seite, const Stück &s) {
-    const auto *c = dynamic_cast<const VisualControl *>(s.control);
-    const Benennung name = c && s.sichtbar ? benenne(p, *c) : Benennung{};
-    const int n = nummer(*s.control);
+/// Meldet, in welcher Folge vorgelesen wird; gibt, wie was heißt.
+std::map<const Control *, Benennung> Abschrift::folgeLesefolge(const Form &f, Seitenform &seite) {
+    std::map<const Control *, Benennung> namen;
+    std::string stellen = "[";
+    for (const Lesestelle &e : lesefolge(p, f, satz)) {
+        namen[e.control] = e.b;
+        stellen += (stellen.size() > 1 ? ",[" : "[") + json(nummer(*e.control)) + "," +
+                   (e.gruppe ? json(nummer(*e.gruppe)) : "null") + "]";
+    }
+    Merkmale neu{{"form", json(f.Nummer)}, {"stellen", stellen + "]"}};
+    if (neu != seite.lesefolge) {
+        seite.lesefolge = std::move(neu);
+        bündel.nimm("lesefolge", seite.lesefolge);
+    }
+    return namen;
+}
+
+void Abschrift::folgeStück(const Form &f, Seitenform &seite, const Stück &s, const Benennung &name) {
+    const int n = nummer(s);
     auto [hier, frisch] = seite.stücke.try_emplace(n);
     Seitenstück &alt = hier->second;
     // Was in einem Feld steht, weiß das Stück nicht.
     if (!frisch && s.sorte != Sorte::Bedienelement && alt.stück == s && alt.name == name) return;
+    if (!frisch && !ruhig) bewege(alt, s);
     alt.stück = s;
     alt.name = name;
     Merkmale neu = merkmale(p, s, name);
@@ -104,6 +134,29 @@ void Abschrift::folgeStück(const Form &f, Seitenform &seite, const Stück &s) {
     anders["form"] = json(f.Nummer);
     anders["stück"] = json(n);
     bündel.nimm("stück", anders);
+}
+
+/// Was sich beim Ansehen bewegt: ein Würfel rollt auf sein neues Bild, um ein steigendes Haus wirbelt Staub.
+void Abschrift::bewege(Seitenstück &alt, const Stück &neu) {
+    if (neu.gebaren == Gebaren::Purzelt && alt.stück.sichtbar && neu.sichtbar && alt.stück.bild != neu.bild) {
+        alt.wurf = wurfdrehung(static_cast<double>(p.oberfläche.jetzt()), alt.wurf);
+        const auto lauf = [&](double anteil) { return wurf(anteil, alt.wurf); };
+        bündel.nimm("schwung", schwung(p, neu, Wurfzeit, lauf));
+    }
+    if (neu.sorte == Sorte::Bild && (neu.wächst || alt.stück.wächst)) stäube(alt, neu);
+}
+
+void Abschrift::stäube(Seitenstück &alt, const Stück &neu) {
+    const Zeit nun = p.oberfläche.jetzt();
+    if (neu.wächst && neu.sichtbar && !(alt.stück.wächst && alt.stück.sichtbar)) {
+        alt.staubt = nun;
+        alt.wölkchen = -1;
+    }
+    if (alt.staubt < 0) return;
+    const int letztes = static_cast<int>(static_cast<double>(nun - alt.staubt) / Wölkchenabstand);
+    while (alt.wölkchen < letztes)
+        bündel.nimm("wölkchen", wolke(neu, ++alt.wölkchen));
+    if (!neu.wächst) alt.staubt = -1;
 }
 
 } // namespace velmo

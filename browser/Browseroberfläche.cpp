@@ -7,7 +7,6 @@
 #include "surface/Tastentafel.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdlib>
 #include <ctime>
 
@@ -99,7 +98,7 @@ bool Browseroberfläche::nimmEreignis() {
 }
 
 void Browseroberfläche::nimmWunsch(const Angaben &a) {
-    if (a[0] == "ruhig") ruhig = a[1] == "ja";
+    if (a[0] == "ruhig") abschrift->ruhig = a[1] == "ja";
     if (a[0] == "dauer") klänge.merkeDauer(a[1], std::atol(a[2].c_str()));
 }
 
@@ -124,24 +123,21 @@ void Browseroberfläche::gibAb(Rast rast) {
 }
 
 void Browseroberfläche::zeigeSchritt(const Form &, double ms) {
-    if (ruhig || !schritte.beginne(nun(), ms)) return;
+    if (abschrift->ruhig || !schritte.beginne(nun(), ms)) return;
     folge();
     ruhe(schritte.ende() - nun());
 }
 
-/// Ein kleiner Hüpfer von Feld zu Feld; die Seite bewegt.
+/// Die Fahrt von Feld zu Feld; die Seite bewegt.
 void Browseroberfläche::zeigeSchritt(const Control &c, double ms) {
     const Stück *s = abschrift->stück(c);
     if (!s || !schritte.beginne(nun(), ms)) return;
-    const double x = s->Left, y = s->Top;
+    const Stück vorher = *s;
     folge();
-    const double dx = x - s->Left, dy = y - s->Top, rest = schritte.ende() - nun();
-    if (!ruhig && rest > 0)
-        bündel.nimm("hüpfer", {{"form", json(c.form.Nummer)},
-                               {"stück", json(Abschrift::nummer(c))},
-                               {"weg", json(std::vector<double>{dx, dy})},
-                               {"sprung", json(std::min(90.0, std::hypot(dx, dy) / 4))},
-                               {"ms", json(rest)}});
+    const Punkt weg{vorher.Left - s->Left, vorher.Top - s->Top};
+    const double rest = schritte.ende() - nun();
+    const auto lauf = [&](double anteil) { return fahrt(weg, anteil, vorher.bild, s->bild); };
+    if (!abschrift->ruhig && rest > 0) bündel.nimm("schwung", schwung(*p, *s, rest, lauf));
     ruhe(rest);
 }
 

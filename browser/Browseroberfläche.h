@@ -60,9 +60,8 @@ class Browseroberfläche : public Oberfläche {
     Programm *p = nullptr;
     std::unique_ptr<Abschrift> abschrift;
     std::unique_ptr<Ereignisse> ereignisse;
-    double schuld = 0;  // ms, die gezählte Durchgänge noch zu ruhen haben
-    bool tat = false;   // seit dem letzten Abgeben lief eine Behandlung
-    bool ruhig = false; // der Spieler wünscht keine Bewegung, die nur zum Ansehen ist
+    double schuld = 0; // ms, die gezählte Durchgänge noch zu ruhen haben
+    bool tat = false;  // seit dem letzten Abgeben lief eine Behandlung
 };
 
 } // namespace velmo

@@ -1,15 +1,19 @@
 #include "browser/Merkmale.h"
 
+#include "browser/Abschrift.h"
 #include "surface/Malplatz.h"
 #include "surface/Schrifttafel.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstdio>
 
 namespace velmo {
 
 namespace {
 
-constexpr const char *Sortennamen[] = {"Beschriftung", "Bild", "Bildfeld", "Rahmen", "Linie", "Film", "Knopf", "Feld"};
+constexpr const char *Sortennamen[] = {"Schatten", "Beschriftung", "Bild",  "Bildfeld", "Rahmen",
+                                       "Linie",    "Film",         "Knopf", "Feld"};
 constexpr const char *Rollennamen[] = {"", "Text", "Ansage", "Bild", "Gruppe", "Knopf", "Feld"};
 
 template <class E> constexpr std::size_t stelle(E e) { return static_cast<std::size_t>(e); }
@@ -94,6 +98,11 @@ void nimmFeld(Merkmale &m, const Control &c) {
 /// Was nur die eine Sorte hat.
 void nimmEigenes(Merkmale &m, const Programm &p, const Stück &s) {
     switch (s.sorte) {
+    case Sorte::Schatten:
+        m["bild"] = bildort(p, s.bild);
+        m["deckung"] =
+            json(std::sqrt(std::min(1.0, s.Height / s.natürlicheHöhe))); // solange es steigt, ist er noch blass
+        break;
     case Sorte::Beschriftung:
         nimmSchrift(m, s);
         m["lage"] = json(static_cast<int>(stelle(s.ausrichtung)));
@@ -109,6 +118,8 @@ void nimmEigenes(Merkmale &m, const Programm &p, const Stück &s) {
         if (s.wächst) m["voll"] = json(bildplatz(s));
         m["blass"] = json(s.blass);
         m["schein"] = s.schein ? json(*s.schein) : "null";
+        m["drehung"] = json(s.drehung);
+        m["schwebt"] = json(s.gebaren == Gebaren::Schwebt);
         break;
     case Sorte::Knopf:
         nimmSchrift(m, s);
@@ -168,6 +179,35 @@ Merkmale merkmale(const Programm &p, const Stück &s, const Benennung &b) {
                {"glanz", json(s.nurUnterZeiger)}};
     nimmEigenes(m, p, s);
     return m;
+}
+
+namespace {
+
+constexpr int Haltungen = 12; // so viele nennt die Seite einer Bewegung; dazwischen gleitet sie
+
+} // namespace
+
+Merkmale schwung(const Programm &p, const Stück &s, double ms, const std::function<Haltung(double)> &lauf) {
+    std::string alle = "[";
+    for (int i = 0; i <= Haltungen; ++i) {
+        const Haltung h = lauf(double(i) / Haltungen);
+        alle += (i ? ",[" : "[") + json(h.versatz.x) + "," + json(h.versatz.y) + "," + json(h.drehung) + "," +
+                json(h.breite * h.maß) + "," + json(h.maß) + "," + bildort(p, h.bild) + "]";
+    }
+    return {{"form", json(s.control->form.Nummer)},
+            {"stück", json(Abschrift::nummer(s))},
+            {"ms", json(ms)},
+            {"haltungen", alle + "]"}};
+}
+
+Merkmale wolke(const Stück &s, int n) {
+    std::string alle = "[";
+    for (const double alter : {0.0, 0.1, 0.4, 1.0}) {
+        const Wölkchen w = wölkchen(s, n, alter);
+        alle += (alter > 0 ? ",[" : "[") + json(alter) + "," + json(w.mitte.x) + "," + json(w.mitte.y) + "," +
+                json(w.größe) + "," + json(w.deckung) + "]";
+    }
+    return {{"form", json(s.control->form.Nummer)}, {"ms", json(Wölkchenzeit)}, {"stand", alle + "]"}};
 }
 
 } // namespace velmo

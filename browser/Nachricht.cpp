@@ -1,7 +1,6 @@
 #include "browser/Nachricht.h"
 
 #include "browser/Brücke.h"
-#include "platform/Wert.h"
 
 #include <cstdio>
 #include <utility>
@@ -24,7 +23,13 @@ std::string json(const std::string &text) {
 }
 
 std::string json(const char *text) { return json(std::string(text)); }
-std::string json(double zahl) { return Zahltext(zahl); }
+
+std::string json(double zahl) {
+    char text[24];
+    std::snprintf(text, sizeof text, "%.6g", zahl); // so fein wie ein Bildschirm
+    return text;
+}
+
 std::string json(int zahl) { return std::to_string(zahl); }
 std::string json(std::uint64_t zahl) { return std::to_string(zahl); }
 std::string json(bool wahr) { return wahr ? "true" : "false"; }

@@ -235,13 +235,13 @@ Haltung Formfläche::haltungVon(const Stück &s) const {
 }
 
 QRect Formfläche::ortVon(const Stück &s) const {
-    const QPointF um = haltungVon(s).versatz;
-    return malort(s, maß).translated(maß.punkt(um.x()), maß.punkt(um.y()));
+    const Punkt um = haltungVon(s).versatz;
+    return malort(s, maß).translated(maß.punkt(um.x), maß.punkt(um.y));
 }
 
 QRect Formfläche::bereichVon(const Stück &s) const {
     const Haltung h = haltungVon(s);
-    const QRect bereich = malbereich(s, maß).translated(maß.punkt(h.versatz.x()), maß.punkt(h.versatz.y()));
+    const QRect bereich = malbereich(s, maß).translated(maß.punkt(h.versatz.x), maß.punkt(h.versatz.y));
     return h.drehung == 0 && h.maß == 1 ? bereich : gedreht(bereich);
 }
 

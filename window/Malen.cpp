@@ -164,7 +164,7 @@ QRect gedreht(const QRect &r) {
 }
 
 QRect schwungbereich(const Stück &s, const Maß &m) {
-    const int staub = s.sorte == Sorte::Bild ? m.punkt(Schwung::Staubweite) : 0;
+    const int staub = s.sorte == Sorte::Bild ? m.punkt(Staubweite) : 0;
     return gedreht(malbereich(s, m)) | malbereich(s, m).adjusted(-staub, 0, staub, staub);
 }
 

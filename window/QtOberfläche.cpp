@@ -182,12 +182,12 @@ void QtOberfläche::zeigeSchritt(const Control &c, double ms) {
     const Halt halt(hält);
     const Stück *vorher = fläche->stück(c);
     if (!vorher) return fenster->folge();
-    const QPointF alt(vorher->Left, vorher->Top);
+    const Punkt alt{vorher->Left, vorher->Top};
     const std::string altesBild = vorher->bild;
     fenster->folge();
     const Stück *nachher = fläche->stück(c);
     if (!nachher) return;
-    const QPointF weg = alt - QPointF(nachher->Left, nachher->Top);
+    const Punkt weg{alt.x - nachher->Left, alt.y - nachher->Top};
     const std::string bild = nachher->bild;
     for (;;) {
         const double jetzt = nun();

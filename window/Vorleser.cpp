@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 
 namespace velmo {
 
@@ -19,49 +18,8 @@ namespace {
 using Uhr = std::chrono::steady_clock;
 
 constexpr auto Flackern = std::chrono::milliseconds(500); // so kurz verborgen, hat niemand es verschwinden sehen
-constexpr double Streifen = 240;                          // Twips; so viel darf eine Form von der hinter ihr zeigen
-
-/// Zeilen von oben nach unten, in jeder von links nach rechts; vorher zählt der Rang.
-void ordne(std::vector<Vorleser::Element> &alle) {
-    const auto mitte = [](const VisualControl &c) { return Eingabe::ort(c).y + c.Height / 2; };
-    const auto rang = [](const Vorleser::Element &e) { return e.b.rang; };
-    std::ranges::stable_sort(alle, {}, [](const auto &e) { return Eingabe::ort(*e.control).y; });
-    std::ranges::stable_sort(alle, {}, rang);
-    for (auto zeile = alle.begin(); zeile != alle.end();) {
-        const Vorleser::Element erstes = *zeile;
-        const double unten = Eingabe::ort(*erstes.control).y + erstes.control->Height;
-        const auto ende = std::stable_partition(zeile, alle.end(), [&](const Vorleser::Element &e) {
-            return e.control == erstes.control || (e.b.rang == erstes.b.rang && mitte(*e.control) < unten);
-        });
-        std::stable_sort(zeile, ende, [](const auto &a, const auto &b) {
-            return Eingabe::ort(*a.control).x < Eingabe::ort(*b.control).x;
-        });
-        zeile = ende;
-    }
-}
-
-bool aufAnzeige(const VisualControl &c) {
-    const Punkt ecke = Eingabe::ort(c);
-    const Bildschirm schirm = c.form.laufzeit.Screen();
-    return ecke.x < schirm.Width && ecke.y < schirm.Height && ecke.x + c.Width > 0 && ecke.y + c.Height > 0;
-}
-
-/// Zwei Antworten zu einer Frage der Blase.
-std::string antworten(const Form &form) {
-    std::string namen;
-    for (const VisualControl *c : form.Kinder)
-        if (const auto *k = dynamic_cast<const CommandButton *>(c); k && k->Visible)
-            namen += (namen.empty() ? " " : ", ") + k->Caption();
-    return namen;
-}
 
 } // namespace
-
-const std::string &Ganzersatz::nimm(const std::string &gezeigt) {
-    const bool derselbe = !ganzer.empty() && !gezeigt.empty() && ganzer.ends_with(gezeigt);
-    if (!derselbe) ganzer = gezeigt;
-    return ganzer;
-}
 
 Vorleser::Vorleser(Fenster &f, Umgebung &u) : f(f), u(u) {
     QAccessible::installFactory(sprecherFür);
@@ -80,17 +38,8 @@ Vorleser::~Vorleser() {
 }
 
 std::vector<Form *> Vorleser::formen() const {
-    std::vector<Form *> alle;
-    const Bildschirm schirm = u.p.Screen();
-    bool verdeckt = false;
-    for (Form *form : u.p.Formen() | std::views::reverse) {
-        if (!form->Visible || !f.fläche(*form)) continue;
-        const double rechts = form->Left + form->Width, unten = form->Top + form->Height;
-        if (verdeckt || form->Left >= schirm.Width || form->Top >= schirm.Height || rechts <= 0 || unten <= 0) continue;
-        alle.push_back(form);
-        verdeckt = !form->region() && form->Left <= Streifen && form->Top <= Streifen &&
-                   rechts >= schirm.Width - Streifen && unten >= schirm.Height - Streifen;
-    }
+    std::vector<Form *> alle = lesbareFormen(u.p);
+    std::erase_if(alle, [&](const Form *form) { return !f.fläche(*form); });
     return alle;
 }
 
@@ -107,23 +56,9 @@ Form *Vorleser::form(std::uint64_t nummer) const {
 }
 
 std::vector<Vorleser::Element> Vorleser::sammle(const Form &form) {
-    std::vector<Element> alle;
-    const std::function<void(const std::vector<VisualControl *> &, const VisualControl *, bool)> nimm =
-        [&](const auto &kinder, const VisualControl *gruppe, bool gesperrt) {
-            for (VisualControl *c : kinder) {
-                if (!c->Visible || !aufAnzeige(*c)) continue;
-                Element e{c, gruppe, benenne(u.p, *c), gesperrt || !c->Enabled};
-                if (e.b.rolle == Rolle::Feld && !f.fläche(form)->feld(*c)) e.b.rolle = Rolle::Zierde;
-                if (e.b.rolle != Rolle::Zierde) alle.push_back(e);
-                if (const auto *feld = dynamic_cast<const PictureBox *>(c))
-                    nimm(feld->Kinder, e.b.rolle == Rolle::Gruppe ? c : gruppe, e.gesperrt);
-            }
-        };
-    nimm(form.Kinder, nullptr, !form.Enabled);
-    if (formular::Sprech == Formularname(form.Name))
-        for (Element &e : alle)
-            if (e.b.rolle == Rolle::Ansage) e.b.name = satz.nimm(e.b.name) + antworten(form);
-    ordne(alle);
+    std::vector<Element> alle = lesefolge(u.p, form, satz);
+    std::erase_if(alle,
+                  [&](const Element &e) { return e.b.rolle == Rolle::Feld && !f.fläche(form)->feld(*e.control); });
     return alle;
 }
 

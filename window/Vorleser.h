@@ -1,7 +1,7 @@
 #pragma once
 // Was Vorleseprogramme vom Spiel erfahren: die Formen und das Benannte auf ihnen als Baum, und jede Änderung daran
 // einmal. Was sie auslösen, geht durch die Eingabe wie ein Klick.
-#include "surface/Benennung.h"
+#include "surface/Lesefolge.h"
 
 #include <QAccessible>
 #include <QObject>
@@ -21,15 +21,6 @@ class Fenster;
 class Formfläche;
 struct Umgebung;
 
-/// Der Satz der Blase als Ganzes: was weiterrückt oder zurückgerollt wird, ist noch derselbe Satz.
-class Ganzersatz {
-  public:
-    const std::string &nimm(const std::string &gezeigt);
-
-  private:
-    std::string ganzer;
-};
-
 class Vorleser : public QObject {
   public:
     Vorleser(Fenster &, Umgebung &);
@@ -38,14 +29,8 @@ class Vorleser : public QObject {
     /// Bringt alles auf den Stand der Formulare und meldet, was sich geändert hat.
     void folge();
 
-    // Für die Objekte des Baums. Ein Element ist ein benanntes Steuerelement, ein Kind der Form oder einer Gruppe.
-    struct Element {
-        VisualControl *control;
-        const VisualControl *gruppe; // null: es liegt auf der Form
-        Benennung b;
-        bool gesperrt;
-        bool operator==(const Element &) const = default;
-    };
+    // Für die Objekte des Baums.
+    using Element = Lesestelle;
     /// Die Formen, die zu sehen sind, die vorderste zuerst.
     std::vector<Form *> formen() const;
     Form *form(const Formfläche &) const;

@@ -58,8 +58,8 @@ export class Bühne {
 
   nimm(n) {
     this[{
-      form: "nimmForm", weg: "nimmWeg", formfolge: "nimmFormfolge", stück: "anForm", stückfolge: "anForm", hüpfer: "anForm",
-      film: "anForm", fokus: "nimmFokus", ziehbild: "nimmZiehbild", umland: "nimmUmland", tasten: "nimmTasten", lesefolge: "anForm",
+      form: "nimmForm", weg: "nimmWeg", formfolge: "nimmFormfolge", stück: "anForm", stückfolge: "anForm", schwung: "anForm", wölkchen: "anForm",
+      film: "anForm", fokus: "nimmFokus", ziehbild: "nimmZiehbild", umland: "nimmUmland", tasten: "nimmTasten", lesbare: "nimmLesbare", lesefolge: "anForm",
     }[n.art]](n);
   }
 
@@ -128,6 +128,11 @@ export class Bühne {
     const o = this.ort(n.ort);
     zeige(this.zieh, stück.m.bild, o.breite * this.punkte);
     Object.assign(this.zieh.style, { left: `${o.links}px`, top: `${o.oben}px`, width: `${o.breite}px`, height: `${o.höhe}px` });
+  }
+
+  /// Was eine Form ganz verdeckt, liest niemand vor.
+  nimmLesbare(n) {
+    for (const [nummer, form] of this.formen) form.e.setAttribute("aria-hidden", !n.formen.includes(nummer));
   }
 
   nimmTasten(n) {

@@ -100,12 +100,27 @@ export class Formelement {
   }
 
   /// In welcher Folge vorgelesen wird.
-  lesefolge(n) {
-    this.e.setAttribute("aria-owns", n.stücke.map((nummer) => this.stücke.get(nummer)?.e.id).join(" "));
+  lesefolge({ stellen }) {
+    const kennung = (nummer) => `s${this.nummer}-${nummer}`;
+    const besitz = (gruppe) => stellen.filter((s) => s[1] === gruppe).map((s) => kennung(s[0])).join(" ");
+    this.e.setAttribute("aria-owns", besitz(null));
+    for (const [nummer] of stellen) {
+      const eigene = besitz(nummer);
+      if (eigene) this.stücke.get(nummer)?.e.setAttribute("aria-owns", eigene);
+    }
   }
 
-  hüpfer(n) {
-    this.stücke.get(n.stück)?.hüpfe(n);
+  schwung(n) {
+    this.stücke.get(n.stück)?.schwinge(n);
+  }
+
+  /// Ein Wölkchen Staub, das aufsteigt und vergeht.
+  wölkchen({ stand, ms }) {
+    const wolke = this.inhalt.appendChild(neu("wölkchen"));
+    const bilder = stand.map(([offset, x, y, größe, deckung]) => ({
+      offset, opacity: deckung, transform: `translate(${x / 12}px, ${y / 12}px) scale(${größe / 12 / 48})`,
+    }));
+    wolke.animate(bilder, { duration: ms }).onfinish = () => wolke.remove();
   }
 
   film(n) {

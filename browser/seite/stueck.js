@@ -33,6 +33,7 @@ const BAU = {
     return e;
   },
   Bild: mitBild,
+  Schatten: mitBild,
   Bildfeld: mitBild,
   Rahmen: () => neu("div", "rahmen"),
   Linie: () => neu("div", "linie"),
@@ -121,6 +122,16 @@ export class Stückelement {
     e.classList.toggle("umrandet", m.rand > 0 && !m.taste);
     e.classList.toggle("leuchtet", Boolean(m.schein));
     e.style.setProperty("--schein", m.schein ?? "");
+    e.classList.toggle("schwebt", m.schwebt);
+    e.style.transform = m.drehung ? `rotate(${m.drehung}deg)` : "";
+  }
+
+  /// Auf dem Grund, so fein wie der Entwurf.
+  zeigeSchatten() {
+    const { e, m, o } = this, img = e.firstChild;
+    zeige(img, m.bild, o.breite);
+    Object.assign(img.style, { width: "100%", height: "100%" });
+    e.style.opacity = m.deckung;
   }
 
   zeigeBildfeld() {
@@ -188,13 +199,17 @@ export class Stückelement {
     if (!this.feld && m.rolle === "Knopf") e.tabIndex = -1;
   }
 
-  hüpfe({ weg: [dx, dy], sprung, ms }) {
-    const schritte = 10, bilder = [];
-    for (let i = 0; i <= schritte; ++i) {
-      const anteil = i / schritte, rest = 1 - anteil;
-      bilder.push({ transform: `translate(${(dx * rest) / 12}px, ${(dy * rest - 4 * sprung * anteil * rest) / 12}px)` });
-    }
+  /// Eine Bewegung zum Ansehen: Haltungen [x, y, Drehung, Breite, Höhe, anderes Bild] gegen den Ort.
+  schwinge({ haltungen, ms }) {
+    const bilder = haltungen.map(([x, y, drehung, b, h]) => ({
+      transform: `translate(${x / 12}px, ${y / 12}px) rotate(${drehung}deg) scale(${b}, ${h})`,
+    }));
     this.e.animate(bilder, { duration: ms });
+    const anders = haltungen.filter((h) => h[5]).length;
+    if (!anders) return;
+    const img = this.e.firstChild, breite = this.o.breite * this.form.bühne.punkte;
+    zeige(img, haltungen[0][5], breite);
+    setTimeout(() => zeige(img, this.m.bild, breite), (ms * anders) / haltungen.length);
   }
 
   film(läuft) {
