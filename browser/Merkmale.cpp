@@ -100,8 +100,7 @@ void nimmEigenes(Merkmale &m, const Programm &p, const Stück &s) {
     switch (s.sorte) {
     case Sorte::Schatten:
         m["bild"] = bildort(p, s.bild);
-        m["deckung"] =
-            json(std::sqrt(std::min(1.0, s.Height / s.natürlicheHöhe))); // solange es steigt, ist er noch blass
+        m["deckung"] = json(schattenkraft(s));
         break;
     case Sorte::Beschriftung:
         nimmSchrift(m, s);

@@ -70,7 +70,7 @@ export function zeigeKnopf(knopf, m, breite, höhe, faktor) {
       top: `${rand + (platzH - roh.h * k) / 2}px`, opacity: m.gesperrt ? 0.45 : 1,
     });
   }
-  zeige(bild, m.bild, (breite * window.devicePixelRatio));
+  zeige(bild, m.bild, breite);
   Object.assign(satz.style, { left: `${rand}px`, top: `${oben}px`, width: `${b - 2 * rand}px`, height: `${h - rand - oben}px` });
   satz.style.color = m.gesperrt ? "var(--blass)" : hellOderSchwarz(m.farbe) ? "var(--tinte)" : m.farbe;
   if (!satz.firstChild) satz.append(document.createElement("span"));

@@ -31,7 +31,8 @@ export class Lupe {
   zuKlein() {
     const formen = (this.bühne.vorn ?? []).filter((f) => f?.m.sichtbar && !f.m.gesperrt);
     const vorn = formen.findLastIndex?.((f) => !f.m.umriss) ?? -1;
-    return formen.slice(Math.max(0, vorn)).flatMap((form) => [...form.stücke.values()].filter((s) => this.istZuKlein(s)));
+    return formen.slice(Math.max(0, vorn)).flatMap((form) =>
+      [...form.stücke.values()].filter((s) => this.istZuKlein(s)).sort((a, b) => a.o.oben - b.o.oben || a.o.links - b.o.links));
   }
 
   istZuKlein({ m, o }) {

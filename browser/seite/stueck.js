@@ -102,7 +102,7 @@ export class Stückelement {
   }
 
   zeigeBeschriftung() {
-    const { e, m, o } = this;
+    const { e, m } = this;
     e.style.color = m.gesperrt ? "var(--blass)" : m.farbe;
     e.style.textAlign = ["left", "right", "center"][m.lage];
     e.classList.toggle("mittig", m.mittig);
@@ -110,8 +110,12 @@ export class Stückelement {
     e.classList.toggle("schild", Boolean(schild));
     e.style.backgroundColor = schild ? m.grund : "";
     e.style.borderColor = schild ? dunkler(m.grund, 1.6) : "";
-    if (m.liste) zeigeListe(e, m, o);
-    else setze(e.firstChild, m, o.breite, o.höhe);
+    if (m.liste) return zeigeListe(e, m, o);
+    // In jeder Größe bricht sie gleich um: ihr Platz bleibt ungerundet.
+    const [breite, höhe] = m.ort.slice(2).map((twips) => twips / 12);
+    e.style.width = `${breite}px`;
+    e.style.height = `${höhe}px`;
+    setze(e.firstChild, m, breite, höhe);
   }
 
   zeigeBild() {

@@ -8,12 +8,12 @@ using namespace velmo;
 
 int main() {
     Prüfung t;
-    const QPointF weg(-600, 240);
+    constexpr Punkt weg{-600, 240};
     const Haltung anfang = fahrt(weg, 0, "a", "a"), mitte = fahrt(weg, 0.5, "a", "a"), ende = fahrt(weg, 1, "a", "a");
-    t.gilt("am Anfang am alten Ort", anfang.versatz == weg && anfang.drehung == 0);
-    t.gilt("am Ende am neuen", std::hypot(ende.versatz.x(), ende.versatz.y()) < 1e-9 && std::abs(ende.drehung) < 1e-9);
+    t.gilt("am Anfang am alten Ort", anfang.versatz.x == weg.x && anfang.versatz.y == weg.y && anfang.drehung == 0);
+    t.gilt("am Ende am neuen", std::hypot(ende.versatz.x, ende.versatz.y) < 1e-9 && std::abs(ende.drehung) < 1e-9);
     t.gilt("nach rechts oben hebt er die Nase", mitte.drehung < -1 && mitte.drehung > -45);
-    t.gilt("und hüpft", mitte.versatz.y() < weg.y() / 2);
+    t.gilt("und hüpft", mitte.versatz.y < weg.y / 2);
     t.gilt("senkrecht bleibt er gerade", fahrt({0, 500}, 0.5, "a", "a").drehung == 0);
     t.gleich("wendet er, so zeigt er erst die alte Ansicht", fahrt(weg, 0.3, "a", "b").bild, "a");
     t.gleich("dann die neue", fahrt(weg, 0.7, "a", "b").bild, "");
