@@ -22,12 +22,14 @@ async function holeKern() {
   }));
 }
 
-/// Löst eine Fassung die andere ab, soll sie auch ohne Netz ganz sein: was die alte an Dingen hatte, braucht die neue.
-async function holeNeueDinge() {
+/// Löst eine Fassung die andere ab, soll sie ohne Netz so ganz sein wie die alte: was die an Dingen hatte und nun anders
+/// ist, kommt mit ihr; was noch fehlte, holt die Seite in Ruhe.
+async function holeGeänderteDinge() {
   const vorrat = await caches.open(DINGVORRAT);
-  if ((await vorrat.keys()).length === 0) return;
-  for (const datei of DINGE)
-    if (!(await vorrat.match(wurzel + datei, { ignoreVary: true }))) await vorrat.add(wurzel + datei);
+  const stamm = (datei) => datei.replace(/\.[0-9a-f]{10}\./, ".");
+  const da = new Set((await vorrat.keys()).map((anfrage) => anfrage.url.slice(wurzel.length)));
+  const stämme = new Set([...da].map(stamm));
+  await vorrat.addAll(FASSUNG.dinge.filter((d) => !da.has(d) && stämme.has(stamm(d))).map((d) => wurzel + d));
 }
 
 async function räumeAuf() {
@@ -56,7 +58,7 @@ async function antworte(anfrage) {
   return antwort;
 }
 
-self.addEventListener("install", (e) => e.waitUntil(holeKern().then(holeNeueDinge).catch(async (fehler) => {
+self.addEventListener("install", (e) => e.waitUntil(holeKern().then(holeGeänderteDinge).catch(async (fehler) => {
   if (!self.registration.active) await caches.delete(KERNVORRAT);
   throw fehler;
 })));
@@ -64,10 +66,13 @@ self.addEventListener("activate", (e) => e.waitUntil(räumeAuf().then(() => self
 self.addEventListener("fetch", (e) => {
   if (e.request.method === "GET" && e.request.url.startsWith(wurzel)) e.respondWith(antworte(e.request));
 });
-/// Die Seite beginnt gerade und ist die einzige: jetzt wechselt die Fassung.
-self.addEventListener("message", (e) => {
-  if (e.data !== "wechsle") return;
-  e.waitUntil(self.clients.matchAll({ includeUncontrolled: true }).then((seiten) => {
+/// Die Seite beginnt gerade; ist sie die einzige, wechselt jetzt die Fassung. Die vorige Seite desselben Reiters geht erst
+/// noch fort.
+async function wechsle() {
+  for (let versuch = 0; versuch < 20; ++versuch) {
+    const seiten = await self.clients.matchAll({ includeUncontrolled: true });
     if (seiten.length <= 1) return self.skipWaiting();
-  }));
-});
+    await new Promise((weiter) => setTimeout(weiter, 100));
+  }
+}
+self.addEventListener("message", (e) => e.data === "wechsle" && e.waitUntil(wechsle()));
