@@ -184,8 +184,8 @@ def über():
 
 
 def hilfe():
-    b, h = 1602, 1208          # halb so fein: das Textfeld deckt fast alles zu
-    return svg(b, h, tafel(b, h, 14, oben=3, zierlinie=False), grunddefs())
+    b, h = 3204, 2416
+    return svg(b, h, tafel(b, h, 28, oben=6, zierlinie=False), grunddefs())
 
 
 ALLE = {
