@@ -4,6 +4,7 @@
 #include "include/Programm.h"
 #include "platform/Dateien.h"
 #include "shell/Formtafel.h"
+#include "surface/Farbtöne.h"
 #include "surface/Tastentafel.h"
 
 #include <algorithm>
@@ -39,6 +40,13 @@ int Browseroberfläche::laufe(Programm &programm, const Handler &beginn) {
     abschrift = std::make_unique<Abschrift>(*p, bündel);
     ereignisse = std::make_unique<Ereignisse>(*p, *abschrift, bündel, [this](const Handler &h) { bearbeite(h); });
     bündel.nimm("tasten", {{"überall", tastenliste(Fenstertastentafel)}, {"brett", tastenliste(Brettastentafel)}});
+    bündel.nimm("farben", {{"tinte", json(farbe::Tinte)},
+                           {"papier", json(farbe::Papier)},
+                           {"papierlicht", json(farbe::Papierlicht)},
+                           {"holz", json(farbe::Holz)},
+                           {"holzschatten", json(farbe::Holzschatten)},
+                           {"messing", json(farbe::Messing)},
+                           {"blass", json(farbe::Blass)}});
     int endstand = 0;
     try {
         while (nimmEreignis()) // womit die Seite beginnt: Dauern, Wünsche

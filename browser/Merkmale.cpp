@@ -3,6 +3,7 @@
 #include "browser/Abschrift.h"
 #include "surface/Malplatz.h"
 #include "surface/Schrifttafel.h"
+#include "surface/Textseite.h"
 
 #include <algorithm>
 #include <cmath>
@@ -74,6 +75,20 @@ void nimmSchrift(Merkmale &m, const Stück &s) {
     m["text"] = json(s.text);
 }
 
+/// Je Zeile: ihr Text, Abstand darüber, Einzug, Größe, Farbe.
+std::string absätze(const std::string &text) {
+    std::string alle = "[";
+    for (std::size_t von = 0; von <= text.size();) {
+        const std::size_t bis = std::min(text.find('\n', von), text.size());
+        const std::string zeile = text.substr(von, bis - von);
+        const Zeilensatz &s = zeilensatz(zeile);
+        alle += (von ? ",[" : "[") + json(zeile) + "," + json(s.darüber) + "," + json(s.links) + "," + json(s.groß) +
+                "," + json(s.farbe) + "]";
+        von = bis + 1;
+    }
+    return alle + "]";
+}
+
 void nimmFeld(Merkmale &m, const Control &c) {
     if (const auto *e = dynamic_cast<const Schriftelement *>(&c)) {
         const Schriftzeile &z = schriftzeile(e->FontName());
@@ -84,6 +99,7 @@ void nimmFeld(Merkmale &m, const Control &c) {
     if (const auto *t = dynamic_cast<const TextBox *>(&c)) {
         m["feld"] = json(t->MultiLine ? "Textfläche" : "Textfeld");
         m["text"] = json(t->Text());
+        if (t->MultiLine) m["absätze"] = absätze(t->Text);
     } else if (const auto *l = dynamic_cast<const Listenelement *>(&c)) {
         m["feld"] = json(dynamic_cast<const ComboBox *>(l) ? "Auswahl" : "Liste");
         m["zeilen"] = json(l->Zeilen());

@@ -1,6 +1,7 @@
 #include "window/Bedienelemente.h"
 
 #include "include/Programm.h"
+#include "surface/Textseite.h"
 #include "window/Farbtöne.h"
 #include "window/Schrift.h"
 
@@ -12,8 +13,6 @@
 #include <QStyleOption>
 #include <QTextBlock>
 #include <QTextEdit>
-
-#include <map>
 
 namespace velmo {
 
@@ -72,41 +71,22 @@ Bedienelement textfeld(TextBox &feld, QWidget *form, Programm &p, const Bearbeit
             }};
 }
 
-enum class Zeilenart { Text, Abschnitt, Punkt, Aufzählung };
-
-/// Ein Abschnitt steht ganz in Großbuchstaben; was mit einem Strich beginnt, ist kurz ein Punkt, lang aufgezählt.
-Zeilenart zeilenart(const QString &zeile) {
-    constexpr int Kurz = 50; // Zeichen
-    if (zeile.isEmpty()) return Zeilenart::Text;
-    if (zeile[0] == '-') return zeile.size() <= Kurz ? Zeilenart::Punkt : Zeilenart::Aufzählung;
-    if (zeile[0].isDigit()) return Zeilenart::Aufzählung;
-    return zeile[0].isUpper() && zeile.toUpper() == zeile ? Zeilenart::Abschnitt : Zeilenart::Text;
-}
-
 /// Der Text als Seite: Überschriften abgesetzt, Aufzählungen eingerückt; grad: Längen des Fensters.
 void setzeSeite(QTextEdit &w, const QString &t, int grad) {
-    struct Satz {
-        double darüber, links, groß;
-        QColor farbe;
-    };
-    const std::map<Zeilenart, Satz> sätze = {{Zeilenart::Text, {0.12, 0, 1, farbton::Tinte}},
-                                             {Zeilenart::Abschnitt, {1.2, 0, 1.25, farbton::Holz}},
-                                             {Zeilenart::Punkt, {0.7, 0, 1.06, farbton::Überschrift}},
-                                             {Zeilenart::Aufzählung, {0.12, 1.4, 1, farbton::Tinte}}};
     w.setPlainText(t);
     w.document()->setDocumentMargin(grad * 0.7);
     for (QTextBlock zeile = w.document()->begin(); zeile.isValid(); zeile = zeile.next()) {
-        const Satz &s = sätze.at(zeilenart(zeile.text()));
+        const Zeilensatz &s = zeilensatz(zeile.text().toStdString());
         QTextCursor hier(zeile);
         QTextBlockFormat satz;
         satz.setTopMargin(grad * s.darüber);
         satz.setLeftMargin(grad * s.links);
         satz.setLineHeight(112, QTextBlockFormat::ProportionalHeight);
         hier.setBlockFormat(satz);
-        if (s.groß == 1) continue;
+        if (!s.überschrift()) continue;
         QTextCharFormat schrift;
         schrift.setFontWeight(QFont::Bold);
-        schrift.setForeground(s.farbe);
+        schrift.setForeground(farbton::aus(s.farbe));
         schrift.setProperty(QTextFormat::FontPixelSize, static_cast<int>(grad * s.groß));
         hier.select(QTextCursor::BlockUnderCursor);
         hier.mergeCharFormat(schrift);

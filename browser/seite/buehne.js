@@ -59,7 +59,7 @@ export class Bühne {
   nimm(n) {
     this[{
       form: "nimmForm", weg: "nimmWeg", formfolge: "nimmFormfolge", stück: "anForm", stückfolge: "anForm", schwung: "anForm", wölkchen: "anForm",
-      film: "anForm", fokus: "nimmFokus", ziehbild: "nimmZiehbild", umland: "nimmUmland", tasten: "nimmTasten", lesbare: "nimmLesbare", lesefolge: "anForm",
+      film: "anForm", fokus: "nimmFokus", ziehbild: "nimmZiehbild", umland: "nimmUmland", tasten: "nimmTasten", farben: "nimmFarben", lesbare: "nimmLesbare", lesefolge: "anForm",
     }[n.art]](n);
   }
 
@@ -133,6 +133,11 @@ export class Bühne {
   /// Was eine Form ganz verdeckt, liest niemand vor.
   nimmLesbare(n) {
     for (const [nummer, form] of this.formen) form.e.setAttribute("aria-hidden", !n.formen.includes(nummer));
+  }
+
+  /// Die Farben der Seite sind die des Spiels.
+  nimmFarben({ art, ...farben }) {
+    for (const [name, farbe] of Object.entries(farben)) document.documentElement.style.setProperty(`--${name}`, farbe);
   }
 
   nimmTasten(n) {

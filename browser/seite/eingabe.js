@@ -112,6 +112,7 @@ export class Eingabe {
   /// Welche Tasten ein Feld nicht für sich nimmt.
   verlässt(feld, taste) {
     if (taste === "Tab" || taste === "Escape") return true;
+    if (feld.matches(".textfläche")) return false;
     return taste === "Enter" && !feld.matches("select");
   }
 

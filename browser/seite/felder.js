@@ -8,9 +8,23 @@ function textfeld(melde) {
   return { e, folge: (m) => e.value.normalize("NFC") !== m.text && (e.value = m.text) };
 }
 
+/// Ein langer Text: Überschriften abgesetzt, Aufzählungen eingerückt; Längen in Schriftgrößen.
 function textfläche() {
-  const e = neu("textarea", { readOnly: true });
-  return { e, folge: (m) => e.value !== m.text && (e.value = m.text) };
+  const e = neu("div", { tabIndex: -1 });
+  e.setAttribute("role", "document");
+  let text = null;
+  const folge = (m) => {
+    if (m.text === text) return;
+    text = m.text;
+    e.replaceChildren(...m.absätze.map(([zeile, darüber, links, groß, farbe]) => {
+      const p = neu(groß === 1 ? "p" : "h3", { textContent: zeile });
+      Object.assign(p.style, {
+        margin: `${darüber / groß}em 0 0 ${links / groß}em`, fontSize: `${groß}em`, color: farbe, fontWeight: groß === 1 ? "" : 700,
+      });
+      return p;
+    }));
+  };
+  return { e, folge };
 }
 
 function auswahl(melde) {
