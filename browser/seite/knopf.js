@@ -3,6 +3,7 @@ import { lade, größe, zeige } from "./bilder.js";
 import { setze } from "./schrift.js";
 
 const ECKE = 44; // so weit reichen die Ecken der Zustandsbilder, in ihren Punkten
+const ZEILE = 17; // Bildpunkte des Entwurfs
 const JE_ENTWURF = 4; // ihre Punkte je Bildpunkt des Entwurfs
 const ZUSTÄNDE = { ruhe: "ruhe", überfahren: "ruhe", gedrückt: "gedrueckt", gesperrt: "gesperrt" };
 
@@ -59,11 +60,12 @@ async function maleKörper(knopf, m, breite, höhe, faktor) {
 export function zeigeKnopf(knopf, m, breite, höhe, faktor) {
   maleKörper(knopf, m, breite, höhe, faktor).catch(() => knopf.classList.add("bloß"));
   const [, bild, satz] = knopf.children;
-  const rand = 3, b = breite / faktor, h = höhe / faktor;
+  const b = breite / faktor, h = höhe / faktor, seite = 5;
+  const rand = Math.max(0, Math.min(3, (h - ZEILE) / 2)); // ein niedriger Knopf lässt der Schrift alle Höhe
   let oben = rand;
   if (m.bild) {
     if (m.text) oben = h - rand - (m.grad / (20 / 12)) * (26 / 12);
-    const platzH = m.text ? oben - rand : h - 2 * rand, platzB = b - 2 * rand, roh = größe(m.bild);
+    const platzH = m.text ? oben - rand : h - 2 * rand, platzB = b - 2 * seite, roh = größe(m.bild);
     const k = Math.min(1 / 4, platzB / roh.b, platzH / roh.h);
     Object.assign(bild.style, {
       width: `${roh.b * k}px`, height: `${roh.h * k}px`, left: `${(b - roh.b * k) / 2}px`,
@@ -71,8 +73,8 @@ export function zeigeKnopf(knopf, m, breite, höhe, faktor) {
     });
   }
   zeige(bild, m.bild, breite);
-  Object.assign(satz.style, { left: `${rand}px`, top: `${oben}px`, width: `${b - 2 * rand}px`, height: `${h - rand - oben}px` });
+  Object.assign(satz.style, { left: `${seite}px`, top: `${oben}px`, width: `${b - 2 * seite}px`, height: `${h - rand - oben}px` });
   satz.style.color = m.gesperrt ? "var(--blass)" : hellOderSchwarz(m.farbe) ? "var(--tinte)" : m.farbe;
   if (!satz.firstChild) satz.append(document.createElement("span"));
-  setze(satz.firstChild, m, b - 2 * rand, h - rand - oben);
+  setze(satz.firstChild, m, b - 2 * seite, h - rand - oben);
 }
