@@ -1,6 +1,6 @@
 // Die Bühne: 800 mal 600 Bildpunkte des Entwurfs, auf die Seite gestreckt; jede Form und jedes Stück darauf ein Element,
 // das den Merkmalen folgt, die das Spiel nennt.
-import { zeige } from "./bilder.js";
+import { holeWartende, zeige } from "./bilder.js";
 import { Formelement } from "./form.js";
 import { maleUmland } from "./umland.js";
 
@@ -38,6 +38,7 @@ export class Bühne {
     for (const form of this.formen.values()) form.zeigeAlles();
     this.zeigeRing();
     maleUmland(this.rand, this);
+    this.fertig();
   }
 
   /// Eine Länge in Twips als Bildpunkte des Entwurfs, deren Kante auf einem Bildpunkt des Bildschirms liegt.
@@ -164,6 +165,8 @@ export class Bühne {
   /// Nach jedem Bündel; was nur zu einer Form gehört, sieht an der Seite, welche vorn steht.
   fertig() {
     const stehende = [...this.formen.values()].filter((f) => f.m.sichtbar).sort((a, b) => a.e.style.zIndex - b.e.style.zIndex);
-    document.body.dataset.vorn = stehende.at(-1)?.m.name ?? "";
+    const vorn = stehende.at(-1);
+    document.body.dataset.vorn = vorn?.m.name ?? "";
+    this.bilderDa = holeWartende(vorn?.e);
   }
 }

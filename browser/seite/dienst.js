@@ -40,6 +40,21 @@ async function räumeAuf() {
     if (!DINGE.has(anfrage.url.slice(wurzel.length))) await vorrat.delete(anfrage);
 }
 
+/// Wer einen Ton abspielt, fragt nach Ausschnitten; Safari nimmt nichts anderes.
+async function ausschnitt(antwort, bereich) {
+  const [, von, bis] = /^bytes=(\d+)-(\d*)$/.exec(bereich ?? "") ?? [];
+  if (von === undefined) return antwort;
+  const ganz = await antwort.blob(), letztes = bis ? Math.min(Number(bis), ganz.size - 1) : ganz.size - 1;
+  return new Response(ganz.slice(Number(von), letztes + 1), {
+    status: 206,
+    headers: {
+      "Content-Type": antwort.headers.get("Content-Type"),
+      "Content-Range": `bytes ${von}-${letztes}/${ganz.size}`,
+      "Content-Length": letztes + 1 - Number(von),
+    },
+  });
+}
+
 async function antworte(anfrage) {
   const ort = new URL(anfrage.url);
   let datei = (ort.origin + ort.pathname).slice(wurzel.length);
@@ -47,7 +62,7 @@ async function antworte(anfrage) {
   try {
     const wahl = { ignoreVary: true };
     const da = await caches.match(wurzel + datei, { ...wahl, cacheName: DINGE.has(datei) ? DINGVORRAT : KERNVORRAT });
-    if (da) return da;
+    if (da) return ausschnitt(da, anfrage.headers.get("Range"));
   } catch {} // der Browser verweigert den Vorrat: dann eben vom Netz
   const antwort = await fetch(anfrage);
   if (antwort.status === 200 && DINGE.has(datei)) {

@@ -60,7 +60,14 @@ export class Klang {
     else this.beginneWelle(stimme).catch(() => {});
   }
 
+  /// Stücke sind groß: sie beginnen, wenn das erste Menü seine Bilder hat.
+  erlaubeStücke() {
+    this.mitStücken = true;
+    if (this.raum) for (const s of this.stimmen.values()) if (s.lang && !s.audio) this.beginne(s);
+  }
+
   beginneStück(s) {
+    if (!this.mitStücken) return;
     s.audio = new Audio(s.url);
     s.audio.volume = this.anteil;
     s.audio.addEventListener("loadedmetadata", () => {

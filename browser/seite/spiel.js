@@ -94,6 +94,9 @@ async function beginne() {
   document.getElementById("lädt").remove();
   spiel.callMain([]);
   seite.bühne.wennMenü(async () => {
+    await null; // das Bündel, mit dem es kam, ist dann ganz auf der Seite
+    await seite.bühne.bilderDa;
+    seite.klang.erlaubeStücke();
     await meldeAn();
     vorlade();
   });
