@@ -32,7 +32,9 @@ async function holeGeänderteDinge() {
   await vorrat.addAll(FASSUNG.dinge.filter((d) => !da.has(d) && stämme.has(stamm(d))).map((d) => wurzel + d));
 }
 
+/// Was zu keiner Seite mehr gehört, die noch steht, geht.
 async function räumeAuf() {
+  if ((await self.clients.matchAll({ includeUncontrolled: true })).length > 1) return;
   for (const name of await caches.keys())
     if (name.startsWith("velmo-kern-") && name !== KERNVORRAT) await caches.delete(name);
   const vorrat = await caches.open(DINGVORRAT);
@@ -61,7 +63,8 @@ async function antworte(anfrage) {
   if (anfrage.mode === "navigate" && datei === "") datei = "index.html";
   try {
     const wahl = { ignoreVary: true };
-    const da = await caches.match(wurzel + datei, { ...wahl, cacheName: DINGE.has(datei) ? DINGVORRAT : KERNVORRAT });
+    const da = (await caches.match(wurzel + datei, { ...wahl, cacheName: KERNVORRAT })) ??
+      (await caches.match(wurzel + datei, wahl));
     if (da) return ausschnitt(da, anfrage.headers.get("Range"));
   } catch {} // der Browser verweigert den Vorrat: dann eben vom Netz
   const antwort = await fetch(anfrage);
@@ -73,21 +76,17 @@ async function antworte(anfrage) {
   return antwort;
 }
 
-self.addEventListener("install", (e) => e.waitUntil(holeKern().then(holeGeänderteDinge).catch(async (fehler) => {
-  if (!self.registration.active) await caches.delete(KERNVORRAT);
-  throw fehler;
-})));
-self.addEventListener("activate", (e) => e.waitUntil(räumeAuf().then(() => self.clients.claim())));
+// Eine neue Fassung löst die alte sogleich ab, aber nie eine Seite, die schon steht: deren Dateien heißen nach ihrem
+// Inhalt und bleiben. Erst der nächste Beginn bekommt die neue index.html.
+self.addEventListener("install", (e) => e.waitUntil(
+  holeKern().then(holeGeänderteDinge).then(() => self.skipWaiting(), async (fehler) => {
+    await caches.delete(KERNVORRAT);
+    throw fehler;
+  })));
+self.addEventListener("activate", (e) => e.waitUntil(self.clients.claim()));
 self.addEventListener("fetch", (e) => {
   if (e.request.method === "GET" && e.request.url.startsWith(wurzel)) e.respondWith(antworte(e.request));
+});/// Eine Seite dieser Fassung steht: sie nennt eine ihrer Dateien.
+self.addEventListener("message", (e) => {
+  if (e.data in FASSUNG.kern) e.waitUntil(räumeAuf());
 });
-/// Die Seite beginnt gerade; ist sie die einzige, wechselt jetzt die Fassung. Die vorige Seite desselben Reiters geht erst
-/// noch fort.
-async function wechsle() {
-  for (let versuch = 0; versuch < 20; ++versuch) {
-    const seiten = await self.clients.matchAll({ includeUncontrolled: true });
-    if (seiten.length <= 1) return self.skipWaiting();
-    await new Promise((weiter) => setTimeout(weiter, 100));
-  }
-}
-self.addEventListener("message", (e) => e.data === "wechsle" && e.waitUntil(wechsle()));

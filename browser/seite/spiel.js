@@ -7,7 +7,7 @@ import { Lupe } from "./lupe.js";
 import { zeigeKasten, zeigeEnde } from "./kasten.js";
 import { Speicher } from "./speicher.js";
 import { richteEin as richteDateienEin, zeigeZettel } from "./dateien.js";
-import { nimmNeue, meldeAn } from "./fassung.js";
+import { meldeAn } from "./fassung.js";
 import { vorlade } from "./vorrat.js";
 import { dateien, töne } from "./verzeichnis.js";
 
@@ -75,7 +75,6 @@ function legeOrdnerAn(FS) {
 }
 
 async function beginne() {
-  await nimmNeue();
   const seite = new Seite();
   const spiel = await velmo({ seite });
   legeOrdnerAn(spiel.FS);

@@ -118,20 +118,23 @@ def fassungen(bau):
         neue_fassung(hier, pathlib.Path(ordner) / "neu", "Neu")
         auskunft, url = bediene(hier)
         with auskunft, treiber.Browser("chromium") as browser:
+            dienst = "await navigator.serviceWorker.getRegistration()"
+            vorräte = "(await caches.keys()).join()"
             def tausche(wohin):
                 hier.unlink()
                 hier.symlink_to(pathlib.Path(ordner) / wohin)
                 Spiel(browser, url)  # zeigt noch die alte und holt im Stillen
                 return browser.skript("return document.title")
-            def wartet():
-                return browser.versprechen("(await navigator.serviceWorker.getRegistration()).waiting !== null")
             Spiel(browser, url)
             treiber.warte(lambda: browser.skript("return Boolean(navigator.serviceWorker.controller)"), "der Dienst")
             erwarte(tausche("halb"), "Velmo", "der Titel neben einer halben Fassung")
-            treiber.warte(lambda: browser.versprechen(
-                "!(await navigator.serviceWorker.getRegistration()).installing"), "das Scheitern der halben")
-            erwarte(wartet(), False, "eine halbe Fassung wartet")
+            treiber.warte(lambda: browser.versprechen(f"({dienst}).installing === null"), "das Scheitern der halben")
+            Spiel(browser, url)
+            erwarte(browser.skript("return document.title"), "Velmo", "der Titel nach einer halben Fassung")
+            alter = browser.versprechen(vorräte)
             erwarte(tausche("neu"), "Velmo", "der Titel, während die neue Fassung kommt")
-            treiber.warte(wartet, "die neue Fassung")
+            treiber.warte(lambda: browser.versprechen(vorräte) != alter, "der Vorrat der neuen Fassung")
+            treiber.warte(lambda: browser.versprechen(f"({dienst}).installing === null && ({dienst}).waiting === null"),
+                          "die neue Fassung", 60)
             Spiel(browser, url)
             erwarte(browser.skript("return document.title"), "Neu", "der Titel beim nächsten Beginn")
