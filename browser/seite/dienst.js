@@ -86,7 +86,8 @@ self.addEventListener("install", (e) => e.waitUntil(
 self.addEventListener("activate", (e) => e.waitUntil(self.clients.claim()));
 self.addEventListener("fetch", (e) => {
   if (e.request.method === "GET" && e.request.url.startsWith(wurzel)) e.respondWith(antworte(e.request));
-});/// Eine Seite dieser Fassung steht: sie nennt eine ihrer Dateien.
+});
+/// Eine Seite dieser Fassung steht: sie nennt eine ihrer Dateien.
 self.addEventListener("message", (e) => {
   if (e.data in FASSUNG.kern) e.waitUntil(räumeAuf());
 });
