@@ -80,8 +80,18 @@ void geldfeld::Form_Load() {
         p.Ende();
     }
     const std::string anlieger = feld(p.Zustand.Autos[*eigenes].Autoziel.Zahl()).Anlieger;
-    biete(SSCommand1, hotelZuBuchstabe(anlieger.front()));
-    biete(SSCommand2, hotelZuBuchstabe(anlieger.back()));
+    const Hotel *links = hotelZuBuchstabe(anlieger.front()), *rechts = hotelZuBuchstabe(anlieger.back());
+    biete(SSCommand1, links);
+    biete(SSCommand2, rechts);
+    zeigePreise(links, rechts);
+}
+
+/// Große Scheine stehen bei einem teuren Grundstück, Münzen bei einem günstigen.
+void geldfeld::zeigePreise(const Hotel *links, const Hotel *rechts) {
+    constexpr int Teuer = 2000; // DM
+    const velmo::Picture scheine = Image1.Picture, münzen = Image2.Picture;
+    for (const auto &[h, bild] : {std::pair{links, &Image2}, std::pair{rechts, &Image1}})
+        if (h) bild->Picture = grundstück(h->Kürzel).Preis >= Teuer ? scheine : münzen;
 }
 
 void geldfeld::biete(SSCommand &knopf, const Hotel *h) {

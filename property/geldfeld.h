@@ -24,6 +24,7 @@ class geldfeld : public Brettdialog {
     void kaufe(const SSCommand &, Seite);
     void SSCommand3_Click();
     void biete(SSCommand &, const Hotel *);
+    void zeigePreise(const Hotel *links, const Hotel *rechts);
 };
 
 } // namespace velmo

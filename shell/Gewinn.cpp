@@ -19,6 +19,7 @@ Gewinn::Gewinn(Programm &programm) : Form(programm, Formname, {0, 0, 12288, 9216
     SSCommand1.Zeicheneinzug = {0, 0, 0, 120};
     SSCommand2.Zeicheneinzug = {0, 120, 0, 0};
     Label3.Mittig = true;
+    Label3.Zeicheneinzug = {60, -72, 60, 72}; // mitten auf der Tafel
     Label3.FontSize = 12;
     Label3.Alignment = Ausrichtung::Mitte;
     SSCommand1.Click = [this] { SSCommand1_Click(); };

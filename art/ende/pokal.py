@@ -27,4 +27,5 @@ def mache(datei):
                           ("vu", 0, h - 160, b, 160)))
     blenden = ("vl", (0, 0, 1, 0)), ("vr", (1, 0, 0, 0)), ("vo", (0, 0, 0, 1)), ("vu", (0, 1, 0, 0))
     defs = grunddefs() + "".join(verlauf(n, [(0, "#000"), (.35, "#000", .72), (1, "#000", 0)], *v) for n, v in blenden)
-    ausgeben(datei, svg(b, h, bild(roh, b, h) + rand + rahmen + tafel_, defs), "black")
+    oben = f'<rect width="{b}" height="360" fill="url(#vo)"/>'      # Ballons und Kordeln verlieren sich im Dunkel
+    ausgeben(datei, svg(b, h, bild(roh, b, h) + rand + rahmen + tafel_ + oben, defs), "black")
