@@ -50,7 +50,8 @@ bool Formfläche::folge(const Form &form, const Maß &m, const VisualControl *ge
     gezogenes = gezogen;
     folgePlatz(form);
     folgeListe(form, gezogen);
-    folgeZeichnung(form);
+    leuchtet = form.Zeichnung();
+    if (leuchtet) erneuere(funken.folge(*form.Zeichnung(), maß));
     folgeBedienelemente(form);
     if (ganz) update();
     setVisible(form.Visible);
@@ -89,7 +90,6 @@ void Formfläche::folgePlatz(const Form &form) {
     const Rechteck platz = beruhigt({this, {}}, {form.Left, form.Top, 0, 0});
     const QPoint ecke(maß.punkt(platz.Left), maß.punkt(platz.Top));
     setGeometry(maß.fensterrechteck(QRect(ecke, größe).marginsAdded(saum)));
-    leuchtet = form.Zeichnung();
     setAttribute(Qt::WA_OpaquePaintEvent, umriss.isEmpty() && !wirftSchatten);
     const Grund neu{form.Picture().Datei, form.BackColor};
     if (neu == grund) return;
@@ -126,26 +126,6 @@ void Formfläche::folgeSchwung() {
         schwungtakt.stop();
     else if (!schwungtakt.isActive())
         schwungtakt.start();
-}
-
-void Formfläche::folgeZeichnung(const Form &form) {
-    static const std::vector<std::pair<Rechteck, Farbe>> keine;
-    const auto &neu = form.Zeichnung() ? *form.Zeichnung() : keine;
-    if (neu.empty() && zeichnung.empty()) return;
-    const auto bereich = [this](const Funken &funken) {
-        QRect alle;
-        for (const auto &[r, farbe] : funken)
-            alle |= funkenbereich(maß.rechteck(r));
-        return alle;
-    };
-    if (!zeichnung.empty()) spur.push_front(std::move(zeichnung));
-    zeichnung = neu;
-    // Ein Rechteck um alles: hundert kleine wären langsamer.
-    QRect alle = bereich(zeichnung);
-    for (const Funken &alte : spur)
-        alle |= bereich(alte);
-    erneuere(alle);
-    if (spur.size() > Spurlänge) spur.pop_back();
 }
 
 void Formfläche::folgeBedienelemente(const Form &form) {
@@ -260,23 +240,6 @@ void Formfläche::maleSaum(QPainter &p) {
         }
 }
 
-/// Die Funken, und schwächer, wo sie eben noch waren.
-void Formfläche::maleFeuerwerk(QPainter &p) {
-    if (zeichnung.empty() && spur.empty()) return;
-    p.setCompositionMode(QPainter::CompositionMode_Plus);
-    for (std::size_t alter = spur.size(); alter-- > 0;) {
-        const Funken &hier = spur[alter], &danach = alter > 0 ? spur[alter - 1] : zeichnung;
-        if (hier.size() != danach.size()) continue; // einer verglühte: wer wo war, ist nicht zu sagen
-        const double anteil = 1 - static_cast<double>(alter + 1) / (Spurlänge + 1);
-        for (std::size_t i = 0; i < hier.size(); ++i)
-            maleSpur(p, maß.rechteck(hier[i].first), maß.rechteck(danach[i].first), farbton::aus(hier[i].second),
-                     anteil);
-    }
-    for (const auto &[r, farbe] : zeichnung)
-        maleFunken(p, maß.rechteck(r), farbton::aus(farbe));
-    p.setCompositionMode(QPainter::CompositionMode_SourceOver);
-}
-
 void Formfläche::maleGrund(QPainter &p, const QRect &ganz) {
     if (maleBild(p, u.bilder, grund.bild, ganz)) return;
     if (leuchtet)
@@ -304,7 +267,7 @@ void Formfläche::maleAlles(QPainter &p, const QRect &bereich) {
     const QRect ganz(QPoint(), größe);
     p.setClipRect(ganz);
     maleGrund(p, ganz);
-    maleFeuerwerk(p);
+    if (leuchtet) funken.male(p, maß);
     for (const Stück &s : liste) {
         const QRect ort = ortVon(s);
         if (!s.sichtbar || (s.nurUnterZeiger && !zeigerHier) || !bereichVon(s).intersects(bereich)) continue;

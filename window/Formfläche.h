@@ -4,6 +4,7 @@
 #include "platform/Zeichenliste.h"
 #include "window/Bedienelemente.h"
 #include "window/Bildspeicher.h"
+#include "window/Funkenflug.h"
 #include "window/Maß.h"
 #include "window/Schwung.h"
 
@@ -12,7 +13,6 @@
 #include <QTimer>
 #include <QWidget>
 
-#include <deque>
 #include <functional>
 #include <map>
 #include <optional>
@@ -81,7 +81,6 @@ class Formfläche : public QWidget {
     void folgePlatz(const Form &);
     QMargins saumVon(const Form &) const;
     void folgeListe(const Form &, const VisualControl *gezogen);
-    void folgeZeichnung(const Form &);
     void folgeBedienelemente(const Form &);
     void erneuere(const QRect &punkte);
     void folgeSchwung();
@@ -91,7 +90,6 @@ class Formfläche : public QWidget {
     QPoint ursprung() const { return {saum.left(), saum.top()}; }
     void maleSaum(QPainter &);
     void maleGrund(QPainter &, const QRect &ganz);
-    void maleFeuerwerk(QPainter &);
     void maleStück(QPainter &, const Stück &, QRect ort);
     void maleInHaltung(QPainter &, const Stück &, const QRect &ort);
     void maleAlles(QPainter &, const QRect &bereich);
@@ -106,11 +104,8 @@ class Formfläche : public QWidget {
     bool wirftSchatten = false;
     QSize größe; // der Form, in Bildpunkten
     Zeichenliste liste;
-    using Funken = std::vector<std::pair<Rechteck, Farbe>>;
-    static constexpr std::size_t Spurlänge = 5;
     bool leuchtet = false; // die Form zeichnet ein Feuerwerk
-    Funken zeichnung;
-    std::deque<Funken> spur; // die letzten Zeichnungen, die jüngste vorn
+    Funkenflug funken;
     const Control *berührt = nullptr;
     bool gedrückt = false, zeigerHier = false;
     const Control *versetztes = nullptr;
