@@ -15,15 +15,14 @@ from spiel import Spiel
 
 ZELLE = 4       # Punkte des Entwurfs: so weit mitteln sich Kanten heraus
 DEUTLICH = 26   # von 255: eine Zelle, die mehr abweicht, ist anders
-SPIELRAUM = 0.01  # Anteil der Zellen, die anders sein dürfen
+SPIELRAUM = 0.015  # Anteil der Zellen, die anders sein dürfen
 FAKTOREN = (1, 2)
 
 # Wie die Seite und wie der Schaukasten zu dem Augenblick kommen, einer nach dem anderen.
 AUGENBLICKE = {
     "menü": (lambda s: None, "menü"),
-    "hilfe": (lambda s: s.drücke("Menu.Hilfe"), "klick Menu.Hilfe / ruhe"),
-    "anmeldung": (lambda s: (s.drücke("frmHilfe.Command1"), s.drücke("Menu.Spieln")),
-                  "klick frmHilfe.Command1 / ruhe / klick Menu.Spieln / ruhe"),
+    "anmeldung": (lambda s: (s.drücke("Menu.Spieln"), s.drücke("Menu2.Picture1")),
+                  "klick Menu.Spieln / ruhe / klick Menu2.Picture1"),
     "brett": (lambda s: (s.drücke("Menu2.Command2"), s.warte_aufs_brett()), "klick Menu2.Command2 / ruhe"),
     "landkauf": (lambda s: (s.fahre(7), s.warte(lambda w: s.kann(w, "geldfeld.SSCommand2"), "der Landkauf")),
                  'antwort "vorr" "8" / rechts Form1.Label1 / ruhe'),

@@ -70,7 +70,8 @@ class Spiel:
 
     def warte_aufs_brett(self):
         """Bis Dorvin gegrüßt hat und wieder fort ist."""
-        self.warte(lambda s: s.get("Form1.WüButton", {}).get("frei") and s["Form1.Label1"]["frei"], "das Brett")
+        self.warte(lambda s: self.vorn() == "Sprech", "Dorvins Gruß")
+        self.warte(lambda s: s["Form1.WüButton"]["frei"] and s["Form1.Label1"]["frei"], "das Brett")
 
     def ruhiges_bild(self):
         """Ein Bild, in dem sich nichts mehr regt; der Zeiger ist fort."""
@@ -83,7 +84,7 @@ class Spiel:
     def fahre(self, schritte):
         """Auf das Feld so viele Schritte weiter, mit der Konsole des Bretts: sie zieht einen Schritt ab."""
         schild = self.warte(lambda s: s["Form1.Label1"] if s["Form1.Label1"]["frei"] else None, "das Schild")
-        self.browser.zeige_hin(("hin", schild["x"], schild["y"]), ("drück", 2), ("ruh", 50), ("lös", 2))
+        self.browser.drücke_rechts(schild["x"], schild["y"])
         for frage, antwort in ((" ", "vorr"), ("Anzahl", str(schritte + 1))):
             offen = f"return document.querySelector('dialog.kasten[open]')?.ariaLabel === '{frage}'"
             self.warte(lambda s: self.browser.skript(offen), f"die Frage der Konsole '{frage}'")

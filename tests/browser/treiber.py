@@ -132,7 +132,7 @@ class Browser:
     def öffne_chromium(self, breite, höhe, telefon):
         port = freier_port()
         self.starte("chromedriver", f"--port={port}")
-        worte = ["--headless=new", "--no-sandbox", "--disable-gpu", "--force-device-scale-factor=1", "--hide-scrollbars",
+        worte = ["--headless=new", "--no-sandbox", "--disable-gpu", "--force-device-scale-factor=1",
                  f"--user-data-dir={self.heim}/profil", f"--window-size={breite},{höhe}"]
         wahl = {"args": worte}
         if telefon:
@@ -213,6 +213,17 @@ class Browser:
                 folge.append({"type": {"drück": "pointerDown", "lös": "pointerUp"}[wort], "button": rest[0] if rest else 0})
         self.leitung.befehl("PerformActions", {"actions": [
             {"type": "pointer", "id": art, "parameters": {"pointerType": art}, "actions": folge}]})
+
+    def drücke_rechts(self, x, y):
+        if self.name != "webkit":
+            return self.zeige_hin(("hin", x, y), ("drück", 2), ("ruh", 50), ("lös", 2))
+        # Sein Treiber hielte die Taste von da an gedrückt.
+        return self.skript("""
+            const [x, y] = arguments, wo = document.elementFromPoint(x, y);
+            for (const [art, buttons] of [["pointerdown", 2], ["pointerup", 0]])
+              wo.dispatchEvent(new PointerEvent(art, {clientX: x, clientY: y, button: 2, buttons, pointerId: 1,
+                pointerType: "mouse", isPrimary: true, bubbles: true, cancelable: true}));
+        """, x, y)
 
     def tippe(self, text):
         tasten = [{"type": art, "value": z} for z in text for art in ("keyDown", "keyUp")]
