@@ -13,7 +13,7 @@ for (const form of document.querySelectorAll("[data-form]:not([hidden])"))
     alle[form.dataset.form + "." + e.dataset.name] = {
       x, y, frei: document.elementFromPoint(x, y)?.closest("[data-form]") === form && !form.inert,
       gesperrt: Boolean(e.disabled) || e.classList.contains("gesperrt") || form.inert,
-      text: e.value ?? e.innerText,
+      text: (e.value ?? e.innerText).trim(),
     };
   }
 return alle;
@@ -99,7 +99,7 @@ class Spiel:
 
     def ziehe(self, was, wohin):
         """Zieht mit gedrücktem Finger von einem Element zum anderen."""
-        s = self.warte(lambda s: s if s.get(wohin) else None, wohin)
+        s = self.warte(lambda s: s if s[was]["frei"] and s.get(wohin) else None, wohin)
         von, nach = s[was], s[wohin]
         mitte = (von["x"] + nach["x"]) / 2, (von["y"] + nach["y"]) / 2
         self.browser.zeige_hin(("hin", von["x"], von["y"]), ("drück",), ("ruh", 100), ("hin", *mitte, 200),
