@@ -11,12 +11,10 @@ import subprocess
 from befehl import AUFTRAG, zwischen, ziel
 from film.insel import *
 
-AUSGABE = (752, 477)             # Bildpunkte des Films
 TAKT, DAUER = 25, 9.4            # Bilder je s, s
 NAME_DA, WAGEN_AB, HUPE, BREMSE, STEHT, SCHLUSS = 5.0, 6.75, (7.5, 7.81), 8.2, 8.56, 8.75
-BELICHTUNGEN, VERSCHLUSS = 4, .6  # je Bild; Anteil der Bildzeit
-GÜTE, GÜTE_MIN, BYTES_JE_BILD = 82, 42, 31500
-KEHRE = range(42, 91, 6)          # Grad; 90 zeigt nach rechts, 0 zum Betrachter
+GÜTE, GÜTE_MIN, BYTES_JE_BILD = 88, 16, 50400
+KEHRE = range(42, 91, 6)         # Grad; 90 zeigt nach rechts, 0 zum Betrachter
 
 
 #       s    x     y    Weite Drehung Neigung
@@ -250,21 +248,18 @@ def einzelbild(t, insel, teile, rand):
     k = kamera(t)
     k.prüfe(insel)
     bild = insel.zeichne(k)
-    for i in range(1, BELICHTUNGEN):                   # im Flug verwischt, was sich bewegt
-        spät = kamera(t + VERSCHLUSS * i / BELICHTUNGEN / TAKT)
-        bild = Image.blend(bild, insel.zeichne(spät), 1 / (i + 1))
     kleine_wagen(bild, t, k, insel, teile.kleine)
     glitzern(bild, t, k, insel, teile.stern)
     wolken(bild, t, k, teile)
     schleier(bild, t, teile)
-    ruhe = sanft(t, NAME_DA - .25, NAME_DA + .35)      # der Name steht vor unscharfem Grund
+    ruhe = sanft(t, NAME_DA - .25, NAME_DA + .35)      # der Name steht vor einem etwas stilleren Grund
     if ruhe:
-        bild = bild.filter(ImageFilter.GaussianBlur(2.1 * ruhe))
-        bild.alpha_composite(Image.new("RGBA", (B, H), (10, 34, 62, int(20 * ruhe))))
+        bild = bild.filter(ImageFilter.GaussianBlur(.8 * ruhe))
+        bild.alpha_composite(Image.new("RGBA", bild.size, (10, 34, 62, int(38 * ruhe))))
     setze(bild, rand, B / 2, H / 2, deckung=.5 + .5 * ruhe)
     name(bild, t, teile)
     wagen(bild, t, teile)
-    return bild.convert("RGB").resize(AUSGABE, Image.Resampling.LANCZOS)
+    return bild.convert("RGB")
 
 
 def jpeg(bild):

@@ -10,6 +10,8 @@ import numpy as np
 from PIL import Image, ImageChops, ImageFilter      # noqa: F401
 
 B, H = 903, 573                  # gerechnet wird in Dritteln eines Entwurfspunkts (3612 x 2292 Twips)
+AUSGABE = (1128, 716)            # Bildpunkte des Films
+FEINER = AUSGABE[0] / B
 
 
 def sanft(t, a, e):
@@ -32,6 +34,7 @@ def setze(grund, teil, x, y, maß=1.0, mitte=(.5, .5), drehung=0.0, deckung=1.0,
     """Legt das Teil mit seinem Punkt `mitte` (Anteile) auf (x, y), auf Bruchteile eines Punktes genau."""
     if deckung <= 0.01:
         return
+    x, y, maß = x * FEINER, y * FEINER, maß * FEINER
     while maß < .5 and min(teil.size) > 8:
         teil, maß = teil.reduce(2), maß * 2
     w, h = teil.size
@@ -72,6 +75,10 @@ class Insel:
     def __init__(self):
         bild = lade(vorhanden("bilder/formen/form1/picture1.jpg"))
         self.häuser = Image.new("L", bild.size)
+        for name, stufe in STUFEN.items():
+            l, o, b, h = (round(w * FEIN) for w in punkte(stufe["schatten"]))
+            schatten = lade(vorhanden(f"bilder/formen/form1/{name}schatten.png"))
+            bild.alpha_composite(schatten.resize((b, h), Image.Resampling.BICUBIC), (l, o))
         for name, stufe in sorted(STUFEN.items(), key=lambda s: s[1]["ort"][1] + s[1]["ort"][3]):
             l, o, b, h = (round(w * FEIN) for w in punkte(stufe["ort"]))
             haus = lade(vorhanden(f"bilder/formen/form1/{name}.png")).resize((b, h), Image.Resampling.LANCZOS)
@@ -99,8 +106,9 @@ class Insel:
         return [o for o in orte if all(math.dist(o, f) > 130 for f in self.felder)]
 
     def zeichne(self, kamera):
-        maß, bild = next(((m, b) for m, b in reversed(self.fein) if m >= .9 * B / kamera.weite), self.fein[0])
-        return bild.transform((B, H), Image.Transform.PERSPECTIVE, kamera.zum_brett(maß),
+        maß, bild = next(((m, b) for m, b in reversed(self.fein) if m >= .9 * AUSGABE[0] / kamera.weite),
+                         self.fein[0])
+        return bild.transform(AUSGABE, Image.Transform.PERSPECTIVE, kamera.zum_brett(maß),
                               Image.Resampling.BICUBIC).convert("RGBA")
 
 
@@ -116,7 +124,7 @@ class Kamera:
         self.her = np.linalg.inv(self.hin)
 
     def zum_brett(self, maß):
-        k = np.diag([maß, maß, 1]) @ self.hin
+        k = np.diag([maß, maß, 1]) @ self.hin @ np.diag([1 / FEINER, 1 / FEINER, 1])
         return tuple((k / k[2, 2]).ravel()[:8])
 
     def punkt(self, x, y):

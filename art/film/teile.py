@@ -57,4 +57,4 @@ def mache(datei):
             if o.type in ("MESH", "CURVE", "FONT"):
                 o.visible_camera = False
         schattengrund()
-    rendere(datei, 0, 0, *größe, rand=3 if schatten else 0)
+    rendere(datei, 0, 0, *größe, proben=48, rand=3 if schatten else 0)
