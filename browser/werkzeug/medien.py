@@ -83,7 +83,7 @@ def töne(quellen):
         stück = datei.suffix == ".mid"
         ton, rate = ("ZWISCHEN", 48) if stück else ("QUELLE", 96)
         befehle = (("opusenc", "--quiet", "--bitrate", rate, ton, "*.opus"),
-                   ("ffmpeg", "-v", "error", "-i", ton, "-c:a", "aac", "-b:a", f"{rate + 8}k", "-ar", 32000, "-movflags",
+                   ("ffmpeg", "-v", "error", "-i", ton, "-c:a", "aac", "-b:a", f"{rate + 4}k", "-ar", 32000, "-movflags",
                     "+faststart", "*.m4a"))
         if stück:
             befehle = (("fluidsynth", "-q", "-n", "-i", "-g", MUSIKSTÄRKE, "-r", 48000, "-F", "ZWISCHEN", KLANGSATZ,

@@ -5,6 +5,7 @@ import pathlib
 import shutil
 import tempfile
 import threading
+import time
 
 import server
 import treiber
@@ -134,7 +135,11 @@ def fassungen(bau):
             alter = browser.versprechen(vorräte)
             erwarte(tausche("neu"), "Velmo", "der Titel, während die neue Fassung kommt")
             treiber.warte(lambda: browser.versprechen(vorräte) != alter, "der Vorrat der neuen Fassung")
-            treiber.warte(lambda: browser.versprechen(f"({dienst}).installing === null && ({dienst}).waiting === null"),
-                          "die neue Fassung", 60)
-            Spiel(browser, url)
-            erwarte(browser.skript("return document.title"), "Neu", "der Titel beim nächsten Beginn")
+            treiber.warte(lambda: browser.versprechen(f"({dienst}).installing === null"), "die neue Fassung", 60)
+            # Chromium wechselt den Dienst erst, wenn der alte nichts mehr zu tun hat.
+            def kommt_wieder():
+                browser.öffne("about:blank")
+                time.sleep(3)
+                Spiel(browser, url)
+                return browser.skript("return document.title") == "Neu"
+            treiber.warte(kommt_wieder, "die neue Fassung beim nächsten Beginn", 90)
