@@ -105,7 +105,7 @@ def film(quellen):
     breite, höhe = (n * 2 // 3 for n in bildgröße(datei))
     gemeinsam = ("ffmpeg", "-v", "error", "-i", "QUELLE", "-an", "-vf",
                  f"scale={breite + breite % 2}:{höhe + höhe % 2}", "-pix_fmt", "yuv420p")
-    befehle = ((*gemeinsam, "-c:v", "libvpx-vp9", "-b:v", 0, "-crf", 54, "-deadline", "good", "-cpu-used", 3, "-row-mt", 1,
+    befehle = ((*gemeinsam, "-c:v", "libvpx-vp9", "-b:v", 0, "-crf", 58, "-deadline", "good", "-cpu-used", 3, "-row-mt", 1,
                 "-tile-columns", 1, "-g", 250, "*.webm"),
                (*gemeinsam, "-c:v", "libx264", "-crf", 31, "-preset", "medium", "-movflags", "+faststart", "*.mp4"))
     yield Auftrag(datei, befehle, "film", "ani", {"webm": ".webm", "mp4": ".mp4"},
