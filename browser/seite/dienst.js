@@ -2,6 +2,7 @@
 // kern (Datei -> SHA-256, alles, ohne das nichts geht) und dinge (Bilder, Töne, Film; ihr Name trägt ihren Abdruck).
 const KERNVORRAT = "velmo-kern-" + FASSUNG.name;
 const DINGVORRAT = "velmo-dinge"; // gilt über Fassungen hinweg: was gleich blieb, wird nicht noch einmal geholt
+const GELTUNG = "velmo-geltung"; // welcher Kernvorrat zuletzt ganz ankam
 const DINGE = new Set(FASSUNG.dinge);
 const wurzel = new URL("./", self.location).href;
 
@@ -32,10 +33,23 @@ async function holeGeänderteDinge() {
   await vorrat.addAll(FASSUNG.dinge.filter((d) => !da.has(d) && stämme.has(stamm(d))).map((d) => wurzel + d));
 }
 
-/// Was zu keiner Seite mehr gehört, die noch steht, geht.
+async function gelte() {
+  await caches.open(GELTUNG).then((vorrat) => vorrat.put(wurzel + "kern", new Response(KERNVORRAT)));
+}
+
+/// Der Kernvorrat, dem der nächste Beginn gehört: auch der alte Dienst gibt schon die neue Seite, denn wann der Browser
+/// die Dienste wechselt, ist seine Sache.
+async function geltender() {
+  return (await caches.match(wurzel + "kern", { cacheName: GELTUNG }))?.text() ?? KERNVORRAT;
+}
+
+/// Was zu keiner Seite mehr gehört, die noch steht, geht; nicht, was eben erst kommt: die Namen stehen vor der Frage fest,
+/// ob eine neue Fassung unterwegs oder schon da ist.
 async function räumeAuf() {
   if ((await self.clients.matchAll({ includeUncontrolled: true })).length > 1) return;
-  for (const name of await caches.keys())
+  const namen = await caches.keys();
+  if (self.registration.installing || (await geltender()) !== KERNVORRAT) return;
+  for (const name of namen)
     if (name.startsWith("velmo-kern-") && name !== KERNVORRAT) await caches.delete(name);
   const vorrat = await caches.open(DINGVORRAT);
   for (const anfrage of await vorrat.keys())
@@ -63,7 +77,7 @@ async function antworte(anfrage) {
   if (anfrage.mode === "navigate" && datei === "") datei = "index.html";
   try {
     const wahl = { ignoreVary: true };
-    const da = (await caches.match(wurzel + datei, { ...wahl, cacheName: KERNVORRAT })) ??
+    const da = (await caches.match(wurzel + datei, { ...wahl, cacheName: await geltender() })) ??
       (await caches.match(wurzel + datei, wahl));
     if (da) return ausschnitt(da, anfrage.headers.get("Range"));
   } catch {} // der Browser verweigert den Vorrat: dann eben vom Netz
@@ -79,7 +93,7 @@ async function antworte(anfrage) {
 // Eine neue Fassung löst die alte sogleich ab, aber nie eine Seite, die schon steht: deren Dateien heißen nach ihrem
 // Inhalt und bleiben. Erst der nächste Beginn bekommt die neue index.html.
 self.addEventListener("install", (e) => e.waitUntil(
-  holeKern().then(holeGeänderteDinge).then(() => self.skipWaiting(), async (fehler) => {
+  holeKern().then(holeGeänderteDinge).then(gelte).then(() => self.skipWaiting(), async (fehler) => {
     await caches.delete(KERNVORRAT);
     throw fehler;
   })));

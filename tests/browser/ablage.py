@@ -5,7 +5,6 @@ import pathlib
 import shutil
 import tempfile
 import threading
-import time
 
 import server
 import treiber
@@ -135,11 +134,10 @@ def fassungen(bau):
             alter = browser.versprechen(vorräte)
             erwarte(tausche("neu"), "Velmo", "der Titel, während die neue Fassung kommt")
             treiber.warte(lambda: browser.versprechen(vorräte) != alter, "der Vorrat der neuen Fassung")
+            # Die alte Seite meldet sich, während die neue kommt: der alte Dienst räumt sie nicht fort.
+            browser.skript("""
+                const datei = performance.getEntries().find(e => e.name.endsWith("/fassung.js")).name;
+                navigator.serviceWorker.controller.postMessage(datei.split("/").slice(-2).join("/"));""")
             treiber.warte(lambda: browser.versprechen(f"({dienst}).installing === null"), "die neue Fassung", 60)
-            # Chromium wechselt den Dienst erst, wenn der alte nichts mehr zu tun hat.
-            def kommt_wieder():
-                browser.öffne("about:blank")
-                time.sleep(3)
-                Spiel(browser, url)
-                return browser.skript("return document.title") == "Neu"
-            treiber.warte(kommt_wieder, "die neue Fassung beim nächsten Beginn", 90)
+            Spiel(browser, url)
+            erwarte(browser.skript("return document.title"), "Neu", "der Titel beim nächsten Beginn")
