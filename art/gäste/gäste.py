@@ -132,4 +132,4 @@ def mache(datei):
         flächenlicht(ort, (0, 0, -0.3), größe, kraft, farbe)
     kamera((0, -9.6, 0.35), (0, 0, -0.17), brennweite=98)
     hintergrund(*g["grund"])
-    belichte_jpeg(datei, 396 * maß(), 392 * maß(), 200)
+    belichte_jpeg(datei, 396 * maß(), 392 * maß(), 512)

@@ -22,12 +22,13 @@ class Haarkopf(Kopf):
         return r * (1 + np.asarray(h)[:, None] if np.ndim(h) else 1 + h)
 
     def kappe(self, dicke, material, rillen=22, tief=0.012):
-        """Geschlossene Grundmaße unter den Strähnen."""
-        d, f = self.richtung(48)
+        """Geschlossene Grundmaße unter den Strähnen; ihr Rand taucht in die Haut, damit der Ansatz eine glatte Linie ist."""
+        d, f = self.richtung(160)
         m = self.maske(d)
-        dick = dicke * np.sqrt(np.clip(m / 0.22, 0, 1)) + tief * np.sin(rillen * np.arctan2(d[:, 0], d[:, 2] + 1.5) * 2)
-        p = self.hülle(d, np.where(m > -0.03, dick, 0))
-        f = [q for q in f if all(m[k] > -0.03 for k in q)]
+        voll = np.sqrt(np.clip(m / 0.22, 0, 1))
+        furchen = tief * np.clip(m / 0.05, 0, 1) * np.sin(rillen * np.arctan2(d[:, 0], d[:, 2] + 1.5) * 2)
+        p = self.hülle(d, dicke * voll + furchen + 5 * np.minimum(m, 0))
+        f = [q for q in f if all(m[k] > -0.12 for k in q)]
         return netz(p, f, material)
 
     def strähnen(self, n, fluss, länge, breite, materialien, höhe=0.10, fall=None, schritt=0.055, ab=0.0, bis=9,
@@ -103,8 +104,8 @@ class Haarkopf(Kopf):
         return [matt(ton(k), 0.42, 0.4) for k in (0.88, 1.0, 1.14)]
 
     def bart(self, material, unten=-1.02, oben=-0.34, dicke=0.10, rillen=26, schnurrbart=True):
-        """Vollbart: Hülle um Kiefer und Kinn mit Furchen, der Mund bleibt frei."""
-        d, f = self.richtung(96)
+        """Vollbart: Hülle um Kiefer und Kinn mit Furchen, der Mund bleibt frei; sein Rand taucht in die Haut."""
+        d, f = self.richtung(200)
         p = self.form(d)
         X, Y, Z = p[:, 0], p[:, 1], p[:, 2]
         A = np.abs(X)
@@ -113,9 +114,9 @@ class Haarkopf(Kopf):
         m = np.minimum(m, (np.hypot(X / (self.mund_b + 0.05), (Z - self.mund_z) / 0.16) - 1) * 2.2)
         n = p / np.linalg.norm(p, axis=1)[:, None]
         dick = (dicke * np.sqrt(np.clip(m, 0, 1)) * (0.75 + 0.55 * weich(-0.5, -1.0, Z))
-                + 0.012 * np.sin(rillen * np.arctan2(X, -Y)) * np.clip(m, 0, 1))
+                + 0.012 * np.sin(rillen * np.arctan2(X, -Y)) * np.clip(m, 0, 1) + 0.2 * np.minimum(m, 0))
         q = p + n * dick[:, None]
-        netz(q, [k for k in f if all(m[i] > -0.15 for i in k)], material)
+        netz(q, [k for k in f if all(m[i] > -0.4 for i in k)], material)
 
     def schnurrbart(self, material, breit=0.34, dick=0.07, hängt=0.05, hoch=0.0):
         z = self.mund_z + 0.135
@@ -140,11 +141,11 @@ def seitwärts(xp):
                          -0.45 if p.z > 0.4 else -1.0)
 
 
-# Dicke der Kappe, Zahl, Feld, Länge, Breite, Höhe, Streuung der Strähnen
-GEKÄMMT = {"zurück": (0.10, 230, rückwärts(0.5, 0, 0.45, -0.5), 0.85, 0.062, 0.15, 0.14),
-           "pomade": (0.11, 230, rückwärts(0.35, 0.25, 0.5, -0.6), 0.95, 0.060, 0.17, 0.06),
-           "strubbel": (0.12, 150, lambda p, z: (0.9 * p.x + 0.5, -0.5, 0.5), 0.5, 0.085, 0.20, 0.5),
-           "kurz": (0.08, 120, lambda p, z: (0.2 * p.x, 0.3, -1), 0.30, 0.08, 0.10, 0.2)}
+# Dicke der Kappe, Zahl, Feld, Länge, Breite, Höhe, Streuung der Strähnen, Zahl der kurzen am Ansatz
+GEKÄMMT = {"zurück": (0.10, 230, rückwärts(0.5, 0, 0.45, -0.5), 0.85, 0.062, 0.15, 0.14, 900),
+           "pomade": (0.11, 230, rückwärts(0.35, 0.25, 0.5, -0.6), 0.95, 0.060, 0.17, 0.06, 900),
+           "strubbel": (0.12, 150, lambda p, z: (0.9 * p.x + 0.5, -0.5, 0.5), 0.5, 0.085, 0.20, 0.5, 900),
+           "kurz": (0.08, 120, lambda p, z: (0.2 * p.x, 0.3, -1), 0.30, 0.08, 0.10, 0.2, 0)}
 # Scheitel, Zahl, Länge, Breite, Fall, Streuung, Spitze
 OFFEN = {"lang": (0.0, 190, 2.3, 0.105, -0.12, 0.12, 0.12), "wellen": (0.22, 190, 1.9, 0.105, -0.12, 0.35, 0.12),
          "surfer": (-0.15, 150, 1.0, 0.105, -0.12, 0.35, 0.12), "pagenkopf": (0.0, 190, 1.15, 0.10, -0.35, 0.05, 0.5)}
@@ -156,9 +157,10 @@ def frisieren(k):
         return
     st = k.haarstoffe()
     if f in GEKÄMMT:
-        kappe, zahl, feld, länge, breite, höhe, streuung = GEKÄMMT[f]
+        kappe, zahl, feld, länge, breite, höhe, streuung, ansatz = GEKÄMMT[f]
         k.kappe(kappe, st[0], tief=0.0 if f == "pomade" else 0.012)
         k.strähnen(zahl, feld, länge, breite, st, höhe, streuung=streuung)
+        k.strähnen(ansatz, feld, 0.6, 0.055, st, höhe * 0.6, ab=-0.01, bis=0.06, streuung=streuung, saat=3)
     elif f in OFFEN:
         offen(k, st, f)
     else:

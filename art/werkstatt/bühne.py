@@ -51,9 +51,9 @@ def leer(saat=1, **cycles):
     return szene
 
 
-def neu(saat=1):
+def neu(saat=1, **cycles):
     """Leere Szene mit Kamera, Sonne und Himmel des Brettes."""
-    szene = leer(saat)
+    szene = leer(saat, **cycles)
     licht = bpy.data.lights.new("Sonne", "SUN")
     licht.energy, licht.angle, licht.color = 3.0, math.radians(4), (1.0, 0.93, 0.82)
     stelle_auf("Sonne", licht)
@@ -67,7 +67,7 @@ def neu(saat=1):
 
 def porträt(belichtung):
     """Leere Szene mit filmischem Blick, für Köpfe."""
-    szene = leer(adaptive_threshold=0.02, max_bounces=4, sample_clamp_indirect=3, caustics_reflective=True)
+    szene = leer(adaptive_threshold=0.008, max_bounces=4, sample_clamp_indirect=3, caustics_reflective=True)
     szene.view_settings.view_transform, szene.view_settings.look = "Filmic", "High Contrast"
     szene.view_settings.exposure = belichtung
 
