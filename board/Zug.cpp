@@ -111,7 +111,9 @@ void Würfelknopf(Programm &p) {
 
 void Fertigknopf(Programm &p) {
     Brett &b = brett(p);
-    if (b.Timer4.Enabled) return; // ein Computer ist noch am Zug; sein gratis Bau hat den Knopf schon eingeschaltet
+    // Solange ein Computer zieht, gilt kein Druck: sein gratis Bau hat den Knopf schon eingeschaltet. In der Wartezeit
+    // davor gilt er, mit Absicht: wer da einen Eingang setzt, kann den Computer übergehen.
+    if (b.Timer4.inArbeit) return;
     p.Zustand.AmZug += 1;
     p.Zustand.Wartelauf = 0;
     b.Label1.Caption = "Der Computer würfelt und fährt.";
