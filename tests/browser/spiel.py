@@ -19,6 +19,7 @@ for (const form of document.querySelectorAll("[data-form]:not([hidden])"))
 return alle;
 """
 RUNDENZEIT = 150  # s
+LANGE = 900  # ms, die ein Finger liegt
 
 
 class Spiel:
@@ -40,8 +41,8 @@ class Spiel:
     def warte(self, bedingung, was, geduld=treiber.GEDULD):
         return treiber.warte(lambda: bedingung(self.stand()), f"{self.browser.name}: {was}", geduld)
 
-    def berühre(self, x, y):
-        self.browser.zeige_hin(("hin", x, y), ("drück",), ("ruh", 30), ("lös",), art=self.zeiger)
+    def berühre(self, x, y, ms=30):
+        self.browser.zeige_hin(("hin", x, y), ("drück",), ("ruh", ms), ("lös",), art=self.zeiger)
 
     def drücke(self, name):
         """Wartet, bis ein Druck das Element trifft, und drückt es."""
@@ -84,7 +85,10 @@ class Spiel:
     def fahre(self, schritte):
         """Auf das Feld so viele Schritte weiter, mit der Konsole des Bretts: sie zieht einen Schritt ab."""
         schild = self.warte(lambda s: s["Form1.Label1"] if s["Form1.Label1"]["frei"] else None, "das Schild")
-        self.browser.drücke_rechts(schild["x"], schild["y"])
+        if self.zeiger == "touch":  # ein Finger, der liegen bleibt, ist die rechte Taste
+            self.berühre(schild["x"], schild["y"], LANGE)
+        else:
+            self.browser.drücke_rechts(schild["x"], schild["y"])
         for frage, antwort in ((" ", "vorr"), ("Anzahl", str(schritte + 1))):
             offen = f"return document.querySelector('dialog.kasten[open]')?.ariaLabel === '{frage}'"
             self.warte(lambda s: self.browser.skript(offen), f"die Frage der Konsole '{frage}'")
