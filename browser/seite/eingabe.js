@@ -1,6 +1,7 @@
 // Maus, Finger und Tasten werden Ereignisse für das Spiel. Was im Feld eines Formulars geschieht, gehört dem Feld.
 import { lade } from "./bilder.js";
 import { zeigeTasten } from "./kasten.js";
+import { FINGER, istDrückbar } from "./lupe.js";
 
 const LANGE = 600; // ms, die ein Finger liegen muss, um die rechte Taste zu sein
 const RUHIG = 10; // CSS-Bildpunkte, um die er dabei rutschen darf
@@ -27,7 +28,25 @@ export class Eingabe {
   }
 
   ort(e) {
-    return this.bühne.twips(e.clientX, e.clientY).map((t) => t.toFixed(1));
+    return this.bühne.twips(...this.stelle(e)).map((t) => t.toFixed(1));
+  }
+
+  /// Wohin der Zeiger zeigt. Ein Finger meint auch, was kleiner ist als er und unter seinem Rand liegt: das Nächste davon,
+  /// wenn er nichts genau trifft; hängt etwas an ihm, ist es ein Platz dafür.
+  stelle(e) {
+    const hier = [e.clientX, e.clientY], form = document.elementFromPoint(...hier)?.closest?.(".form");
+    if (e.pointerType === "mouse" || !form) return hier;
+    const zieht = !this.bühne.zieh.hidden, stücke = [...this.bühne.formen.values()].find((f) => f.e === form).stücke.values();
+    let nächste = { weg: Infinity };
+    for (const { m, e: element } of stücke) {
+      if (!istDrückbar(m) || m.rolle !== "Knopf" || zieht !== Boolean(m.schein)) continue;
+      const r = element.getBoundingClientRect(), mitte = [r.x + r.width / 2, r.y + r.height / 2];
+      const ab = [0, 1].map((i) => Math.abs(hier[i] - mitte[i])), halb = [r.width / 2, r.height / 2];
+      if (ab[0] <= halb[0] && ab[1] <= halb[1]) return hier;
+      const weg = Math.hypot(...ab);
+      if (weg < nächste.weg && [0, 1].every((i) => ab[i] <= Math.max(halb[i], FINGER / 2))) nächste = { weg, mitte };
+    }
+    return nächste.mitte ?? hier;
   }
 
   ab(e) {
@@ -41,9 +60,10 @@ export class Eingabe {
     const jetzt = performance.now(), l = this.letzter;
     const doppelt = jetzt - l.zeit < DOPPELT && Math.hypot(e.clientX - l.x, e.clientY - l.y) < RUHIG;
     this.letzter = { zeit: doppelt ? -Infinity : jetzt, x: e.clientX, y: e.clientY };
-    this.gedrückt = { taste: e.button === 2 ? 2 : 1, x: e.clientX, y: e.clientY, knopf: e.target.closest?.(".knopf") };
+    this.gedrückt = { taste: e.button === 2 ? 2 : 1, x: e.clientX, y: e.clientY, knopf: this.knopfAn(e) };
     this.zeigeGedrückt(e);
     this.melde("bewege", ...this.ort(e));
+    if (!this.bühne.zieh.hidden && this.bühne.finger) return; // was aus der Leiste schon am Zeiger hängt, nimmt der Finger
     this.melde("drücke", this.gedrückt.taste, ...this.ort(e), doppelt ? 2 : 1, e.buttons & (e.buttons - 1) ? "dazu" : "allein");
     if (e.pointerType === "mouse") return;
     this.wartet = setTimeout(() => this.melde("lange", ...this.ort(e)), LANGE);
@@ -68,9 +88,13 @@ export class Eingabe {
     if (e.pointerType !== "mouse") this.melde("bewege", -1e6, -1e6);
   }
 
+  knopfAn(e) {
+    return document.elementFromPoint(...this.stelle(e))?.closest?.(".knopf");
+  }
+
   /// Welcher Knopf gedrückt oder überfahren aussieht.
   zeigeGedrückt(e, fort = false) {
-    const hier = fort ? null : document.elementFromPoint(e.clientX, e.clientY)?.closest?.(".knopf");
+    const hier = fort ? null : this.knopfAn(e);
     const frei = hier && hier.getAttribute("aria-disabled") !== "true" ? hier : null;
     const drückt = this.gedrückt && frei === this.gedrückt.knopf ? frei : null;
     if (this.unter === frei && this.drunten === drückt) return;

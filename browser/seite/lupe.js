@@ -1,13 +1,18 @@
 // Auf kleinen Anzeigen: was zu klein für einen Finger ist, steht vergrößert in Leisten neben der Bühne.
 import { wähleZeile, zeigeKasten } from "./kasten.js";
 
-const FINGER = 40; // CSS-Bildpunkte, die etwas zum Drücken haben muss
+/// CSS-Bildpunkte, die etwas zum Drücken haben muss.
+export const FINGER = 40;
+const LEISTE = 132; // CSS-Bildpunkte
+
+/// Was sich drücken lässt und einen Namen hat.
+export const istDrückbar = (m) => m.sichtbar && !m.gesperrt && m.heißt && ["Knopf", "Feld"].includes(m.rolle);
 
 export class Lupe {
   constructor(bühne, melde) {
-    Object.assign(this, { bühne, melde, knöpfe: new Map() });
+    Object.assign(this, { bühne, melde });
     this.leisten = document.getElementById("leisten");
-    this.klein = matchMedia("(pointer: coarse) and (max-height: 600px)");
+    this.klein = matchMedia("(pointer: coarse) and (max-height: 600px), (pointer: coarse) and (max-width: 600px)");
     this.klein.addEventListener("change", () => this.richte());
     bühne.platz = () => this.platz();
     this.richte();
@@ -19,47 +24,61 @@ export class Lupe {
     this.folge();
   }
 
-  /// Der Platz der Bühne: auf kleinen Anzeigen links, damit rechts eine Leiste Platz hat.
+  /// Der Platz der Bühne: auf kleinen Anzeigen links oder oben, daneben oder darunter die Leiste.
   platz() {
-    const ganz = { x: 0, y: 0, breite: innerWidth, höhe: innerHeight };
-    if (!this.klein?.matches) return ganz;
-    const breite = Math.min(innerWidth - 132, (innerHeight * 800) / 600);
-    return { x: 0, y: 0, breite, höhe: innerHeight };
+    if (!this.klein.matches) return { x: 0, y: 0, breite: innerWidth, höhe: innerHeight };
+    const rand = (name) => parseFloat(getComputedStyle(this.leisten).getPropertyValue(name)) || 0;
+    const x = rand("--links"), y = rand("--oben"), hoch = innerHeight > innerWidth;
+    const breite = Math.min(innerWidth - x - (hoch ? 0 : LEISTE), ((innerHeight - y) * 800) / 600);
+    this.leisten.style.inset = hoch ? `${y + breite * 0.75}px 0 0` : `0 0 0 ${x + breite}px`;
+    return { x, y, breite, höhe: hoch ? breite * 0.75 : innerHeight - y };
   }
 
-  /// Was auf der vordersten Form, die etwas nimmt, zu klein zum Drücken ist.
+  /// Was auf der vordersten Form, die etwas nimmt, zu klein zum Drücken ist; am Zeiger hängt etwas: wohin es kann.
   zuKlein() {
     const formen = (this.bühne.vorn ?? []).filter((f) => f?.m.sichtbar && !f.m.gesperrt);
-    const vorn = formen.findLastIndex?.((f) => !f.m.umriss) ?? -1;
+    const vorn = formen.findLastIndex?.((f) => !f.m.umriss) ?? -1, gehalten = !this.bühne.zieh.hidden;
+    const dran = (s) => istDrückbar(s.m) && (gehalten ? s.m.schein : !s.m.schein && this.istZuKlein(s));
     return formen.slice(Math.max(0, vorn)).flatMap((form) =>
-      [...form.stücke.values()].filter((s) => this.istZuKlein(s)).sort((a, b) => a.o.oben - b.o.oben || a.o.links - b.o.links));
+      [...form.stücke.values()].filter(dran).sort((a, b) => a.o.oben - b.o.oben || a.o.links - b.o.links));
   }
 
-  istZuKlein({ m, o }) {
-    if (!m.sichtbar || m.gesperrt || !m.heißt || !["Knopf", "Feld"].includes(m.rolle)) return false;
-    return Math.min(o.breite, o.höhe) * this.bühne.faktor < FINGER;
+  istZuKlein({ m, o, e }) {
+    const hoch = m.zeilen ? (e.firstElementChild?.offsetHeight ?? 0) : o.höhe; // in einer Liste drückt man Zeilen
+    return Math.min(o.breite, hoch) * this.bühne.faktor < FINGER;
   }
 
   folge() {
     const alle = this.klein.matches ? this.zuKlein() : [];
-    const schlüssel = alle.map((s) => `${s.e.id} ${s.m.heißt} ${s.m.text ?? ""} ${s.m.zeile ?? ""}`).join("|");
+    const schlüssel = alle.map((s) => `${s.e.id} ${this.beschriftung(s)}`).join("|");
     if (schlüssel === this.gezeigt) return;
     this.gezeigt = schlüssel;
-    this.leisten.replaceChildren(...alle.map((s) => this.knopf(s)));
+    for (const e of this.bühne.anzeige.querySelectorAll("[data-zahl]")) delete e.dataset.zahl;
+    this.leisten.replaceChildren(...alle.map((s, i) => this.knopf(s, i + 1)));
+    if (alle.some((s) => s.m.schein)) this.leisten.append(this.neuerKnopf("Zurücklegen", () => this.legeZurück()));
   }
 
-  knopf(s) {
-    const knopf = Object.assign(document.createElement("button"), { type: "button", textContent: this.beschriftung(s) });
-    knopf.addEventListener("click", () => this.drücke(s));
+  knopf(s, zahl) {
+    const knopf = this.neuerKnopf(this.beschriftung(s), () => this.drücke(s));
+    if (s.m.schein) s.e.dataset.zahl = knopf.dataset.zahl = zahl; // dieselbe Zahl steht auf dem Brett
+    return knopf;
+  }
+
+  neuerKnopf(text, tut) {
+    const knopf = Object.assign(document.createElement("button"), { type: "button", textContent: text, tabIndex: -1, onclick: tut });
     knopf.setAttribute("aria-hidden", "true"); // das Vorleseprogramm hat das Stück selbst
-    knopf.tabIndex = -1;
     return knopf;
   }
 
   beschriftung({ m }) {
-    if (m.feld === "Textfeld") return `${m.heißt}: ${m.text}`;
+    if (m.feld === "Textfeld") return `${m.heißt}: ${m.text || "…"}`;
     if (m.zeilen) return `${m.heißt}: ${m.zeilen[m.zeile] ?? "…"}`;
     return m.heißt;
+  }
+
+  legeZurück() {
+    this.melde("taste", "ab", "Escape", "");
+    this.melde("taste", "auf", "Escape", "");
   }
 
   async drücke(s) {

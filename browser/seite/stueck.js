@@ -110,7 +110,7 @@ export class Stückelement {
     e.classList.toggle("schild", Boolean(schild));
     e.style.backgroundColor = schild ? m.grund : "";
     e.style.borderColor = schild ? dunkler(m.grund, 1.6) : "";
-    if (m.liste) return zeigeListe(e, m, o);
+    if (m.liste) return zeigeListe(e, m, this.o);
     // In jeder Größe bricht sie gleich um: ihr Platz bleibt ungerundet.
     const [breite, höhe] = m.ort.slice(2).map((twips) => twips / 12);
     e.style.width = `${breite}px`;
