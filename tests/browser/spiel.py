@@ -5,6 +5,7 @@ import treiber
 
 # Je sichtbares Steuerelement "Form.Name": Mitte seines obersten Stücks, ob es gesperrt ist, ob ein Druck es träfe, Text.
 STAND = """
+if (window.misslungenes?.length) throw new Error(window.misslungenes.join(" | "));
 const alle = {};
 for (const form of document.querySelectorAll("[data-form]:not([hidden])"))
   for (const e of form.querySelectorAll("[data-name]:not([hidden])")) {
@@ -18,6 +19,12 @@ for (const form of document.querySelectorAll("[data-form]:not([hidden])"))
   }
 return alle;
 """
+# Was auf der Seite misslingt, lässt die Prüfung scheitern.
+MERKE_FEHLER = """
+window.misslungenes = [];
+addEventListener("error", (e) => misslungenes.push(e.message));
+addEventListener("unhandledrejection", (e) => misslungenes.push(String(e.reason)));
+"""
 RUNDENZEIT = 150  # s
 LANGE = 900  # ms, die ein Finger liegt
 
@@ -26,6 +33,7 @@ class Spiel:
     def __init__(self, browser, url, zeiger="mouse"):
         self.browser, self.zeiger = browser, zeiger
         browser.öffne(url)
+        browser.skript(MERKE_FEHLER)
         self.warte(lambda s: browser.skript("return Boolean(document.body.dataset.vorn)"), "die erste Form")
         time.sleep(0.5)
         if self.vorn() == "Intro":
@@ -97,9 +105,18 @@ class Spiel:
     def zahle(self, *noten):
         for note in noten:
             vorher = self.geld()
-            self.drücke(f"Form1.k{note}")
+            self.drücke(f"Form1.g{note}")
             self.warte(lambda s: int(s["Form1.Geldlabel"]["text"]) == vorher - note, f"{note} DM weniger")
-            time.sleep(1)  # so lange fliegt die Note
+            self.warte_auf_flug(f"Form1.p{note}")
+
+    def warte_auf_flug(self, note):
+        """Bis die gezahlte Note fort ist: solange sie fliegt, lässt sich keine zweite zahlen."""
+        bis, flog = time.monotonic() + 1, False
+        def gelandet(s):
+            nonlocal flog
+            flog |= note in s
+            return note not in s and (flog or time.monotonic() > bis)
+        self.warte(gelandet, f"das Ende des Flugs von {note}")
 
     def ziehe(self, was, wohin):
         """Zieht mit gedrücktem Finger von einem Element zum anderen."""

@@ -196,6 +196,10 @@ class Browser:
             raise Fehler(fehler[0])
         return wert
 
+    def devtools(self, befehl, **worte):
+        """Ein Befehl, den nur Chromium kennt."""
+        return self.leitung.rufe("POST", "/goog/cdp/execute", {"cmd": befehl, "params": worte})
+
     def bild(self):
         """Die Seite als PNG."""
         return base64.b64decode(self.leitung.bild())
