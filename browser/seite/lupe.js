@@ -12,7 +12,7 @@ export class Lupe {
   constructor(bühne, melde) {
     Object.assign(this, { bühne, melde });
     this.leisten = document.getElementById("leisten");
-    this.klein = matchMedia("(pointer: coarse) and (max-height: 600px), (pointer: coarse) and (max-width: 600px)");
+    this.klein = matchMedia("(pointer: coarse) and (max-height: 600px), (pointer: coarse) and (orientation: portrait)");
     this.klein.addEventListener("change", () => this.richte());
     bühne.platz = () => this.platz();
     this.richte();
@@ -28,7 +28,7 @@ export class Lupe {
   platz() {
     if (!this.klein.matches) return { x: 0, y: 0, breite: innerWidth, höhe: innerHeight };
     const rand = (name) => parseFloat(getComputedStyle(this.leisten).getPropertyValue(name)) || 0;
-    const x = rand("--links"), y = rand("--oben"), hoch = innerHeight > innerWidth;
+    const x = rand("--links"), y = rand("--oben"), hoch = innerHeight >= innerWidth;
     const breite = Math.min(innerWidth - x - (hoch ? 0 : LEISTE), ((innerHeight - y) * 800) / 600);
     this.leisten.style.inset = hoch ? `${y + breite * 0.75}px 0 0` : `0 0 0 ${x + breite}px`;
     return { x, y, breite, höhe: hoch ? breite * 0.75 : innerHeight - y };

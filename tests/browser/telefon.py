@@ -144,25 +144,27 @@ def prüfe_zoom(browser):
 
 
 def prüfe_hoch(spiel):
-    """Aufrecht gehalten bittet die Seite, das Gerät zu drehen, und hat ihre Leiste unter dem Brett."""
+    """Aufrecht gehalten bittet die Seite, das Gerät zu drehen, und hat ihre Leiste unter der Bühne."""
     hinweis = "return document.getElementById('drehen').checkVisibility()"
-    erwarte(spiel.browser.skript(hinweis), False, "der Hinweis zu drehen am quer gehaltenen Telefon")
-    spiel.browser.devtools("Emulation.setDeviceMetricsOverride", width=HOCH[0], height=HOCH[1], deviceScaleFactor=3, mobile=True)
-    treiber.warte(lambda: spiel.browser.skript(hinweis), "der Hinweis zu drehen")
+    erwarte(spiel.browser.skript(hinweis), True, "der Hinweis zu drehen am aufrechten Telefon")
     spiel.prüfe_größe("aufrecht")
-    treiber.warte(lambda: spiel.browser.skript("""
-        const brett = document.querySelector("[data-form=Form1]").getBoundingClientRect();
-        const leiste = document.getElementById("leisten").getBoundingClientRect();
-        return brett.width > 350 && leiste.y >= brett.bottom - 1 && leiste.bottom <= innerHeight;"""), "die Leiste unter dem Brett")
+    bühne, leiste = spiel.browser.skript("""
+        return [...document.querySelectorAll("#anzeige, #leisten")].map((e) => e.getBoundingClientRect().toJSON())""")
+    erwarte([round(bühne["left"]), round(bühne["right"])], [0, HOCH[0]], "die Kanten der Bühne am aufrechten Telefon")
+    erwarte([leiste["top"] >= bühne["bottom"] - 1, leiste["bottom"]], [True, HOCH[1]], "die Leiste unter ihr")
+    spiel.browser.devtools("Emulation.setDeviceMetricsOverride", width=QUER[0], height=QUER[1], deviceScaleFactor=3, mobile=True)
+    treiber.warte(lambda: not spiel.browser.skript(hinweis), "das Ende des Hinweises am quer gehaltenen Telefon")
 
 
-def prüfe(bau):
-    with server.Server(str(bau / "seite"), 0) as auskunft, treiber.Browser("chromium", *QUER, telefon=True) as browser:
+def prüfe(bau, name):
+    chromium = name == "chromium"  # nur er lässt sich drehen
+    with server.Server(str(bau / "seite"), 0) as auskunft, treiber.Browser(name, *(HOCH if chromium else QUER), telefon=True) as browser:
         threading.Thread(target=auskunft.serve_forever, daemon=True).start()
         spiel = Telefon(browser, f"http://localhost:{auskunft.server_port}/", "touch")
+        if chromium:
+            prüfe_hoch(spiel)
+            prüfe_zoom(browser)
         spiel.melde_an("Änne")
         spiel.kaufe_und_baue()
         spiel.setze_eingang()
-        prüfe_zoom(browser)
-        prüfe_hoch(spiel)
         auskunft.shutdown()

@@ -118,7 +118,7 @@ class Browser:
         try:
             self.leitung = getattr(self, "öffne_" + name)(breite, höhe, telefon)
             self.leitung.befehl("SetTimeouts", {"script": 2000 * GEDULD})
-            if not telefon:
+            if not (telefon and name == "chromium"):
                 self.passe_an(breite, höhe)
         except BaseException:
             self.schließe()
@@ -155,6 +155,8 @@ class Browser:
                     "datareporting.policy.dataSubmissionEnabled": False, "dom.w3c_touch_events.enabled": 1,
                     "layout.css.devPixelsPerPx": "3.0" if telefon else "1.0", "app.update.enabled": False,
                     "browser.aboutwelcome.enabled": False}
+        if telefon:  # nur ein Finger, der nicht schwebt
+            vorgaben |= {"ui.primaryPointerCapabilities": 1, "ui.allPointerCapabilities": 1}
         (profil / "user.js").write_text("".join(f"user_pref({json.dumps(n)}, {json.dumps(w)});\n"
                                                 for n, w in vorgaben.items()))
         self.starte("firefox-esr", "--headless", "--marionette", "--no-remote", "--profile", str(profil),
