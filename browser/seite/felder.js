@@ -1,4 +1,6 @@
-// Textfelder, Listen und Rollbalken sind die des Browsers; sie folgen dem Spiel und melden, was der Spieler tut.
+// Textfelder, Listen und Rollbalken sind die des Browsers; sie folgen dem Spiel und melden, was der Spieler tut. Ihre
+// Schrift hat einen Grad von ganzen Bildpunkten der Seite, faktor je Bildpunkt des Entwurfs.
+import { ganzeZeile, hebung } from "./schrift.js";
 
 const neu = (art, eigenschaften = {}) => Object.assign(document.createElement(art), eigenschaften);
 
@@ -8,18 +10,25 @@ function textfeld(melde) {
   return { e, folge: (m) => e.value.normalize("NFC") !== m.text && (e.value = m.text) };
 }
 
+const ZEILENABSTAND = 1.12; // des langen Textes
+
 /// Ein langer Text: Überschriften abgesetzt, Aufzählungen eingerückt; Längen in Schriftgrößen.
 function textfläche() {
   const e = neu("div", { tabIndex: -1 });
   e.setAttribute("role", "document");
-  let text = null;
-  const folge = (m) => {
-    if (m.text === text) return;
-    text = m.text;
-    e.replaceChildren(...m.absätze.map(([zeile, darüber, links, groß, farbe]) => {
-      const p = neu(groß === 1 ? "p" : "h3", { textContent: zeile });
+  let gesetzt = "";
+  const folge = (m, grad, faktor) => {
+    const wie = [m.text, grad, faktor].join("|");
+    if (wie === gesetzt) return;
+    gesetzt = wie;
+    e.style.padding = `${0.7 * grad}px`;
+    e.replaceChildren(...m.absätze.map(([satz, darüber, links, groß, farbe], i) => {
+      const p = neu(groß === 1 ? "p" : "h3", { textContent: satz });
+      const eigener = Math.floor(grad * faktor * groß + 0.001);
+      const zeile = (ganzeZeile(m.schrift, eigener).weit * ZEILENABSTAND) / faktor;
       Object.assign(p.style, {
-        margin: `${darüber / groß}em 0 0 ${links / groß}em`, fontSize: `${groß}em`, color: farbe, fontWeight: groß === 1 ? "" : 700,
+        margin: `${i ? darüber * grad : 0}px 0 0 ${links * grad}px`, fontSize: `${eigener / faktor}px`, lineHeight: `${zeile}px`,
+        top: `${-hebung(m.schrift, eigener / faktor, zeile)}px`, color: farbe, fontWeight: groß === 1 ? "" : 700,
       });
       return p;
     }));
@@ -50,7 +59,8 @@ function liste(melde) {
     k.preventDefault();
     wähle(ziel);
   });
-  const folge = (m) => {
+  const folge = (m, grad, faktor) => {
+    e.style.lineHeight = `${ganzeZeile(m.schrift, Math.round(grad * faktor)).eng / faktor}px`;
     const da = [...e.children].map((z) => z.textContent);
     if (da.length !== m.zeilen.length || m.zeilen.some((z, i) => z !== da[i]))
       e.replaceChildren(...m.zeilen.map((z) => {

@@ -47,15 +47,17 @@ const ROLLEN = { Knopf: "button", Bild: "img", Gruppe: "group", Ansage: "status"
 function zeigeListe(e, m, o) {
   const [zahl, rang, hervor] = m.liste, hoch = o.höhe / zahl, zeilen = m.text.split("\n");
   e.classList.add("tafel");
+  e.classList.toggle("rang", Boolean(rang));
+  e.style.setProperty("--zeile", `${hoch}px`);
   while (e.children.length < zahl) e.append(neu("span"));
   [...e.children].forEach((zeile, i) => {
     zeile.classList.toggle("hervor", i + 1 === hervor);
-    zeile.style.height = zeile.style.lineHeight = `${hoch}px`;
     if (!zeile.children.length) zeile.append(neu("i"), neu("b"));
     zeile.firstChild.textContent = rang ? i + 1 : "";
     const text = (zeilen[i] ?? "").trim();
     zeile.classList.toggle("leer", !text);
-    setze(zeile.lastChild, { ...m, text }, o.breite - (rang ? 1.4 : 0.5) * hoch, hoch);
+    zeile.firstChild.style.fontSize = `${m.grad * 0.66}px`;
+    setze(zeile.lastChild, { ...m, text }, o.breite - (rang ? 1.37 : 0.44) * hoch, hoch);
   });
 }
 
@@ -149,7 +151,7 @@ export class Stückelement {
   zeigeRahmen() {
     const { e, m, o } = this;
     e.style.border = `${Math.max(m.rand, 1 / this.form.bühne.punkte)}px solid ${m.farbe}`;
-    e.style.borderRadius = ["0", "50%", `${Math.min(o.breite, o.höhe) / 6}px`][m.gestalt];
+    e.style.borderRadius = [`${m.rand / 2}px`, "50%", `${Math.min(o.breite, o.höhe) / 6}px`][m.gestalt];
   }
 
   zeigeLinie() {
@@ -179,7 +181,7 @@ export class Stückelement {
       e.style.lineHeight = zeilenhöhe(m.schrift);
     }
     e.disabled = m.gesperrt;
-    this.feld.folge(m);
+    this.feld.folge(m, this.grad, bühne.faktor);
     this.passeFeldEin();
   }
 

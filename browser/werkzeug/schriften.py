@@ -1,9 +1,12 @@
 """Die Schriften der Seite: was das Fenster benutzt, auf die Zeichen gekürzt, die vorkommen können."""
 import io
+import logging
 import pathlib
 
 from fontTools import subset
 from fontTools.ttLib import TTFont
+
+logging.getLogger("fontTools").setLevel(logging.ERROR)  # dass eine Schrift ihr Alter nicht weiß, stört nicht
 
 ORDNER = pathlib.Path("/usr/share/fonts")
 # Familie, Gewicht, Datei; Gewichte wie in window/Schrift.cpp. DejaVu Sans springt ein, wo ein Zeichen fehlt.
@@ -29,6 +32,14 @@ def gleiche_maße_an(maß, kopf):
     maß.usWinAscent, maß.usWinDescent = maß.sTypoAscender, -maß.sTypoDescender
 
 
+def maße(datei):
+    """Ober- und Unterlänge und Durchschuss, mit denen das Fenster setzt, in Graden."""
+    schrift = TTFont(datei)
+    gleiche_maße_an(schrift["OS/2"], schrift["hhea"])
+    kopf = schrift["hhea"]
+    return [länge / schrift["head"].unitsPerEm for länge in (kopf.ascent, -kopf.descent, kopf.lineGap)]
+
+
 def gekürzt(datei):
     schrift = TTFont(datei)
     wahl = subset.Options()
@@ -48,13 +59,14 @@ def gekürzt(datei):
 
 
 def lege(seite, vorrat):
-    """Legt die Schriften zur Seite; gibt die Regeln, die sie benennen."""
+    """Legt die Schriften zur Seite; gibt die Regeln, die sie benennen, und die Maße der Familien."""
     weg = pathlib.Path(__file__).read_bytes()
-    regeln = []
+    regeln, familienmaße = [], {}
     for familie, gewicht, name in SCHNITTE:
         datei = ORDNER / name
         [daten] = vorrat.hole(weg + datei.read_bytes(), (".woff2",), lambda: [gekürzt(datei)])
         url = seite.lege_mit_abdruck("schrift", datei.stem, ".woff2", daten)
+        familienmaße[familie] = maße(datei)
         regeln.append(f'@font-face{{font-family:"{familie}";font-weight:{gewicht};font-display:block;'
                       f'src:url("../{url}") format("woff2")}}')
-    return "\n".join(regeln) + "\n"
+    return "\n".join(regeln) + "\n", familienmaße

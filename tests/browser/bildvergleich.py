@@ -21,12 +21,20 @@ FAKTOREN = (1, 2)
 # Wie die Seite und wie der Schaukasten zu dem Augenblick kommen, einer nach dem anderen.
 AUGENBLICKE = {
     "menü": (lambda s: None, "menü"),
-    "anmeldung": (lambda s: (s.drücke("Menu.Spieln"), s.drücke("Menu2.Picture1")),
-                  "klick Menu.Spieln / ruhe / klick Menu2.Picture1"),
+    "hilfe": (lambda s: s.drücke("Menu.Hilfe"), "klick Menu.Hilfe / ruhe"),
+    "über": (lambda s: (s.drücke("frmHilfe.Command1"), s.drücke("Menu.Über")),
+             "klick frmHilfe.Command1 / ruhe / klick Menu.Über / ruhe"),
+    "bestenliste": (lambda s: (s.drücke("Überf.OK"), s.drücke("Menu.Spiel")),
+                    "klick Überf.OK / ruhe / klick Menu.Spiel / ruhe"),
+    "anmeldung": (lambda s: (s.drücke("HoF.SSCommand1"), s.drücke("Menu.Spieln"), s.drücke("Menu2.Picture1")),
+                  "klick HoF.SSCommand1 / ruhe / klick Menu.Spieln / ruhe / klick Menu2.Picture1"),
     "brett": (lambda s: (s.drücke("Menu2.Command2"), s.warte_aufs_brett()), "klick Menu2.Command2 / ruhe"),
     "landkauf": (lambda s: (s.fahre(7), s.warte(lambda w: s.kann(w, "geldfeld.SSCommand2"), "der Landkauf")),
                  'antwort "vorr" "8" / rechts Form1.Label1 / ruhe'),
     "bezahlen": (lambda s: s.drücke("geldfeld.SSCommand2"), "klick geldfeld.SSCommand2 / ruhe"),
+    "umtausch": (lambda s: s.drücke("Form1.SSCommand2"), "klick Form1.SSCommand2 / ruhe"),
+    "besitzkarten": (lambda s: (s.drücke("Exchange.Command2"), s.drücke("Form1.Command2")),
+                     "klick Exchange.Command2 / ruhe / klick Form1.Command2 / ruhe"),
 }
 
 
