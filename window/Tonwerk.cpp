@@ -2,9 +2,9 @@
 
 #include "platform/Dateien.h"
 #include "window/Speicher.h"
+#include "window/Tonquelle.h"
 
 #include <SDL.h>
-#include <SDL_mixer.h>
 
 #include <algorithm>
 #include <utility>
@@ -15,22 +15,31 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int Abtastrate = 44100, Spuren = 2, Puffer = 1024;
-constexpr int BytesJeSekunde = Abtastrate * Spuren * 2;
-constexpr int Musikstärke = MIX_MAX_VOLUME * 5 / 8;         // die Musik liegt hörbar unter den Klängen
+constexpr int Puffer = 1024;                                // Proben je Spur, die das Gerät auf einmal holt
 constexpr auto Blick = 200ms;                               // so oft, solange das Gerät offen ist
 constexpr auto Nachklang = 2s;                              // danach schließt es
 constexpr long Gerätezeit = 2 * 1000 * Puffer / Abtastrate; // ms, bis Gemischtes auch gehört ist
-
-constexpr const char *Klangsätze[] = {"/usr/share/sounds/sf2/TimGM6mb.sf2", "/usr/share/sounds/sf2/default-GM.sf2",
-                                      "/usr/share/soundfonts/default.sf2"};
 
 bool istStück(const std::filesystem::path &datei) {
     const std::string endung = datei.extension().string();
     return SDL_strcasecmp(endung.c_str(), ".mid") == 0;
 }
 
+/// Solange sie lebt, mischt das Gerät nicht.
+class Mischpause {
+  public:
+    explicit Mischpause(SDL_AudioDeviceID gerät) : gerät(gerät) { SDL_LockAudioDevice(gerät); }
+    ~Mischpause() { SDL_UnlockAudioDevice(gerät); }
+    Mischpause(const Mischpause &) = delete;
+
+  private:
+    const SDL_AudioDeviceID gerät;
+};
+
 } // namespace
+
+Stimme::Stimme(std::string datei) : Datei(std::move(datei)) {}
+Stimme::~Stimme() = default;
 
 Tonwerk::~Tonwerk() {
     if (!faden.joinable()) return;
@@ -64,8 +73,8 @@ void Tonwerk::schließe(std::shared_ptr<Stimme> s) {
 
 void Tonwerk::stelleLautstärke(double neue) {
     gib([this, neue] {
+        const Mischpause pause(gerät);
         lautstärke = neue;
-        if (offen) wendeLautstärkeAn();
     });
 }
 
@@ -73,7 +82,7 @@ void Tonwerk::laufe() {
     std::unique_lock sperre(schloss);
     const auto gefragt = [this] { return ende || !aufträge.empty(); };
     while (!ende) {
-        if (offen)
+        if (gerät)
             bedarf.wait_for(sperre, Blick, gefragt);
         else
             bedarf.wait(sperre, gefragt);
@@ -82,88 +91,89 @@ void Tonwerk::laufe() {
         sperre.unlock();
         for (const auto &auftrag : jetzt)
             auftrag();
-        if (offen) sieNach();
+        if (gerät) sieNach();
         sperre.lock();
     }
     sperre.unlock();
-    if (offen) schließeGerät();
+    if (gerät) schließeGerät();
 }
 
 bool Tonwerk::öffneGerät() {
-    if (offen || stumm) return offen;
+    if (gerät || stumm) return gerät;
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     SDL_SetHint(SDL_HINT_APP_NAME, "Velmo");
-    offen = SDL_InitSubSystem(SDL_INIT_AUDIO) == 0 &&
-            Mix_OpenAudioDevice(Abtastrate, AUDIO_S16SYS, Spuren, Puffer, nullptr, 0) == 0;
-    stumm = !offen;
-    if (stumm) {
+    SDL_AudioSpec wie{};
+    wie.freq = Abtastrate;
+    wie.format = AUDIO_S16SYS;
+    wie.channels = Spuren;
+    wie.samples = Puffer;
+    wie.userdata = this;
+    wie.callback = [](void *werk, Uint8 *bytes, int zahl) {
+        static_cast<Tonwerk *>(werk)->mische(
+            {reinterpret_cast<std::int16_t *>(bytes), static_cast<std::size_t>(zahl) / sizeof(std::int16_t)});
+    };
+    if (SDL_InitSubSystem(SDL_INIT_AUDIO) == 0) gerät = SDL_OpenAudioDevice(nullptr, 0, &wie, nullptr, 0);
+    stumm = !gerät;
+    if (stumm)
         SDL_QuitSubSystem(SDL_INIT_AUDIO);
-        return false;
-    }
-    for (const char *satz : Klangsätze)
-        if (istDatei(satz)) {
-            Mix_SetSoundFonts(satz);
-            break;
-        }
-    wendeLautstärkeAn();
-    return true;
-}
-
-void Tonwerk::wendeLautstärkeAn() {
-    Mix_VolumeMusic(static_cast<int>(Musikstärke * lautstärke));
-    Mix_MasterVolume(static_cast<int>(MIX_MAX_VOLUME * lautstärke));
+    else
+        SDL_PauseAudioDevice(gerät, 0);
+    return gerät;
 }
 
 void Tonwerk::schließeGerät() {
-    for (const auto &s : std::exchange(klingende, {}))
-        lass(*s);
-    Mix_CloseAudio();
+    while (!klingende.empty())
+        lass(*std::shared_ptr(klingende.back()));
+    SDL_CloseAudioDevice(std::exchange(gerät, 0));
     SDL_QuitSubSystem(SDL_INIT_AUDIO);
-    offen = false;
     gibSpeicherZurück();
+}
+
+/// Im Faden des Geräts.
+void Tonwerk::mische(std::span<std::int16_t> proben) {
+    std::ranges::fill(proben, std::int16_t{0});
+    for (const auto &s : klingende)
+        s->quelle->mische(proben, lautstärke);
 }
 
 void Tonwerk::führeAus(const std::shared_ptr<Stimme> &s) {
     const std::filesystem::path datei = findePfad(s->Datei);
-    bool klingt = false;
+    s->istStück = istStück(datei);
     if (istDatei(datei) && öffneGerät()) {
-        if (istStück(datei)) {
-            // Ein Stück zur Zeit: das neue löst das alte ab.
-            for (const auto &anderes : klingende)
-                if (anderes->stück) lass(*anderes);
-            s->stück = Mix_LoadMUS(datei.c_str());
-            gibSpeicherZurück(); // was das Lesen des Klangsatzes brauchte
-            klingt = s->stück && Mix_PlayMusic(s->stück, 1) == 0;
-        } else {
-            s->welle = Mix_LoadWAV(datei.c_str());
-            if (s->welle) s->Länge = static_cast<long>(1000.0 * s->welle->alen / BytesJeSekunde) + Gerätezeit;
-            klingt = s->welle && Mix_PlayChannel(-1, s->welle, 0) >= 0;
-        }
+        // Ein Stück zur Zeit: das neue löst das alte ab.
+        for (const auto &anderes : std::vector(klingende))
+            if (s->istStück && anderes->istStück) lass(*anderes);
+        s->quelle = s->istStück ? öffneStück(datei) : öffneWelle(datei);
     }
-    if (!klingt) {
-        lass(*s);
+    if (!s->quelle) {
         s->Länge = 0;
+        s->stand = Stimme::Stand::Zuende;
         return;
     }
+    if (s->istStück)
+        gibSpeicherZurück(); // was das Lesen des Klangsatzes brauchte
+    else
+        s->Länge = s->quelle->Länge() + Gerätezeit;
     s->Beginn = zuletzt = Tonuhr::now();
     s->stand = Stimme::Stand::Klingt;
+    const Mischpause pause(gerät);
     klingende.push_back(s);
 }
 
-/// Freigeben bricht ab, was noch klingt.
+/// Bricht ab, was noch klingt.
 void Tonwerk::lass(Stimme &s) {
-    if (s.stück) {
-        s.Länge = seit(s.Beginn);
-        Mix_FreeMusic(std::exchange(s.stück, nullptr));
+    {
+        const Mischpause pause(gerät);
+        std::erase_if(klingende, [&](const auto &k) { return k.get() == &s; });
     }
-    if (s.welle) Mix_FreeChunk(std::exchange(s.welle, nullptr));
+    if (s.istStück && s.quelle) s.Länge = seit(s.Beginn);
+    s.quelle.reset();
     s.stand = Stimme::Stand::Zuende;
 }
 
 void Tonwerk::sieNach() {
-    for (const auto &s : klingende)
-        if (s->stück ? !Mix_PlayingMusic() : s->welle && seit(s->Beginn) > s->Länge) lass(*s);
-    std::erase_if(klingende, [](const auto &s) { return s->stand == Stimme::Stand::Zuende; });
+    for (const auto &s : std::vector(klingende))
+        if (s->istStück ? s->quelle->zuEnde() : seit(s->Beginn) > s->Länge) lass(*s);
     if (!klingende.empty()) zuletzt = Tonuhr::now();
     if (Tonuhr::now() - zuletzt > Nachklang) schließeGerät();
 }

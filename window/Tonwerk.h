@@ -4,18 +4,19 @@
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
+#include <cstdint>
 #include <deque>
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <span>
 #include <string>
 #include <thread>
 #include <vector>
 
-struct Mix_Chunk;
-struct _Mix_Music;
-
 namespace velmo {
+
+class Tonquelle;
 
 using Tonuhr = std::chrono::steady_clock;
 /// ms seit dem Beginn.
@@ -27,7 +28,8 @@ inline long seit(Tonuhr::time_point beginn) {
 struct Stimme {
     enum class Stand { Offen, Bestellt, Klingt, Zuende };
 
-    explicit Stimme(std::string datei) : Datei(std::move(datei)) {}
+    explicit Stimme(std::string datei);
+    ~Stimme();
 
     const std::string Datei;
     std::atomic<Stand> stand = Stand::Offen;
@@ -36,8 +38,8 @@ struct Stimme {
     std::atomic<long> Länge = 0;              // ms; von einem Stück erst bekannt, wenn es zu Ende ist
 
     // Nur für den Faden.
-    Mix_Chunk *welle = nullptr;
-    _Mix_Music *stück = nullptr;
+    std::unique_ptr<Tonquelle> quelle;
+    bool istStück = false;
 };
 
 class Tonwerk {
@@ -57,7 +59,7 @@ class Tonwerk {
     void führeAus(const std::shared_ptr<Stimme> &);
     void lass(Stimme &);
     void sieNach();
-    void wendeLautstärkeAn();
+    void mische(std::span<std::int16_t> proben);
 
     std::mutex schloss;
     std::condition_variable bedarf;
@@ -65,12 +67,14 @@ class Tonwerk {
     bool ende = false;
     std::thread faden;
 
-    // Nur für den Faden.
+    // Nur für den Faden, und für das Gerät, während es mischt.
     std::vector<std::shared_ptr<Stimme>> klingende;
-    Tonuhr::time_point zuletzt; // hat etwas geklungen
-    bool offen = false;
-    bool stumm = false; // das Gerät ließ sich nicht öffnen
     double lautstärke = 1;
+
+    // Nur für den Faden.
+    Tonuhr::time_point zuletzt; // hat etwas geklungen
+    std::uint32_t gerät = 0;    // 0: geschlossen
+    bool stumm = false;         // es ließ sich nicht öffnen
 };
 
 } // namespace velmo
