@@ -10,7 +10,7 @@ namespace velmo {
 
 namespace {
 
-constexpr int VorratKiB = 2 << 10, RoheKiB = 512;
+constexpr int VorratKiB = 1 << 10, RoheKiB = 512;
 
 int kosten(const QSize &g) { return static_cast<int>(qint64(g.width()) * g.height() * 4 / 1024 + 1); }
 

@@ -16,7 +16,7 @@ namespace {
 constexpr const char *Klangsätze[] = {"/usr/share/sounds/sf2/TimGM6mb.sf2", "/usr/share/sounds/sf2/default-GM.sf2",
                                       "/usr/share/soundfonts/default.sf2"};
 constexpr double Stückstärke = 0.75; // Verstärkung; die Musik liegt hörbar unter den Klängen
-constexpr int Stimmen = 160;         // zugleich; kein Stück braucht mehr, und jede belegt Speicher
+constexpr int Stimmen = 128;         // zugleich; kein Stück braucht mehr, und jede belegt Speicher
 
 void mischeDazu(std::span<std::int16_t> ziel, const std::int16_t *proben, std::size_t zahl, double lautstärke) {
     SDL_MixAudioFormat(reinterpret_cast<Uint8 *>(ziel.data()), reinterpret_cast<const Uint8 *>(proben), AUDIO_S16SYS,
