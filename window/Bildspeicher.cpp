@@ -5,6 +5,7 @@
 #include <QImageReader>
 
 #include <chrono>
+#include <memory>
 
 namespace velmo {
 
@@ -36,7 +37,7 @@ QImage gelesen(const std::string &Datei, const QSize &größe) {
 
 } // namespace
 
-Bildspeicher::Bildspeicher() : vorrat(VorratKiB), rohe(RoheKiB) {}
+Bildspeicher::Bildspeicher() : vorrat(VorratKiB), rohe(RoheKiB) { leser.setMaxThreadCount(1); }
 
 QImage Bildspeicher::roh(const std::string &Datei) {
     const QString name = text(Datei);
@@ -78,14 +79,30 @@ QImage Bildspeicher::erhalte(const Bildwunsch &wunsch) {
     return bild;
 }
 
+bool Bildspeicher::istDa(const Bildwunsch &w) const {
+    return !nebenher || w.Datei.empty() || w.größe.isEmpty() || fertige.contains(w) || vorrat.contains(vorratsname(w));
+}
+
+std::future<QImage> &Bildspeicher::bestelle(const Bildwunsch &wunsch) {
+    auto [hier, neu] = unterwegs.try_emplace(wunsch);
+    if (neu) {
+        const auto auftrag =
+            std::make_shared<std::packaged_task<QImage()>>([wunsch] { return gelesen(wunsch.Datei, wunsch.größe); });
+        hier->second = auftrag->get_future();
+        leser.start([auftrag] { (*auftrag)(); });
+    }
+    return hier->second;
+}
+
 QPixmap Bildspeicher::baldigesBild(const std::string &Datei, const QSize &größe) {
     const Bildwunsch wunsch{Datei, größe};
-    const bool da = fertige.contains(wunsch) || vorrat.contains(vorratsname(wunsch));
-    if (!nebenher || da || Datei.empty() || größe.isEmpty()) return bild(Datei, größe);
-    auto [hier, neu] = unterwegs.try_emplace(wunsch);
-    if (neu) hier->second = std::async(std::launch::async, gelesen, Datei, größe);
-    if (hier->second.wait_for(std::chrono::seconds(0)) != std::future_status::ready) return {};
+    if (!istDa(wunsch) && bestelle(wunsch).wait_for(std::chrono::seconds(0)) != std::future_status::ready) return {};
     return bild(Datei, größe);
+}
+
+void Bildspeicher::liesVoraus(const std::set<Bildwunsch> &wünsche) {
+    for (const Bildwunsch &w : wünsche)
+        if (!istDa(w)) bestelle(w);
 }
 
 void Bildspeicher::eile(bool an) {
@@ -96,9 +113,11 @@ void Bildspeicher::eile(bool an) {
 }
 
 void Bildspeicher::behalte(const std::set<Bildwunsch> &gezeigt) {
+    const auto bleibt = [&](const Bildwunsch &w) { return gezeigt.contains(w) || gezeigt.contains({w.Datei, {}}); };
+    std::erase_if(unterwegs, [&](const auto &eintrag) { return !bleibt(eintrag.first); });
     std::erase_if(fertige, [&](auto &eintrag) {
         const auto &[wunsch, bild] = eintrag;
-        if (inEile || gezeigt.contains(wunsch) || gezeigt.contains({wunsch.Datei, {}})) return false;
+        if (inEile || bleibt(wunsch)) return false;
         vorrat.insert(vorratsname(wunsch), new QPixmap(bild), kosten(bild.size()));
         return true;
     });

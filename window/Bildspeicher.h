@@ -4,6 +4,7 @@
 #include <QCache>
 #include <QImage>
 #include <QPixmap>
+#include <QThreadPool>
 
 #include <future>
 #include <map>
@@ -33,7 +34,9 @@ class Bildspeicher {
     /// Dasselbe, ohne ein Bild der Anzeige aufzuhalten: ist es noch nicht gelesen, so liest es ein anderer Faden, und
     /// es ist noch leer.
     QPixmap baldigesBild(const std::string &Datei, const QSize &);
-    /// Ob andere Fäden lesen dürfen; sonst ist auch ein baldiges Bild gleich da.
+    /// Lässt einen anderen Faden lesen, was bald zu sehen sein kann. Behalten wird es wie die gezeigten.
+    void liesVoraus(const std::set<Bildwunsch> &);
+    /// Ob ein anderer Faden lesen darf; sonst ist auch ein baldiges Bild gleich da.
     bool nebenher = false;
     /// Das Bild, wie es auf der Platte steht; leer, wenn es sich nicht lesen lässt. Nur die kleinen bleiben.
     QImage roh(const std::string &Datei);
@@ -45,10 +48,13 @@ class Bildspeicher {
     void behalte(const std::set<Bildwunsch> &gezeigt);
 
   private:
+    bool istDa(const Bildwunsch &) const;
     QImage erhalte(const Bildwunsch &);
+    std::future<QImage> &bestelle(const Bildwunsch &);
 
     std::map<Bildwunsch, QPixmap> fertige;
     std::map<Bildwunsch, std::future<QImage>> unterwegs;
+    QThreadPool leser;               // der andere Faden
     QCache<QString, QPixmap> vorrat; // Kosten in KiB
     QCache<QString, QImage> rohe;    // ebenso
     std::map<std::string, QSize> größen;

@@ -106,7 +106,7 @@ Fenster::Fenster(Umgebung &u, std::function<void()> schließt)
     });
     stillstand.setSingleShot(true);
     stillstand.setInterval(Formfläche::Stillstand);
-    stillstand.callOnTimeout([this] { folge(); });
+    stillstand.callOnTimeout([this] { folge(gleitet); });
     messe();
     anzeige.setStyleSheet(feldgestalt(vergrößerung()));
 }
@@ -138,7 +138,8 @@ Formfläche *Fenster::fläche(const Form &form) const {
     return hier == flächen.end() ? nullptr : hier->second;
 }
 
-void Fenster::folge() {
+void Fenster::folge(bool gleitende) {
+    gleitet = gleitende;
     const auto formen = u.p.Formen();
     bool anders = std::erase_if(flächen, [&](const auto &eintrag) {
         if (std::ranges::any_of(formen, [&](const Form *f) { return f->Nummer == eintrag.first; })) return false;
@@ -169,8 +170,16 @@ void Fenster::folge() {
 /// Bilder, die niemand mehr sieht, gehen: auch die von Formen hinter einer, die alles verdeckt.
 void Fenster::räumeAuf() {
     std::set<Bildwunsch> gezeigt;
-    for (const std::uint64_t nummer : reihenfolge | std::views::reverse)
-        if (flächen[nummer]->nenneBilder(gezeigt)) break;
+    auto fläche = reihenfolge.rbegin();
+    const auto nenne = [&] {
+        while (fläche != reihenfolge.rend() && !flächen[*fläche++]->nenneBilder(gezeigt)) {
+        }
+    };
+    nenne();
+    if (gleitet) {
+        nenne();
+        u.bilder.liesVoraus(gezeigt);
+    }
     u.bilder.behalte(gezeigt);
 }
 

@@ -28,8 +28,9 @@ class Fenster : public QWidget {
     Fenster(Umgebung &, std::function<void()> schließt);
     ~Fenster() override;
 
-    /// Bringt alles auf den Stand der Formulare.
-    void folge();
+    /// Bringt alles auf den Stand der Formulare. Gleitet eine, so wird nebenher gelesen, was hinter den gezeigten
+    /// liegt: vielleicht macht sie den Weg dorthin frei.
+    void folge(bool gleitet = false);
     /// Die Fläche der Form; null, wenn sie noch keine hat.
     Formfläche *fläche(const Form &) const;
     /// Längen des Fensters je Bildpunkt des Entwurfs.
@@ -78,6 +79,7 @@ class Fenster : public QWidget {
     Maß maß;
     std::map<std::uint64_t, Formfläche *> flächen; // nach der Nummer der Form
     std::vector<std::uint64_t> reihenfolge;
+    bool gleitet = false; // eine Form
     Umland umgebend;
     class Ziehbild;
     Ziehbild *ziehbild;

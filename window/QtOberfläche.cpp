@@ -169,7 +169,7 @@ void QtOberfläche::zeigeBild() { QCoreApplication::processEvents(QEventLoop::Ex
 void QtOberfläche::zeigeSchritt(const Form &, double ms) {
     if (fenster->ruhig() || !schritte.beginne(nun(), ms)) return;
     const Halt halt(hält);
-    fenster->folge();
+    fenster->folge(true);
     zeigeBild();
     const double rest = schritte.ende() - nun();
     if (rest > 0) std::this_thread::sleep_for(Dauer(rest));
