@@ -22,7 +22,7 @@ class Haarkopf(Kopf):
         return r * (1 + np.asarray(h)[:, None] if np.ndim(h) else 1 + h)
 
     def kappe(self, dicke, material, rillen=22, tief=0.012):
-        """Geschlossene Grundmaße unter den Strähnen; ihr Rand taucht in die Haut, damit der Ansatz eine glatte Linie ist."""
+        """Geschlossene Grundmaße unter den Strähnen; ihr Rand taucht in die Haut: ein glatter Ansatz."""
         d, f = self.richtung(160)
         m = self.maske(d)
         voll = np.sqrt(np.clip(m / 0.22, 0, 1))
