@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace velmo {
 
@@ -62,12 +63,10 @@ Rechteck teil(const Rechteck &ganz, Wörter w) {
 }
 
 /// Hin und drücken und los.
-Punkt drückeUndLöse(Szene &s, Wörter w, Maustaste taste) {
-    const Punkt hier = ort(s, w);
+void drückeUndLöse(Szene &s, Punkt hier, Maustaste taste) {
     s.p().eingabe.bewege(hier);
     s.p().eingabe.drücke(taste, hier);
     s.p().eingabe.löse(taste, hier);
-    return hier;
 }
 
 } // namespace
@@ -77,7 +76,7 @@ void klick(Szene &s, Wörter w) {
     double zahl = 0;
     if (w.size() == 1 || liesZahl(w[1].text, zahl)) {
         if (w.size() > 3) throw Schreibfehler("klick: da steht zu viel");
-        drückeUndLöse(s, w, Maustaste::Links);
+        drückeUndLöse(s, ort(s, w), Maustaste::Links);
         return;
     }
     std::vector<std::string> zeilen;
@@ -92,9 +91,21 @@ void würfle(Szene &s, Wörter w) {
     s.schiebeEin({knopf, "zufall " + w[0].text, "warte 100", knopf});
 }
 
-void rechts(Szene &s, Wörter w) { drückeUndLöse(s, w, Maustaste::Rechts); }
+void rechts(Szene &s, Wörter w) { drückeUndLöse(s, ort(s, w), Maustaste::Rechts); }
 
-void doppelklick(Szene &s, Wörter w) { s.p().eingabe.doppelklick(drückeUndLöse(s, w, Maustaste::Links)); }
+void doppelklick(Szene &s, Wörter w) {
+    const Punkt hier = ort(s, w);
+    s.zweiterDruck = hier;
+    drückeUndLöse(s, hier, Maustaste::Links);
+}
+
+/// Wie im Fenster: zwei rasche Drücke sind zwei, außer wo ein Doppelklick etwas bedeutet.
+void drückeNochmals(Szene &s) {
+    const Punkt hier = *std::exchange(s.zweiterDruck, std::nullopt);
+    const VisualControl *c = s.p().eingabe.trifft(hier).control;
+    if (c && c->DblClick) return s.p().eingabe.doppelklick(hier);
+    drückeUndLöse(s, hier, Maustaste::Links);
+}
 
 void drück(Szene &s, Wörter w) {
     const Punkt hier = ort(s, w);

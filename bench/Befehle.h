@@ -37,6 +37,7 @@ void würfle(Szene &, Wörter);
 void klick(Szene &, Wörter);
 void rechts(Szene &, Wörter);
 void doppelklick(Szene &, Wörter);
+void drückeNochmals(Szene &);
 void drück(Szene &, Wörter);
 void los(Szene &, Wörter);
 void maus(Szene &, Wörter);

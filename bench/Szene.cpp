@@ -47,7 +47,7 @@ Bilanz Szene::spiele() {
 }
 
 void Szene::laufe() {
-    while (zeitbefehl || hatZeile()) {
+    while (zeitbefehl || zweiterDruck || hatZeile()) {
         try {
             if (zeitbefehl)
                 zeitschritt();
@@ -90,6 +90,7 @@ void Szene::nächsterBefehl() {
 }
 
 void Szene::führeAus() {
+    if (zweiterDruck) return drückeNochmals(*this);
     std::vector<Wort> wörter;
     Zeile hier;
     while (wörter.empty()) {
@@ -163,6 +164,7 @@ void Szene::beende(const char *fehler) {
     if (ende != std::string_view("keiner")) return;
     ende = fehler;
     gestartet = false;
+    zweiterDruck.reset();
     if (zeitbefehl) zeitIstUm();
 }
 

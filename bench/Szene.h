@@ -46,6 +46,9 @@ class Szene {
     Wert ergebnis; // des letzten ruf
     bool gestartet = false;
     std::optional<Tafel> tafel; // deren Zeilen gerade gespielt werden
+    /// Der zweite Druck eines Doppelklicks; er kommt vor dem nächsten Befehl, auch wenn der erste eine Routine warten
+    /// lässt.
+    std::optional<Punkt> zweiterDruck;
     /// Woher weitere Zeilen kommen, wenn das Skript zu Ende ist, auch mitten im Warten; ohne Wert: es ist zu Ende.
     std::function<std::optional<std::string>()> nachschub;
     /// Wer Bilder macht: der Name und der Ausschnitt der Anzeige in Twips. Ohne ihn sagt "bild" nichts.
