@@ -1,7 +1,6 @@
 // Was nur am Fenster zu sehen ist: Größe, Schleife, Schließen, Fehler. Läuft ohne Bildschirm und ohne Lautsprecher.
 #include "bench/Prüfung.h"
 #include "tests/window/Lauf.h"
-#include "window/Gestaltung.h"
 #include "window/Ordner.h"
 
 #include <QAbstractEventDispatcher>
@@ -252,24 +251,26 @@ void prüfeZeiger(Prüfung &t) {
     t.gilt("daneben nicht", brett.shape() != Qt::BitmapCursor);
 }
 
+void prüfeVorauslesen(Prüfung &t) {
+    const Programmordner ordner;
+    const Bildwunsch grund{ordner.Pfad() + "/bilder/formen/form1/form1.jpg", {400, 300}};
+    Bildspeicher gleich, voraus;
+    const QImage bild = gleich.bild(grund.Datei, grund.größe).toImage();
+    voraus.nebenher = true;
+    voraus.liesVoraus({grund});
+    t.gilt("vorausgelesen ist es dasselbe Bild", voraus.bild(grund.Datei, grund.größe).toImage() == bild);
+    voraus.eile(false); // hält nichts mehr
+    voraus.liesVoraus({grund});
+    voraus.behalte({});
+    t.gilt("was nicht behalten wurde, liest sie noch einmal", voraus.bild(grund.Datei, grund.größe).toImage() == bild);
+    t.gilt("es ist eines", bild.size() == grund.größe);
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("SDL_AUDIODRIVER", "dummy");
-    QApplication app(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    gestalteProgramm();
-    Prüfung t;
-    prüfeWegDurchsMenü(t);
-    prüfeKlickBeiJederGröße(t);
-    prüfeZweiteTaste(t);
-    prüfeSchließenImWarten(t);
-    prüfeFehler(t);
-    prüfeOrdner(t);
-    prüfeRuhe(t);
-    prüfeSchritte(t);
-    prüfeMeldungsarten(t);
-    prüfeZeiger(t);
-    return t.ende();
+    return prüfeOhneBildschirm(argc, argv,
+                               {prüfeWegDurchsMenü, prüfeKlickBeiJederGröße, prüfeZweiteTaste, prüfeSchließenImWarten,
+                                prüfeFehler, prüfeOrdner, prüfeRuhe, prüfeSchritte, prüfeMeldungsarten, prüfeZeiger,
+                                prüfeVorauslesen});
 }

@@ -1,13 +1,16 @@
 #pragma once
 // Ein Programm im wirklichen Fenster, das eine Prüfung Schritt für Schritt bedient.
 #include "bench/Programmordner.h"
+#include "bench/Prüfung.h"
 #include "shell/Formtafel.h"
+#include "window/Gestaltung.h"
 #include "window/QtOberfläche.h"
 
 #include <QApplication>
 #include <QTimer>
 
 #include <functional>
+#include <initializer_list>
 #include <vector>
 
 namespace velmo {
@@ -48,6 +51,19 @@ inline QWidget *fenster() {
     for (QWidget *w : alle)
         if (w->windowTitle() == "Velmo" && !w->isModal()) return w;
     return nullptr;
+}
+
+/// Was main tut: die Prüfungen nacheinander, ohne Bildschirm und ohne Lautsprecher.
+inline int prüfeOhneBildschirm(int argc, char **argv, std::initializer_list<void (*)(Prüfung &)> prüfungen) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("SDL_AUDIODRIVER", "dummy");
+    QApplication app(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    gestalteProgramm();
+    Prüfung t;
+    for (const auto prüfung : prüfungen)
+        prüfung(t);
+    return t.ende();
 }
 
 } // namespace velmo

@@ -4,7 +4,6 @@
 #include "boardform/Brett.h"
 #include "tests/window/Lauf.h"
 #include "window/Fenster.h"
-#include "window/Gestaltung.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -235,14 +234,5 @@ void prüfeHalten(Prüfung &t) {
 } // namespace
 
 int main(int argc, char **argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("SDL_AUDIODRIVER", "dummy");
-    QApplication app(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    gestalteProgramm();
-    Prüfung t;
-    prüfeHalten(t);
-    prüfeEingang(t);
-    prüfeGanzesSpiel(t);
-    return t.ende();
+    return prüfeOhneBildschirm(argc, argv, {prüfeHalten, prüfeEingang, prüfeGanzesSpiel});
 }

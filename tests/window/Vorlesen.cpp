@@ -3,7 +3,6 @@
 #include "bench/Prüfung.h"
 #include "include/Formulare.h"
 #include "tests/window/Lauf.h"
-#include "window/Gestaltung.h"
 
 #include <QAccessible>
 #include <QRegularExpression>
@@ -63,13 +62,4 @@ void prüfeEingang(Prüfung &t) {
 
 } // namespace
 
-int main(int argc, char **argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("SDL_AUDIODRIVER", "dummy");
-    QApplication app(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    gestalteProgramm();
-    Prüfung t;
-    prüfeEingang(t);
-    return t.ende();
-}
+int main(int argc, char **argv) { return prüfeOhneBildschirm(argc, argv, {prüfeEingang}); }
