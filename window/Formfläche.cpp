@@ -227,7 +227,11 @@ QRect Formfläche::bereichVon(const Stück &s) const {
 
 void Formfläche::maleSaum(QPainter &p) {
     const QRect ganz(QPoint(), größe);
-    if (wirftSchatten) return maleSchatten(p, ganz, saum.left());
+    if (wirftSchatten) {
+        // Was die Form verdeckt, braucht keinen.
+        p.setClipRegion(QRegion(ganz.marginsAdded(saum)) - ganz.adjusted(2, 2, -2, -2));
+        return maleSchatten(p, ganz, saum.left());
+    }
     // Das Bild spiegelt sich über seine Kanten hinaus.
     for (const bool waagrecht : {true, false})
         for (const bool hinten : {true, false}) {
