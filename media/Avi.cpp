@@ -68,6 +68,7 @@ class Leser {
             if (art != "strh" || inhalt.substr(0, 4) != "vids") return;
             const double dauer = zahl(inhalt, 20), takt = zahl(inhalt, 24);
             if (takt > 0) avi.Bildzeit = dauer / takt * 1000;
+            avi.Verfahren = inhalt.substr(4, 4);
         });
     }
 

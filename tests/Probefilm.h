@@ -1,5 +1,5 @@
 #pragma once
-// Ein kleiner Film aus gegebenen Bildern, Byte für Byte aufgebaut.
+// Ein kleiner Film aus gegebenen Bildern, die schon gepackt sind, Byte für Byte aufgebaut.
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -19,8 +19,9 @@ inline std::string abschnitt(const std::string &art, const std::string &inhalt) 
 
 /// takt Bilder in dauer Sekunden; ein Takt von 0 überlässt es dem Kopf der Datei mit µsJeBild.
 inline std::string probefilm(const std::vector<std::string> &bilder, std::uint32_t dauer = 1, std::uint32_t takt = 25,
-                             std::uint32_t µsJeBild = 50000) {
-    const std::string strh = "vidsMJPG" + std::string(12, '\0') + wort(dauer) + wort(takt) + std::string(28, '\0');
+                             std::uint32_t µsJeBild = 50000, const std::string &verfahren = "VP90") {
+    const std::string strh =
+        "vids" + verfahren + std::string(12, '\0') + wort(dauer) + wort(takt) + std::string(28, '\0');
     const std::string strl = abschnitt("LIST", "strl" + abschnitt("strh", strh));
     const std::string kopf = "hdrl" + abschnitt("avih", wort(µsJeBild) + std::string(52, '\0')) + strl;
     std::string folge = "movi";

@@ -27,6 +27,7 @@ int main() {
     prüfung.gleich("das erste", film.substr(avi.Bilder[0].Ort, avi.Bilder[0].Länge), "eins");
     prüfung.gleich("ein leeres", avi.Bilder[1].Länge, 0u);
     prüfung.gleich("nach ungerader Länge", film.substr(avi.Bilder[2].Ort, avi.Bilder[2].Länge), "drei!");
+    prüfung.gleich("Verfahren", avi.Verfahren, "VP90");
     prüfung.gleich("Takt der Spur", avi.Bildzeit, 40.0);
     prüfung.gleich("Takt der Datei", liesAvi(probefilm({"eins"}, 1, 0)).Bildzeit, 50.0);
     prüfung.gilt("Anhang stört nicht", istFilm(film + "mehr"));
