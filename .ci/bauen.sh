@@ -1,7 +1,7 @@
 # Gemeinsames von spielen, testen und .ci/run: holt fehlende Debian-Pakete und baut. Wird eingelesen, im Ordner des
 # Verzeichnisses. Ein zweiter Aufruf ohne Neues kostet eine Frage an dpkg und einen Blick von ninja.
 
-Baupakete="g++ cmake ninja-build qt6-base-dev libsdl2-dev libfluidsynth-dev"
+Baupakete="g++ cmake ninja-build qt6-base-dev libsdl2-dev libfluidsynth-dev pkgconf libvpx-dev"
 # Was das Spiel erst beim Spielen braucht: Schriften, auch für die Bilder der Prüfung, und den Klangsatz der Musik.
 Schriftpakete="fonts-comic-neue fonts-lato fonts-urw-base35 fonts-dejavu-core"
 Spielpakete="$Schriftpakete timgm6mb-soundfont"

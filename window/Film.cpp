@@ -1,19 +1,14 @@
 #include "window/Film.h"
 
-#include "media/Avi.h"
 #include "platform/Dateien.h"
 #include "platform/Laufzeitfehler.h"
-
-#include <QBuffer>
-#include <QImageReader>
 
 #include <algorithm>
 
 namespace velmo {
 
 Film::Film(const std::string &Datei) : bytes(liesDatei(Datei)), aufbau(liesAvi(bytes)) {
-    zeige(0);
-    if (gezeigtes.isNull()) throw Laufzeitfehler(Fehlerart::Datei);
+    if (aufbau.Verfahren != Bildspur::Verfahren || !entpacke(0)) throw Laufzeitfehler(Fehlerart::Datei);
     takt.setTimerType(Qt::PreciseTimer);
     takt.callOnTimeout([this] { schritt(); });
 }
@@ -32,30 +27,24 @@ void Film::schritt() {
 
 void Film::zeigeStand(Zeit ms) {
     const auto nummer = static_cast<std::size_t>(static_cast<double>(ms) / aufbau.Bildzeit);
-    const std::size_t jetzt = std::min(nummer, aufbau.Bilder.size() - 1);
-    if (jetzt != gezeigt) zeige(jetzt);
+    while (gezeigt < std::min(nummer, aufbau.Bilder.size() - 1))
+        entpacke(++gezeigt);
 }
 
 const QImage &Film::bild(const QSize &neu) {
-    if (neu.isValid() && neu != größe) {
+    if (frisch || neu != größe) {
         größe = neu;
-        zeige(gezeigt);
+        frisch = false;
+        spur.zeichne(gezeigtes, größe);
     }
     return gezeigtes;
 }
 
-/// Ein Bild, das sich nicht lesen lässt, lässt das vorige stehen.
-void Film::zeige(std::size_t nummer) {
-    gezeigt = nummer;
+/// Ein leeres Bild wiederholt das vorige; eines, das sich nicht entpacken lässt, lässt es stehen.
+bool Film::entpacke(std::size_t nummer) {
     const Avi::Bild &b = aufbau.Bilder[nummer];
-    const QByteArray daten = QByteArray::fromRawData(bytes.data() + b.Ort, static_cast<qsizetype>(b.Länge));
-    QBuffer quelle;
-    quelle.setData(daten);
-    QImageReader leser(&quelle, "JPEG");
-    const QSize volle = leser.size();
-    if (größe.isValid() && größe.width() < volle.width() && größe.height() < volle.height()) leser.setScaledSize(größe);
-    QImage bild = leser.read();
-    if (!bild.isNull()) gezeigtes = std::move(bild);
+    if (b.Länge == 0 || !spur.entpacke(std::string_view(bytes).substr(b.Ort, b.Länge))) return false;
+    return frisch = true;
 }
 
 } // namespace velmo

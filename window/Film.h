@@ -2,6 +2,7 @@
 // Ein Film, von vorn bis hinten abgespielt.
 #include "media/Avi.h"
 #include "platform/Oberfläche.h"
+#include "window/Bildspur.h"
 
 #include <QElapsedTimer>
 #include <QImage>
@@ -14,24 +15,27 @@ namespace velmo {
 
 class Film {
   public:
-    /// Wirft Laufzeitfehler (Datei), wenn es die Datei nicht gibt oder sie kein Film ist.
+    /// Wirft Laufzeitfehler (Datei), wenn es die Datei nicht gibt, sie kein Film ist oder einer, den das Fenster nicht
+    /// spielt.
     explicit Film(const std::string &Datei);
 
     void spiele();
-    /// Zeigt das Bild nach so vielen ms, zuletzt das letzte.
+    /// Geht vor bis zum Bild nach so vielen ms, zuletzt bis zum letzten.
     void zeigeStand(Zeit ms);
-    /// Das gezeigte Bild; von nun an in dieser Größe, wenn sie kleiner ist als der Film.
+    /// Das gezeigte Bild, so fein es die Größe braucht; ohne Größe ganz.
     const QImage &bild(const QSize &größe = {});
     /// Wird bei jedem neuen Bild gerufen.
     std::function<void()> neuesBild;
 
   private:
     void schritt();
-    void zeige(std::size_t nummer);
+    bool entpacke(std::size_t nummer);
 
     const std::string bytes;
     const Avi aufbau;
+    Bildspur spur;
     std::size_t gezeigt = 0;
+    bool frisch = true; // noch nicht gezeichnet
     QImage gezeigtes;
     QSize größe;
     QElapsedTimer uhr;

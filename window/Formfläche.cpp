@@ -276,10 +276,7 @@ void Formfläche::maleAlles(QPainter &p, const QRect &bereich) {
         const QRect ort = ortVon(s);
         if (!s.sichtbar || (s.nurUnterZeiger && !zeigerHier) || !bereichVon(s).intersects(bereich)) continue;
         if (s.sorte == Sorte::Film) {
-            if (const QImage *film = u.filmbild(s.control, ort.size()))
-                p.drawImage(ort.topLeft(), film->size() == ort.size() ? *film
-                                                                      : film->scaled(ort.size(), Qt::IgnoreAspectRatio,
-                                                                                     Qt::SmoothTransformation));
+            if (const QImage *film = u.filmbild(s.control, ort.size())) p.drawImage(ort, *film);
             continue;
         }
         maleStück(p, s, ort);

@@ -1,29 +1,28 @@
 """Der Vorspann ani.hvi: Flug über die Modellinsel, der Name, ein Wagen fährt vor.
 
-Ein AVI aus einzelnen JPEG-Bildern; die Zeiten folgen der Musik in sound/intro.wav. Die unteren 3 % des Bildes liegen
-unter dem Rand des Fensters.
+Ein AVI mit einer Spur in VP9; die Zeiten folgen der Musik in sound/intro.wav. Die unteren 3 % des Bildes liegen unter
+dem Rand des Fensters.
 """
-import io
 import random
 import subprocess
 
 
-from befehl import AUFTRAG, zwischen, ziel
+from befehl import AUFTRAG, maß, zwischen, ziel
 from film.insel import *
 
 TAKT, DAUER = 25, 9.4            # Bilder je s, s
 NAME_DA, WAGEN_AB, HUPE, BREMSE, STEHT, SCHLUSS = 5.0, 6.75, (7.5, 7.81), 8.2, 8.56, 8.75
-GÜTE, GÜTE_MIN, BYTES_JE_BILD = 88, 16, 50400
-KEHRE = range(42, 91, 6)         # Grad; 90 zeigt nach rechts, 0 zum Betrachter
+GÜTE = 30                        # von VP9: 0 die beste, 63 die schlechteste
+KEHRE = range(48, 91, 6)         # Grad; 90 zeigt nach rechts, 0 zum Betrachter
 
 
 #       s    x     y    Weite Drehung Neigung
-FLUG = [(-.4, 690, 560, 1300, -.02, .08),
-        (.0, 700, 565, 1290, -.02, .10),
-        (1.3, 840, 600, 1030, -.035, .24),
-        (2.5, 1420, 640, 1000, .01, .26),
-        (3.4, 2010, 730, 1060, .035, .24),
-        (4.1, 1980, 800, 1480, .02, .15),
+FLUG = [(-.4, 740, 560, 1400, -.02, .08),
+        (.0, 748, 565, 1390, -.02, .10),
+        (1.3, 860, 610, 1200, -.035, .24),
+        (2.5, 1420, 660, 1180, .01, .26),
+        (3.4, 2000, 740, 1220, .035, .24),
+        (4.1, 1980, 810, 1560, .02, .15),
         (4.75, 1500, 858, 2520, .0, .03),
         (5.1, 1482, 862, 2600, .0, .02),
         (9.4, 1482, 862, 2470, .0, .02)]
@@ -105,7 +104,7 @@ def kleine_wagen(bild, t, k, insel, bilder):
 
 BUCHSTABEN = "VELMO"
 MITTEN = (149, 297, 430, 592, 772)           # im Bild, Bildpunkte
-FUSS, GRÖSSE = 346, .66                      # Bildpunkte; Maß der Teile
+FUSS, GRÖSSE = 346, .44                      # Bildpunkte; Maß der Teile
 WOHIN = (45 / 130, 78 / 90)                  # Fuß eines Buchstabens in seinem Teil
 
 
@@ -128,11 +127,11 @@ def name(bild, t, teile):
         if t >= da - .42:
             stellen.append((zeichen, x, t - da, *fall(t, da)))
     for zeichen, x, nach, hoch, _ in stellen:
-        setze(bild, teile.buchstaben[zeichen + "_s"], x + .5 * hoch, FUSS - .2 * hoch, GRÖSSE, WOHIN,
+        setze(bild, teile.buchstaben[zeichen][1], x + .5 * hoch, FUSS - .2 * hoch, GRÖSSE, WOHIN,
               deckung=.85 * max(.15, 1 - hoch / 300))
         staub(bild, teile, x, FUSS - 6, nach, .55)
     for zeichen, x, nach, hoch, streckung in stellen:
-        teil = glanz(teile.buchstaben[zeichen], x, t)
+        teil = glanz(teile.buchstaben[zeichen][0], x, t)
         setze(bild, teil, x, FUSS - hoch, GRÖSSE, WOHIN, streckung=streckung)
 
 
@@ -175,7 +174,7 @@ def wagenort(t):
 def wagen(bild, t, teile):
     if t < WAGEN_AB - .1:
         return
-    x, y, maß = wagenort(t), 474.0, .78
+    x, y, maß = wagenort(t), 474.0, .52
     grad = 90 - 40 * sanft(t, BREMSE - .25, STEHT + .02)
     unten = max(g for g in teile.wagen if g <= grad)
     y += 12 * sanft(t, BREMSE - .25, STEHT)
@@ -214,15 +213,24 @@ def stern(größe=96):
 
 class Teile:
     def __init__(self):
-        def teil(name_):
-            return lade(zwischen("film/teile.py", name_ + ".png", außer=("film.py", "insel.py")))
-        self.wolken = [weichzeichnen(teil("wolke%d" % i), 1.6) for i in (1, 2, 3)]
+        wolken = [ImageOps.scale(teil("wolke%d" % i), 2) for i in (1, 2, 3)]
+        self.wolken = [weichzeichnen(w, 1.6) for w in wolken]
         self.schatten = [schwarz(w, 16) for w in self.wolken]
-        self.staub = weichzeichnen(teil("wolke2"), 12)
-        self.buchstaben = {z + s: teil(z + s) for z in BUCHSTABEN for s in ("", "_s")}
-        self.wagen = {g: (teil("wagen%02d" % g), teil("wagen%02d_s" % g)) for g in KEHRE}
+        self.staub = weichzeichnen(wolken[1], 12)
+        self.buchstaben = {z: mit_schatten(z) for z in BUCHSTABEN}
+        self.wagen = {g: mit_schatten("wagen%02d" % g) for g in KEHRE}
         self.stern = stern()
         self.kleine = {n: lade(vorhanden("bilder/auto/%d.png" % n)) for n in range(125, 141)}
+
+
+def teil(name_):
+    """In fertiger Größe, auch in der Vorschau."""
+    return ImageOps.scale(lade(zwischen("film/teile.py", name_ + ".png", außer=("film.py", "insel.py"))), 1 / maß())
+
+
+def mit_schatten(name_):
+    vorn = teil(name_)
+    return vorn, weichzeichnen(teil(name_ + "_s").resize(vorn.size, Image.Resampling.BICUBIC), 2)
 
 
 def weichzeichnen(bild, r):
@@ -254,7 +262,6 @@ def einzelbild(t, insel, teile, rand):
     schleier(bild, t, teile)
     ruhe = sanft(t, NAME_DA - .25, NAME_DA + .35)      # der Name steht vor einem etwas stilleren Grund
     if ruhe:
-        bild = bild.filter(ImageFilter.GaussianBlur(.8 * ruhe))
         bild.alpha_composite(Image.new("RGBA", bild.size, (10, 34, 62, int(38 * ruhe))))
     setze(bild, rand, B / 2, H / 2, deckung=.5 + .5 * ruhe)
     name(bild, t, teile)
@@ -262,14 +269,14 @@ def einzelbild(t, insel, teile, rand):
     return bild.convert("RGB")
 
 
-def jpeg(bild):
-    """So gut, wie es die Bytes je Bild erlauben."""
-    for güte in range(GÜTE, GÜTE_MIN - 1, -3):
-        aus = io.BytesIO()
-        bild.save(aus, "JPEG", quality=güte, subsampling=2, optimize=True)
-        if aus.tell() <= BYTES_JE_BILD:
-            break
-    return aus.getvalue()
+def packer(datei):
+    """Nimmt rohe Bilder und macht den Film. Das Fenster rechnet seine Farben nach BT.709 zurück."""
+    ein = ["-f", "rawvideo", "-pix_fmt", "rgb24", "-s", "%dx%d" % AUSGABE, "-framerate", TAKT, "-i", "-"]
+    farben = ["-vf", "scale=out_color_matrix=bt709:out_range=tv:flags=accurate_rnd+full_chroma_int",
+              "-pix_fmt", "yuv420p", "-colorspace", "bt709", "-color_range", "tv"]
+    vp9 = ["-c:v", "libvpx-vp9", "-crf", GÜTE, "-b:v", 0, "-deadline", "good", "-cpu-used", 2, "-g", 9999]
+    wort = ["ffmpeg", "-v", "error", "-y", *ein, *farben, *vp9, "-fflags", "+bitexact", "-f", "avi", ziel(datei)]
+    return subprocess.Popen([str(w) for w in wort], stdin=subprocess.PIPE)
 
 
 def bogen():
@@ -288,10 +295,9 @@ def mache(datei):
         return bogen().save(ziel(datei + ".png"))
     brauche("ffmpeg")
     insel, teile, rand = Insel(), Teile(), rahmen()
-    packen = subprocess.Popen(["ffmpeg", "-v", "error", "-y", "-f", "image2pipe", "-c:v", "mjpeg", "-framerate",
-                               str(TAKT), "-i", "-", "-c", "copy", "-fflags", "+bitexact", "-f", "avi", ziel(datei)],
-                              stdin=subprocess.PIPE)
+    packen = packer(datei)
     for nr in range(round(DAUER * TAKT)):
-        packen.stdin.write(jpeg(einzelbild(nr / TAKT, insel, teile, rand)))
+        packen.stdin.write(einzelbild(nr / TAKT, insel, teile, rand).tobytes())
     packen.stdin.close()
-    packen.wait()
+    if packen.wait():
+        raise SystemExit("ffmpeg hat den Film nicht gepackt")

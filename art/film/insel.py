@@ -7,10 +7,10 @@ from tafeln import FELDER, STUFEN, mitte, punkte
 brauche("python3-numpy", "python3-pil")
 
 import numpy as np
-from PIL import Image, ImageChops, ImageFilter      # noqa: F401
+from PIL import Image, ImageChops, ImageFilter, ImageOps      # noqa: F401
 
 B, H = 903, 573                  # gerechnet wird in Dritteln eines Entwurfspunkts (3612 x 2292 Twips)
-AUSGABE = (1128, 716)            # Bildpunkte des Films
+AUSGABE = (1504, 954)            # Bildpunkte des Films
 FEINER = AUSGABE[0] / B
 
 

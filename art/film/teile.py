@@ -1,6 +1,7 @@
 """Die Teile des Vorspanns: Buchstaben, Wagen in der Kehre, Wolken, je mit eigenem Schatten.
 
-Alle Teile stehen in Bildern gleichen Maßes; der Schatten liegt im Bild gleichen Namens mit "_s".
+Der Schatten liegt im Bild gleichen Namens mit "_s". Maße: ein Entwurfspunkt hat FEINER oder WEICH mal so viele
+Bildpunkte wie sonst.
 """
 import re
 
@@ -9,6 +10,7 @@ from wagen.wagen import wagen
 
 NAME = {"V": "rot", "E": "gelb", "L": "grün", "M": "blau", "O": "orange"}
 NEIGUNG = 22                           # Grad
+FEINER, WEICH = 1.5, .5                # Buchstaben und Wagen stehen groß im Film; Wolken und Schatten sind weich
 
 
 def buchstabe(zeichen, farbe):
@@ -57,4 +59,5 @@ def mache(datei):
             if o.type in ("MESH", "CURVE", "FONT"):
                 o.visible_camera = False
         schattengrund()
-    rendere(datei, 0, 0, *größe, proben=48, rand=3 if schatten else 0)
+    feiner = WEICH if schatten or name == "wolke" else FEINER
+    rendere(datei, 0, 0, *größe, proben=48, rand=3 if schatten else 0, fein=feiner * AUFTRAG.fein)

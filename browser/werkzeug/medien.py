@@ -100,9 +100,9 @@ def opusdauer(daten):
 
 
 def film(quellen):
-    """Der Film, zwei Drittel so fein, als VP9, und für Safari als H.264; dessen Zeilen müssen gerade sein."""
+    """Der Film, halb so fein, als VP9, und für Safari als H.264; dessen Zeilen müssen gerade sein."""
     datei = quellen / "ani.hvi"
-    breite, höhe = (n * 2 // 3 for n in bildgröße(datei))
+    breite, höhe = (n // 2 for n in bildgröße(datei))
     gemeinsam = ("ffmpeg", "-v", "error", "-i", "QUELLE", "-an", "-vf",
                  f"scale={breite + breite % 2}:{höhe + höhe % 2}", "-pix_fmt", "yuv420p")
     befehle = ((*gemeinsam, "-c:v", "libvpx-vp9", "-b:v", 0, "-crf", 58, "-deadline", "good", "-cpu-used", 3, "-row-mt", 1,
