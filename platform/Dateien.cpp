@@ -1,6 +1,7 @@
 #include "platform/Dateien.h"
 
 #include "platform/Laufzeitfehler.h"
+#include "platform/Zeichen.h"
 
 #include <algorithm>
 #include <fstream>
@@ -14,10 +15,18 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// Klein geschrieben, auch Umlaute und Akzente: in UTF-8 das zweite Byte nach C3, außer dem Malzeichen.
+std::string kleinGeschrieben(std::string text) {
+    text = klein(std::move(text));
+    for (std::size_t i = 1; i < text.size(); ++i) {
+        const auto zweites = static_cast<unsigned char>(text[i]);
+        if (text[i - 1] == '\xC3' && zweites <= 0x9E && zweites != 0x97) text[i] = static_cast<char>(zweites + 0x20);
+    }
+    return text;
+}
+
 bool gleichOhneSchreibung(const std::string &a, const std::string &b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](unsigned char x, unsigned char y) {
-        return x == y || (x < 0x80 && y < 0x80 && std::tolower(x) == std::tolower(y));
-    });
+    return kleinGeschrieben(a) == kleinGeschrieben(b);
 }
 
 bool istOrdner(const fs::path &pfad) {
