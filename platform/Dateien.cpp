@@ -20,7 +20,8 @@ std::string kleinGeschrieben(std::string text) {
     text = klein(std::move(text));
     for (std::size_t i = 1; i < text.size(); ++i) {
         const auto zweites = static_cast<unsigned char>(text[i]);
-        if (text[i - 1] == '\xC3' && zweites <= 0x9E && zweites != 0x97) text[i] = static_cast<char>(zweites + 0x20);
+        const bool groß = zweites >= 0x80 && zweites <= 0x9E && zweites != 0x97;
+        if (text[i - 1] == '\xC3' && groß) text[i] = static_cast<char>(zweites + 0x20);
     }
     return text;
 }
