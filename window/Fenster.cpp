@@ -188,9 +188,11 @@ void Fenster::folgeReihenfolge(const std::vector<Form *> &formen) {
     for (const Form *form : formen)
         neu.push_back(form->Nummer);
     if (neu == reihenfolge) return;
+    // Gehobenes wird ganz neu gezeichnet: was unten bleibt, bleibt liegen.
+    std::erase_if(reihenfolge, [this](std::uint64_t nummer) { return !flächen.contains(nummer); });
+    for (auto hier = std::ranges::mismatch(neu, reihenfolge).in1; hier != neu.end(); ++hier)
+        flächen[*hier]->raise();
     reihenfolge = std::move(neu);
-    for (const std::uint64_t nummer : reihenfolge)
-        flächen[nummer]->raise();
 }
 
 /// Die Tasten gehören dem Bedienelement des Systems, das den Fokus hat, sonst dem Fenster.
