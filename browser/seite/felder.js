@@ -11,6 +11,7 @@ function textfeld(melde) {
 }
 
 const ZEILENABSTAND = 1.12; // des langen Textes
+const HALB = 0.5; // Bildpunkt: ein Browser rundet eine Grundlinie, das Fenster rundet sie ab
 
 /// Ein langer Text: Überschriften abgesetzt, Aufzählungen eingerückt; Längen in Schriftgrößen.
 function textfläche() {
@@ -26,9 +27,10 @@ function textfläche() {
       const p = neu(groß === 1 ? "p" : "h3", { textContent: satz });
       const eigener = Math.floor(grad * faktor * groß + 0.001);
       const zeile = (ganzeZeile(m.schrift, eigener).weit * ZEILENABSTAND) / faktor;
+      const stärke = groß === 1 ? m.stärke : 700;
       Object.assign(p.style, {
         margin: `${i ? darüber * grad : 0}px 0 0 ${links * grad}px`, fontSize: `${eigener / faktor}px`, lineHeight: `${zeile}px`,
-        top: `${-hebung(m.schrift, eigener / faktor, zeile)}px`, color: farbe, fontWeight: groß === 1 ? "" : 700,
+        top: `${-hebung(m.schrift, stärke, eigener / faktor, zeile) - HALB / faktor}px`, color: farbe, fontWeight: stärke,
       });
       return p;
     }));

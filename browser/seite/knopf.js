@@ -3,7 +3,7 @@ import { lade, größe, zeige } from "./bilder.js";
 import { setze } from "./schrift.js";
 
 const ECKE = 44; // so weit reichen die Ecken der Zustandsbilder, in ihren Punkten
-const ZEILE = 17; // Bildpunkte des Entwurfs
+const ZEILE = 17, NIEDRIG = 18; // Bildpunkte des Entwurfs
 const JE_ENTWURF = 4; // ihre Punkte je Bildpunkt des Entwurfs
 const ZUSTÄNDE = { ruhe: "ruhe", überfahren: "ruhe", gedrückt: "gedrueckt", gesperrt: "gesperrt" };
 
@@ -40,7 +40,8 @@ async function maleKörper(knopf, m, breite, höhe, faktor) {
   leinwand.width = breite;
   leinwand.height = höhe;
   p.imageSmoothingQuality = "high";
-  const [B, H] = [vorlage.naturalWidth, vorlage.naturalHeight], je = faktor / JE_ENTWURF;
+  const [B, H] = [vorlage.naturalWidth, vorlage.naturalHeight], fein = höhe < NIEDRIG * faktor ? 2 : 1; // ein niedriger Knopf hat feinere Kanten
+  const je = faktor / JE_ENTWURF / fein;
   const ex = Math.min(ECKE * je, breite / 2), ey = Math.min(ECKE * je, höhe / 2);
   const vonX = [0, ECKE, B - ECKE, B], vonY = [0, ECKE, H - ECKE, H];
   const nachX = [0, ex, breite - ex, breite].map(Math.round), nachY = [0, ey, höhe - ey, höhe].map(Math.round);

@@ -13,11 +13,24 @@ export function ganzeZeile(schrift, grad) {
   return { eng: ganz(auf + ab), weit: ganz(auf + ab + schuss) };
 }
 
-/// Wie weit über der Mitte ihrer Zeile die Schrift steht, damit sie deren Oberkante berührt; Browser runden ihre Längen.
-export function hebung(schrift, grad, zeile) {
-  const [auf, ab] = schriftmaße[schrift].map((länge) => länge * grad);
-  return (zeile - Math.round(auf) - Math.round(ab)) / 2 + Math.round(auf) - auf;
+const grundlinien = new Map();
+
+/// Wie weit unter der Oberkante ihrer Zeile die Grundlinie steht: jeder Browser rundet sie anders.
+function grundlinie(schrift, stärke, grad, zeile) {
+  const wie = [schrift, stärke, grad, zeile].join("|");
+  if (!grundlinien.has(wie)) {
+    const probe = document.body.appendChild(document.createElement("div")), marke = document.createElement("span");
+    probe.style.cssText = `position:absolute;visibility:hidden;font:${stärke} ${grad}px/${zeile}px "${schrift}"`;
+    marke.style.cssText = "display:inline-block;width:0;height:0";
+    probe.append("x", marke);
+    grundlinien.set(wie, marke.getBoundingClientRect().bottom - probe.getBoundingClientRect().top);
+    probe.remove();
+  }
+  return grundlinien.get(wie);
 }
+
+/// Um wie viel der Satz zu heben ist, damit seine Oberlänge an der Oberkante der ersten Zeile beginnt.
+export const hebung = (schrift, stärke, grad, zeile) => grundlinie(schrift, stärke, grad, zeile) - schriftmaße[schrift][0] * grad;
 
 /// Setzt den Text in das innere Element des Stücks. platz: Breite und Höhe in Bildpunkten des Entwurfs.
 export function setze(innen, m, breite, höhe) {
@@ -30,16 +43,18 @@ export function setze(innen, m, breite, höhe) {
   Object.assign(innen.style, {
     fontFamily: `"${m.schrift}", "DejaVu Sans", sans-serif`, fontWeight: m.stärke, lineHeight: zeile, margin: `${-schuss / 2}em 0`,
   });
-  passeEin(innen, Math.round(m.grad * SATZPUNKTE), zeile, schuss, breite, höhe);
+  const grad = passeEin(innen, Math.round(m.grad * SATZPUNKTE), zeile, schuss, breite, höhe);
+  innen.style.top = `${(schuss / 2) * grad - hebung(m.schrift, m.stärke, grad, zeile * grad)}px`;
 }
 
+/// Gibt den Grad, mit dem der Text passt.
 function passeEin(innen, anfang, zeile, schuss, breite, höhe) {
   const schritt = Math.max(1, Math.floor(anfang / 25));
   for (let g = anfang; ; g -= schritt) {
     const grad = g / SATZPUNKTE;
     innen.style.fontSize = `${grad}px`;
-    if (g * 9 <= anfang * 5 || !innen.textContent) return;
+    if (g * 9 <= anfang * 5 || !innen.textContent) return grad;
     const zeilen = Math.round(innen.offsetHeight / (zeile * grad));
-    if (innen.scrollWidth <= Math.ceil(breite) && (zeilen * zeile - schuss) * grad <= höhe) return;
+    if (innen.scrollWidth <= Math.ceil(breite) && (zeilen * zeile - schuss) * grad <= höhe) return grad;
   }
 }

@@ -89,7 +89,8 @@ async function beginne() {
   const wünsche = () => seite.melde("ruhig", ruhig.matches ? "ja" : "nein");
   ruhig.addEventListener("change", wünsche);
   wünsche();
-  await document.fonts.ready;
+  // Gesetzt wird mit den Maßen der Schriften; die letzte springt nur für seltene Zeichen ein.
+  await Promise.all([...document.fonts].filter((f) => !f.family.includes("DejaVu")).map((f) => f.load()));
   document.getElementById("lädt").remove();
   spiel.callMain([]);
   seite.bühne.wennMenü(async () => {
