@@ -73,14 +73,23 @@ void Laufzeit::entlade(Formularname Name) {
     form->geladen = false; // ein Entladen aus Form_Unload heraus beginnt nicht von vorn
     form->entladen = true;
     behandle([&] {
-        form->Form_Unload();
-        if (form->trägtSpiel()) gibWartendeAuf();
-        std::erase_if(zeitplan, [&](const Timer *t) { return &t->form == form; });
-        eingabe.vergiss(*form);
-        const auto hier = std::find_if(formen.begin(), formen.end(), [&](const auto &f) { return f.get() == form; });
-        entladene.push_back(std::move(*hier));
-        formen.erase(hier);
+        try {
+            form->Form_Unload();
+        } catch (const Programmende &) { // auch wer im Gehen das Programm beendet, ist fort
+            nimmHeraus(*form);
+            throw;
+        }
+        nimmHeraus(*form);
     });
+}
+
+void Laufzeit::nimmHeraus(Form &form) {
+    if (form.trägtSpiel()) gibWartendeAuf();
+    std::erase_if(zeitplan, [&](const Timer *t) { return &t->form == &form; });
+    eingabe.vergiss(form);
+    const auto hier = std::find_if(formen.begin(), formen.end(), [&](const auto &f) { return f.get() == &form; });
+    entladene.push_back(std::move(*hier));
+    formen.erase(hier);
 }
 
 std::vector<Form *> Laufzeit::Formen() const {

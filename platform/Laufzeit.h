@@ -89,6 +89,7 @@ class Laufzeit {
 
   private:
     const Formeintrag &eintrag(Formularname) const;
+    void nimmHeraus(Form &);
     void ruf(const Handler &);
     void gibAb(Rast);
     void gibWartendeAuf() { aufgegeben = wartende; }
