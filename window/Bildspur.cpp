@@ -4,6 +4,7 @@
 #include <vpx/vpx_decoder.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <new>
 #include <vector>
@@ -29,31 +30,55 @@ struct Ebene {
     std::ptrdiff_t schritt;
 };
 
-using Zeile = std::vector<std::int16_t>;
 constexpr int Farbmaß = 16; // so viel ist in einer Zeile von Blau oder Rot eine Stufe
 
-void übernimm(const std::uint8_t *ein, int maß, std::int16_t *aus, int breite) {
-    for (int x = 0; x < breite; ++x)
-        aus[x] = static_cast<std::int16_t>(maß * ein[x]);
+/// Die Zeilen, aus denen eine des Ziels entsteht; Hilf hat an jedem Ende einen Platz mehr.
+struct Zeilen {
+    explicit Zeilen(std::size_t länge) : hell(länge), blau(länge), rot(länge), hilf(länge + 2) {}
+    std::vector<std::int16_t> hell, blau, rot, hilf;
+};
+
+/// Eine Zeile, N-mal so grob: das Mittel aus je N mal N Punkten.
+template <int N> void mittle(const Ebene &e, int y, int maß, std::int16_t *aus, int breite) {
+    std::array<const std::uint8_t *, N> ein;
+    for (int i = 0; i < N; ++i)
+        ein[static_cast<std::size_t>(i)] = e.zeile(N * y + i);
+    for (int x = 0; x < breite; ++x) {
+        int summe = 0;
+        for (const std::uint8_t *zeile : ein)
+            for (int i = 0; i < N; ++i)
+                summe += zeile[N * x + i];
+        aus[x] = static_cast<std::int16_t>((maß * summe + N * N / 2) / (N * N));
+    }
 }
 
-/// Das Mittel aus je vier Punkten.
-void halbiere(const std::uint8_t *oben, const std::uint8_t *unten, std::int16_t *aus, int breite) {
-    for (int x = 0; x < breite; ++x)
-        aus[x] = static_cast<std::int16_t>((oben[2 * x] + oben[2 * x + 1] + unten[2 * x] + unten[2 * x + 1] + 2) / 4);
-}
-
-/// Doppelt so fein: drei Teile vom nächsten Punkt, einer vom übernächsten, in beiden Richtungen. Hilf hat an jedem Ende
-/// einen Platz mehr.
-void verdopple(const std::uint8_t *nah, const std::uint8_t *fern, std::int16_t *hilf, std::int16_t *aus, int breite) {
+/// Eine Zeile, doppelt so fein: drei Teile vom nächsten Punkt, einer vom übernächsten, in beiden Richtungen.
+void verdopple(const Ebene &e, int y, std::int16_t *hilf, std::int16_t *aus) {
+    static_assert(Farbmaß == 4 * 4);
+    const std::uint8_t *nah = e.zeile(y / 2), *fern = e.zeile(y % 2 ? y / 2 + 1 : y / 2 - 1);
     std::int16_t *mitte = hilf + 1;
-    for (int x = 0; x < breite; ++x)
+    for (int x = 0; x < e.breite; ++x)
         mitte[x] = static_cast<std::int16_t>(3 * nah[x] + fern[x]);
     mitte[-1] = mitte[0];
-    mitte[breite] = mitte[breite - 1];
-    for (int x = 0; x < breite; ++x) {
+    mitte[e.breite] = mitte[e.breite - 1];
+    for (int x = 0; x < e.breite; ++x) {
         aus[2 * x] = static_cast<std::int16_t>(3 * mitte[x] + mitte[x - 1]);
         aus[2 * x + 1] = static_cast<std::int16_t>(3 * mitte[x] + mitte[x + 1]);
+    }
+}
+
+struct Ebenen {
+    Ebene hell, blau, rot;
+};
+
+template <int N> void lies(const Ebenen &e, int y, Zeilen &z, int breite) {
+    mittle<N>(e.hell, y, 1, z.hell.data(), breite);
+    if constexpr (N == 1) {
+        verdopple(e.blau, y, z.hilf.data(), z.blau.data());
+        verdopple(e.rot, y, z.hilf.data(), z.rot.data());
+    } else {
+        mittle<N / 2>(e.blau, y, Farbmaß, z.blau.data(), breite);
+        mittle<N / 2>(e.rot, y, Farbmaß, z.rot.data(), breite);
     }
 }
 
@@ -105,26 +130,20 @@ bool Bildspur::entpacke(std::string_view bytes) {
 
 void Bildspur::zeichne(QImage &ziel, const QSize &größe) const {
     if (!entpackt) return;
-    const Ebene hell(*entpackt, 0), blau(*entpackt, 1), rot(*entpackt, 2);
-    const QSize halbe(hell.breite / 2, hell.höhe / 2);
-    const bool halb = größe.isValid() && größe.width() <= halbe.width() && größe.height() <= halbe.height();
-    const int breite = halb ? halbe.width() : hell.breite, höhe = halb ? halbe.height() : hell.höhe;
-    if (ziel.size() != QSize(breite, höhe)) ziel = QImage(breite, höhe, QImage::Format_RGB32);
+    const Ebenen e{{*entpackt, 0}, {*entpackt, 1}, {*entpackt, 2}};
+    static constexpr std::array Leser{lies<1>, lies<2>, lies<4>};
+    const auto kleiner = [&](std::size_t stufe) { return QSize(e.hell.breite >> stufe, e.hell.höhe >> stufe); };
+    const auto reicht = [&](const QSize &g) { return g.width() >= größe.width() && g.height() >= größe.height(); };
+    std::size_t stufe = 0;
+    while (größe.isValid() && stufe + 1 < Leser.size() && reicht(kleiner(stufe + 1)))
+        ++stufe;
 
-    const auto länge = static_cast<std::size_t>(2 * blau.breite);
-    Zeile h(länge), u(länge), v(länge), hilf(länge + 2);
-    for (int y = 0; y < höhe; ++y) {
-        if (halb) {
-            halbiere(hell.zeile(2 * y), hell.zeile(2 * y + 1), h.data(), breite);
-            übernimm(blau.zeile(y), Farbmaß, u.data(), breite);
-            übernimm(rot.zeile(y), Farbmaß, v.data(), breite);
-        } else {
-            const int nah = y / 2, fern = y % 2 ? nah + 1 : nah - 1;
-            übernimm(hell.zeile(y), 1, h.data(), breite);
-            verdopple(blau.zeile(nah), blau.zeile(fern), hilf.data(), u.data(), blau.breite);
-            verdopple(rot.zeile(nah), rot.zeile(fern), hilf.data(), v.data(), rot.breite);
-        }
-        färbe(h.data(), u.data(), v.data(), reinterpret_cast<QRgb *>(ziel.scanLine(y)), breite);
+    const QSize soll = kleiner(stufe);
+    if (ziel.size() != soll) ziel = QImage(soll, QImage::Format_RGB32);
+    Zeilen z(static_cast<std::size_t>(2 * e.blau.breite));
+    for (int y = 0; y < soll.height(); ++y) {
+        Leser[stufe](e, y, z, soll.width());
+        färbe(z.hell.data(), z.blau.data(), z.rot.data(), reinterpret_cast<QRgb *>(ziel.scanLine(y)), soll.width());
     }
 }
 

@@ -19,8 +19,8 @@ class Bildspur {
     Bildspur();
     /// Entpackt das nächste Bild, das auf den vorigen aufbaut; falsch, wenn es beschädigt ist.
     bool entpacke(std::string_view bytes);
-    /// Zeichnet das entpackte Bild ins Ziel: halb so fein, wenn das für die Größe reicht, sonst ganz. Ein beschädigtes
-    /// lässt das Ziel, wie es ist.
+    /// Zeichnet das entpackte Bild ins Ziel: ganz, halb oder ein Viertel so fein, so grob es für die Größe reicht. Ein
+    /// beschädigtes lässt das Ziel, wie es ist.
     void zeichne(QImage &ziel, const QSize &größe) const;
 
   private:
