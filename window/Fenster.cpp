@@ -5,6 +5,7 @@
 #include "window/Gestaltung.h"
 #include "window/Rand.h"
 #include "window/Schrift.h"
+#include "window/Speicher.h"
 #include "window/Vorleser.h"
 
 #include <QApplication>
@@ -26,6 +27,7 @@ constexpr QSize Entwurf(800, 600);
 constexpr double Zeigerbild = 768;  // Twips: 64 Bildpunkte des Entwurfs im Geviert
 constexpr double Ziehabstand = 120; // Twips
 constexpr int Ruhezeit = 150;       // ms
+constexpr int Aufräumzeit = 2000;   // ms
 constexpr double Ziehgröße = 1.75;  // das Gezogene ist größer, damit man es unter dem Zeiger sieht
 
 /// Die größte bequeme Größe, die auf den Bildschirm passt.
@@ -107,6 +109,9 @@ Fenster::Fenster(Umgebung &u, std::function<void()> schließt)
     stillstand.setSingleShot(true);
     stillstand.setInterval(Formfläche::Stillstand);
     stillstand.callOnTimeout([this] { folge(gleitet); });
+    danach.setSingleShot(true);
+    danach.setInterval(Aufräumzeit);
+    danach.callOnTimeout(gibSpeicherZurück);
     messe();
     anzeige.setStyleSheet(feldgestalt(vergrößerung()));
 }
@@ -145,6 +150,7 @@ void Fenster::folge(bool gleitende) {
         if (std::ranges::any_of(formen, [&](const Form *f) { return f->Nummer == eintrag.first; })) return false;
         eintrag.second->hide();
         eintrag.second->deleteLater();
+        danach.start();
         return true;
     });
     for (const Form *form : formen) {

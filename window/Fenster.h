@@ -91,6 +91,7 @@ class Fenster : public QWidget {
     std::unique_ptr<Vorleser> leser;
     QTimer beruhigt;   // der Spieler zieht nicht mehr am Fenster
     QTimer stillstand; // was sich bewegt hat, steht vielleicht
+    QTimer danach;     // Formen sind gegangen, und was sie brauchten, ist frei
 };
 
 } // namespace velmo
