@@ -2,6 +2,7 @@
 // das den Merkmalen folgt, die das Spiel nennt.
 import { holeWartende, zeige } from "./bilder.js";
 import { Formelement } from "./form.js";
+import { vergissMaße } from "./schrift.js";
 import { maleUmland } from "./umland.js";
 
 const BREITE = 800, HÖHE = 600;
@@ -20,6 +21,10 @@ export class Bühne {
     this.rand = document.body.insertBefore(Object.assign(document.createElement("canvas"), { id: "rand" }), anzeige);
     addEventListener("resize", () => this.messe());
     matchMedia(`(resolution: ${devicePixelRatio}dppx)`).addEventListener?.("change", () => this.messe());
+    document.fonts.addEventListener("loadingdone", () => {
+      vergissMaße();
+      for (const form of this.formen.values()) form.zeigeAlles();
+    });
     this.messe();
   }
 

@@ -17,11 +17,10 @@ const HALB = 0.5; // Bildpunkt: ein Browser rundet eine Grundlinie, das Fenster 
 function textfläche() {
   const e = neu("div", { tabIndex: -1 });
   e.setAttribute("role", "document");
-  let gesetzt = "";
   const folge = (m, grad, faktor) => {
     const wie = [m.text, grad, faktor].join("|");
-    if (wie === gesetzt) return;
-    gesetzt = wie;
+    if (wie === e.dataset.wie) return;
+    e.dataset.wie = wie;
     e.style.padding = `${0.7 * grad}px`;
     e.replaceChildren(...m.absätze.map(([satz, darüber, links, groß, farbe], i) => {
       const p = neu(groß === 1 ? "p" : "h3", { textContent: satz });

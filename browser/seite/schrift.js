@@ -15,6 +15,12 @@ export function ganzeZeile(schrift, grad) {
 
 const grundlinien = new Map();
 
+/// Eine Schrift, die eben erst da ist, hat andere Maße als die, die für sie einsprang.
+export function vergissMaße() {
+  grundlinien.clear();
+  for (const e of document.querySelectorAll("[data-wie]")) delete e.dataset.wie;
+}
+
 /// Wie weit unter der Oberkante ihrer Zeile die Grundlinie steht: jeder Browser rundet sie anders.
 function grundlinie(schrift, stärke, grad, zeile) {
   const wie = [schrift, stärke, grad, zeile].join("|");

@@ -89,8 +89,7 @@ async function beginne() {
   const wünsche = () => seite.melde("ruhig", ruhig.matches ? "ja" : "nein");
   ruhig.addEventListener("change", wünsche);
   wünsche();
-  // Gesetzt wird mit den Maßen der Schriften; die letzte springt nur für seltene Zeichen ein.
-  await Promise.all([...document.fonts].filter((f) => !f.family.includes("DejaVu")).map((f) => f.load()));
+  await document.fonts.ready;
   document.getElementById("lädt").remove();
   spiel.callMain([]);
   seite.bühne.wennMenü(async () => {

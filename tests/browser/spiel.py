@@ -19,11 +19,13 @@ for (const form of document.querySelectorAll("[data-form]:not([hidden])"))
   }
 return alle;
 """
-# Was auf der Seite misslingt, lässt die Prüfung scheitern.
+# Was auf der Seite misslingt, lässt die Prüfung scheitern; was kurz vorn stand, weiß sie auch danach.
 MERKE_FEHLER = """
 window.misslungenes = [];
 addEventListener("error", (e) => misslungenes.push(e.message));
 addEventListener("unhandledrejection", (e) => misslungenes.push(String(e.reason)));
+window.vorngewesene = new Set();
+new MutationObserver(() => vorngewesene.add(document.body.dataset.vorn)).observe(document.body, {attributeFilter: ["data-vorn"]});
 """
 RUNDENZEIT = 150  # s
 LANGE = 900  # ms, die ein Finger liegt
@@ -79,7 +81,8 @@ class Spiel:
 
     def warte_aufs_brett(self):
         """Bis Dorvin gegrüßt hat und wieder fort ist."""
-        self.warte(lambda s: self.vorn() == "Sprech", "Dorvins Gruß")
+        gegrüßt = "return vorngewesene.has('Sprech')"
+        self.warte(lambda s: self.browser.skript(gegrüßt), "Dorvins Gruß", 3 * treiber.GEDULD)
         self.warte(lambda s: s["Form1.WüButton"]["frei"] and s["Form1.Label1"]["frei"], "das Brett")
 
     def ruhiges_bild(self):
