@@ -47,11 +47,11 @@ void Sprech::schreibe(const std::string &Text) {
     ordneBlase();
 }
 
-/// Ringsum bleibt gleich viel frei; gerollt wird nur, was lang ist oder schon gerollt wurde.
+/// Ringsum bleibt gleich viel frei, auch neben dem Rollbalken; gerollt wird nur, was lang ist oder schon gerollt wurde.
 void Sprech::ordneBlase() {
     const bool kurz = Zeichenzahl(Label1.Caption()) < LangerSatz;
     VScroll1.Überflüssig = kurz && VScroll1.Value() == 0;
-    Label1.Zeicheneinzug = {-48, 60, 36, Command1.Visible ? 252.0 : 60.0};
+    Label1.Zeicheneinzug = {-48, 60, VScroll1.Überflüssig ? 36.0 : 156.0, Command1.Visible ? 252.0 : 60.0};
 }
 
 void Sprech::zeigeKnöpfe(bool sichtbar) {

@@ -81,7 +81,7 @@ Brett::Brett(Programm &p) : Form(p, Formname, {0, 0, 9600, 7200}, "Velmo") {
 /// Die Schrift sitzt auf dem Papier, dem Messing und dem Täfelchen des Tischs.
 void Brett::setzeBeschriftungen() {
     Label1.Mittig = true;
-    Label1.Zeicheneinzug = {48, -48, 24, 72};
+    Label1.Zeicheneinzug = {72, 12, 84, 120};
     setzeMittig(label9, 1, {0, 0, 0, 24});
     setzeMittig(Geldlabel, 1.6, {0, -12, 0, 12});
     setzeMittig(Label4, 0.64, {20, -48, 100, 132});

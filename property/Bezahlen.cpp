@@ -38,7 +38,7 @@ Bezahlen::Bezahlen(Programm &programm) : Form(programm, Formname, {0, 240, 7476,
     SSCommand1.Enabled = false;
     Label1.FontSize = 10;
     Label1.Zeicheneinzug = {36, -48, 0, 48};
-    Shape1.Zeicheneinzug = {120, 84, 120, 108};
+    Shape1.Zeicheneinzug = {120, 108, 120, 120};
     Image3.MouseDown = [this](Maustaste, double, double) { p.eingabe.zieheForm(*this); };
     würfeln.Click = [this] { würfeln_Click(); };
     SSCommand1.Click = [this] { SSCommand1_Click(); };

@@ -34,8 +34,11 @@ Exchange::Exchange(Programm &programm) : Form(programm, Formname, {VonRechts, Vo
     Label1.Zeicheneinzug = {0, 60, 0, -60};
     for (VisualControl *c : {static_cast<VisualControl *>(&Combo1), static_cast<VisualControl *>(&Combo2)})
         c->Zeicheneinzug = {84, 0, -84, 0};
-    for (Label *l : {&Label2, &Label3})
-        l->Zeicheneinzug = {60, 24, 0, -24};
+    for (Label *l : {&Label2, &Label3}) {
+        l->Mittig = true;
+        l->Zeicheneinzug = {48, 0, 0, -36};
+        l->Schriftmaß = 0.92;
+    }
     Command1.Zeicheneinzug.links = 96;
     Command1.Click = [this] { Command1_Click(); };
     Command2.Click = [this] { p.entlade(Formname); };

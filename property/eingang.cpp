@@ -28,6 +28,7 @@ eingang::eingang(Programm &programm) : Brettdialog(programm, Formname, 6360, 390
         label->Mittig = true;
     }
     Label1.Zeicheneinzug = {120, 0, 120, 0};
+    SSCommand9.Zeicheneinzug = {60, 0, 60, 96}; // der untere Rand bleibt frei
     for (Line *linie : {&Line1, &Line2, &Line3, &Line4})
         linie->BorderColor = farbe::Holz;
     Knöpfe.beiKlick([this](Hotelkürzel k) { wähle(k); });

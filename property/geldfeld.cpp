@@ -65,6 +65,8 @@ geldfeld::geldfeld(Programm &programm) : Brettdialog(programm, Formname, 4332, 1
     SSCommand1.FontSize = SSCommand2.FontSize = 7.5; // "Boomerang Zwangskaufen" füllt den Knopf
     SSCommand1.Zeicheneinzug.links = 72;
     SSCommand2.Zeicheneinzug.rechts = 72;
+    Image2.Zeicheneinzug = {24, -60, -444, -264}; // groß zu beiden Seiten von "Nichts Kaufen"
+    Image1.Zeicheneinzug = {-192, -60, -228, -264};
     SSCommand1.Click = [this] { kaufe(SSCommand1, Seite::links); };
     SSCommand2.Click = [this] { kaufe(SSCommand2, Seite::rechts); };
     SSCommand3.Click = [this] { SSCommand3_Click(); };

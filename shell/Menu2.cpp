@@ -45,11 +45,14 @@ Menu2::Menu2(Programm &programm) : Form(programm, Formname, {420, 1056, 8868, 47
     BackColor = farbe::Weiß;
     for (Shape *rahmen : {&Shape1, &Shape2})
         rahmen->BorderColor = Farbe{0x9C7440};
-    Shape2.Zeicheneinzug = {0, 24, 48, 108};
+    Shape1.Zeicheneinzug = {36, 12, 0, -12};
+    Shape2.Zeicheneinzug = {48, 12, 48, 108};
     for (CommandButton *knopf : {&Command3, &Command4, &Command5})
-        knopf->Zeicheneinzug.unten = 36;
+        knopf->Zeicheneinzug = {0, -24, 0, 60};
+    for (Label *l : {&Label1, &Label2, &Label3, &Label5, &Label6})
+        l->Mittig = true;
     Label4.Satzausrichtung = Ausrichtung::Mitte;
-    Label4.Zeicheneinzug = {0, 0, 48, 0}; // mitten über der Liste
+    Label4.Zeicheneinzug = {0, -36, 48, 36}; // mitten über der Liste
     Label4.Schriftmaß = 0.94;
     klickl.WieKnopf = klickr.WieKnopf = true;
     for (Schriftelement *feld : std::initializer_list<Schriftelement *>{&Text1, &Text2, &List1, &List2, &List3})

@@ -11,7 +11,7 @@ Verloren::Verloren(Programm &programm) : Ruinmeldung(programm, Formname, {2532, 
     Label1.FontSize = 12;
     Label1.Alignment = Ausrichtung::Mitte;
     Label1.Mittig = true;
-    Label1.Zeicheneinzug = {1380, 72, 60, -48}; // neben Dorvin, solange er spricht
+    Label1.Zeicheneinzug = {1512, 84, 330, -24}; // auf dem Messing, neben Dorvin
     SSCommand1.Click = [this] { spieleFrisch(MMControl1); };
     SSCommand3.Click = [this] { SSCommand3_Click(); };
     Timer1.Tick = [this] { Timer1.Enabled = false; };

@@ -29,8 +29,9 @@ std::string Versionszeile() {
     Titelzeile.FontBold = true;
     Macherzeile.FontName = "Arial";
     Macherzeile.FontSize = 12;
-    Macherzeile.Zeicheneinzug.links = -74; // bündig mit dem Titel
-    imgIcon.Zeicheneinzug = {-132, -132, -132, -132};
+    Macherzeile.Zeicheneinzug.links = -74;       // bündig mit dem Titel
+    shpRect3.Zeicheneinzug = {108, 48, -12, 48}; // bündig mit den Zeilen darunter
+    imgIcon.Zeicheneinzug = {-60, -120, -180, -120};
     Wir.Zeicheneinzug = {0, -420, 0, 420};
     Versionn.Zeicheneinzug = {0, -480, 0, 480};
     Label1.Zeicheneinzug = {-84, -540, 0, 540};

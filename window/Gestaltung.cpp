@@ -68,7 +68,7 @@ QString feldgestalt(double v) {
             selection-background-color: #8A663E; selection-color: #FFFBF2 }
         QLineEdit:focus, QListWidget:focus { border-color: #C48A1E }
         QLineEdit:disabled, QListWidget:disabled { color: #8E8270 }
-        QListWidget::item { padding: 0 %2 }
+        QListWidget::item { padding: 0 %2; background: transparent }
         QListWidget::item:selected { background: #8A663E; color: #FFFBF2 }
         QScrollBar:vertical { background: #E9D8B4; width: %7; margin: 0; border-radius: %3 }
         QScrollBar::handle:vertical { background: #A97F4C; min-height: %8; border-radius: %3; margin: %1 }

@@ -42,7 +42,9 @@ def geldhaufen(art):
               f'scale(.82)">{scheine(50, 2)}</g>{münzen(46, 110, 4)}{münzen(94, 122, 2)}{münzen(136, 106, 5)}',
               "tausch": f'<g transform="translate(78 54) scale(.86) '
               f'rotate(-8)">{scheine(100, 2)}</g>{münzen(128, 116, 4, 23)}{münzen(72, 124, 2, 20)}'}[art]
-    return svg(180, 140, f'<g filter="url(#schatten)">{inhalt}</g>', grunddefs() + MÜNZRAND)
+    groß = 1 if art == "tausch" else 16 / 9      # neben den Grundstücken liegt es größer
+    return svg(round(180 * groß), round(140 * groß),
+               f'<g transform="scale({groß:.4f})"><g filter="url(#schatten)">{inhalt}</g></g>', grunddefs() + MÜNZRAND)
 
 
 def hammer():

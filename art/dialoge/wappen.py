@@ -107,10 +107,10 @@ NAMEN = ("Royal", "Fujijama", "President", "Taj Mahal", "Boomerang", "L'Étoile"
 def mulde(k, x, y):
     """Der leere Platz eines Bildknopfs auf dem Papier: blass, welches Hotel hier fehlt."""
     return (f'<rect x="{x - 8}" y="{y - 8}" width="340" height="260" rx="14" fill="#5c3419" opacity=".14"/>'
-            f'<g transform="translate({x + 162} {y + 92})" opacity=".16"><ellipse rx="94" ry="70" fill="none" '
+            f'<g transform="translate({x + 162} {y + 92})" opacity=".26"><ellipse rx="94" ry="70" fill="none" '
             f'stroke="#5c3419" stroke-width="7"/>{WAPPEN[k][0]()}</g>'
             f'<text x="{x + 162}" y="{y + 216}" text-anchor="middle" font-family="{SCHRIFT}" font-size="46" '
-            f'fill="#5c3419" opacity=".5">{NAMEN[k]}</text>')
+            f'fill="#5c3419" opacity=".75">{NAMEN[k]}</text>')
 
 
 def schild(k):
