@@ -26,6 +26,7 @@ void gestalte(Label &schild) {
     schild.FontSize = 7;
     schild.FontBold = true;
     schild.Alignment = Ausrichtung::Mitte;
+    schild.Mittig = true;
     schild.Deckend = true;
     schild.BackColor = Farbe{0xFFF6DC};
 }
@@ -84,8 +85,8 @@ void Brett::setzeBeschriftungen() {
     Label1.Zeicheneinzug = {72, 12, 84, 120};
     setzeMittig(label9, 1, {0, 0, 0, 24});
     setzeMittig(Geldlabel, 1.6, {0, -12, 0, 12});
-    setzeMittig(Label4, 0.64, {20, -48, 100, 132});
-    setzeMittig(toteinG, 1.1, {-186, -24, -66, 72});
+    setzeMittig(Label4, 0.64, {20, -48, 136, 132});
+    setzeMittig(toteinG, 1.1, {-186, -24, -30, 72});
     setzeMittig(Info, 1, {});
     Info.Deckend = true;
     Info.BackColor = farbe::Papier;

@@ -11,7 +11,7 @@ namespace velmo {
 namespace {
 
 constexpr double Auslauf = 0.16; // der Höhe der Anzeige: so weit reicht die Szene hinaus
-constexpr int Kante = 6;         // Bildpunkte der Szene, die über ihre Kante hinaus verschmieren
+constexpr int Kante = 2;         // Bildpunkte der Szene, die über ihre Kante hinaus verschmieren
 
 /// Ein Balken neben der Anzeige; kante ist deren Streifen, der an ihn grenzt.
 struct Balken {

@@ -9,8 +9,8 @@ FEIN = 4
 # Entwurfspunkte: links, oben, Breite, Höhe
 ZETTEL = (7, 7, 256, 48)          # unter der Statuszeile
 SCHILD = (652, 7, 138, 48)        # unter dem Geld
-EINGANG = (752.5, 282, 45, 104)   # oben die Zahl der Eingänge, unten der gelbe Eingang und sein Pfeil
-KASSE = (752.5, 435, 45, 50)      # worin der Knopf der Wechselkasse sitzt
+EINGANG = (752.5, 282, 43, 104)   # oben die Zahl der Eingänge, unten der gelbe Eingang und sein Pfeil
+KASSE = (752.5, 435, 43, 50)      # worin der Knopf der Wechselkasse sitzt
 
 
 def punkte(ort):
@@ -20,7 +20,7 @@ def punkte(ort):
 def brettchen(x, y, b, h):
     """Dunkles Holz, aufgeschraubt."""
     r = 16
-    return (f'<rect x="{x + 8}" y="{y + 12}" width="{b}" height="{h}" rx="{r}" fill="#1c0c02" opacity=".5" '
+    return (f'<rect x="{x + 4}" y="{y + 12}" width="{b}" height="{h}" rx="{r}" fill="#1c0c02" opacity=".5" '
             f'filter="url(#weich)"/><rect x="{x}" y="{y}" width="{b}" height="{h}" rx="{r}" fill="url(#nuss)"/>'
             f'<g opacity=".6"><rect x="{x}" y="{y}" width="{b}" height="{h}" rx="{r}" filter="url(#maserung)"/></g>'
             f'<rect x="{x + 3}" y="{y + 3}" width="{b - 6}" height="{h - 6}" rx="{r - 3}" fill="none" '

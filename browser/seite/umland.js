@@ -2,7 +2,7 @@
 import { lade } from "./bilder.js";
 
 const AUSLAUF = 0.16; // der Höhe der Anzeige: so weit reicht die Szene hinaus
-const KANTE = 6; // Bildpunkte der Szene, die über ihre Kante hinaus verschmieren
+const KANTE = 2; // Bildpunkte der Szene, die über ihre Kante hinaus verschmieren
 
 /// Ein Balken neben der Anzeige: sein Ort, der Streifen der Szene an ihm, und quer zur Kante von innen nach außen.
 function maleBalken(p, bild, ton, { ort: [x, y, b, h], kante, von, bis }) {
