@@ -14,10 +14,10 @@ def scheine(wert, n=3):
               f'height="72" rx="7" fill="{grund}" opacity=".8"/>'
               f'<rect x="-59" y="-29" width="118" height="58" rx="4" fill="none" stroke="{hell}" stroke-width="2.5"/>'
               f'<ellipse rx="24" ry="25" fill="{hell}" stroke="{tief}" stroke-width="3"/></g>')
-    k = n - 1
-    return (s + f'<text transform="translate({-6 + 7 * k} {14 - 11 * k}) rotate({-5 + 2 * k})" y="10" '
+    k, grad = n - 1, {2: 30, 3: 21}.get(len(str(wert)), 16)
+    return (s + f'<text transform="translate({-6 + 7 * k} {14 - 11 * k}) rotate({-5 + 2 * k})" y="{grad / 3:.1f}" '
             f'text-anchor="middle" font-family="{SCHRIFT_EDEL}" font-weight="bold" '
-            f'font-size="{30 if wert < 1000 else 21}" fill="{tief}">{wert}</text>')
+            f'font-size="{grad}" fill="{tief}">{wert}</text>')
 
 
 def münzen(x, y, n, r=24):
@@ -44,7 +44,8 @@ def geldhaufen(art):
               f'rotate(-8)">{scheine(100, 2)}</g>{münzen(128, 116, 4, 23)}{münzen(72, 124, 2, 20)}'}[art]
     groß = 1 if art == "tausch" else 16 / 9      # neben den Grundstücken liegt es größer
     return svg(round(180 * groß), round(140 * groß),
-               f'<g transform="scale({groß:.4f})"><g filter="url(#schatten)">{inhalt}</g></g>', grunddefs() + MÜNZRAND)
+               f'<g transform="scale({groß:.4f}) translate(6 -5) scale(.93)">'
+               f'<g filter="url(#schatten)">{inhalt}</g></g>', grunddefs() + MÜNZRAND)
 
 
 def hammer():
