@@ -1,16 +1,13 @@
 // Die Knöpfe des Spiels: ihr Körper ist ein Bild, dessen Ecken bleiben und dessen Kanten sich strecken.
 import { lade, größe, zeige } from "./bilder.js";
-import { setze } from "./schrift.js";
+import { helligkeit, setze } from "./schrift.js";
 
 const ECKE = 44; // so weit reichen die Ecken der Zustandsbilder, in ihren Punkten
 const ZEILE = 17, NIEDRIG = 18; // Bildpunkte des Entwurfs
 const JE_ENTWURF = 4; // ihre Punkte je Bildpunkt des Entwurfs
 const ZUSTÄNDE = { ruhe: "ruhe", überfahren: "ruhe", gedrückt: "gedrueckt", gesperrt: "gesperrt" };
 
-const hellOderSchwarz = (farbe) => {
-  const [r, g, b] = [1, 3, 5].map((i) => parseInt(farbe.slice(i, i + 2), 16));
-  return farbe === "#000000" || (Math.max(r, g, b) + Math.min(r, g, b)) / 2 > 200;
-};
+const hellOderSchwarz = (farbe) => farbe === "#000000" || helligkeit(farbe) > 200;
 
 export function neuerKnopf() {
   const knopf = document.createElement("button");

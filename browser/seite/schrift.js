@@ -4,6 +4,12 @@ import { schriftmaße } from "./verzeichnis.js";
 
 const SATZPUNKTE = 8; // je Bildpunkt des Entwurfs: so fein sind die Schriftgrößen der Sätze
 
+/// Wie hell eine Farbe ist, 0 bis 255.
+export function helligkeit(farbe) {
+  const werte = [1, 3, 5].map((i) => parseInt(farbe.slice(i, i + 2), 16));
+  return (Math.max(...werte) + Math.min(...werte)) / 2;
+}
+
 /// Die Zeilenhöhe der Schrift, in Graden.
 export const zeilenhöhe = (schrift) => schriftmaße[schrift].reduce((summe, länge) => summe + länge);
 

@@ -2,7 +2,7 @@
 import { zeige } from "./bilder.js";
 import { neuesFeld } from "./felder.js";
 import { neuerKnopf, zeigeKnopf } from "./knopf.js";
-import { setze, zeilenhöhe } from "./schrift.js";
+import { helligkeit, setze, zeilenhöhe } from "./schrift.js";
 import { film } from "./verzeichnis.js";
 import { Filmart } from "./vorrat.js";
 
@@ -106,6 +106,7 @@ export class Stückelement {
   zeigeBeschriftung() {
     const { e, m } = this;
     e.style.color = m.gesperrt ? "var(--blass)" : m.farbe;
+    e.classList.toggle("hell", helligkeit(m.farbe) >= 150);
     e.style.textAlign = ["left", "right", "center"][m.lage];
     e.classList.toggle("mittig", m.mittig);
     const schild = m.grund && m.text;
