@@ -11,7 +11,8 @@ import subprocess
 import tempfile
 import time
 
-GEDULD = 30  # s, bis ein Browser oder eine Bedingung da sein muss
+GEDULD = 30  # s, bis eine Bedingung gelten muss
+STARTGEDULD = 120  # s, bis ein Browser antworten muss: auf zwei Kernen starten drei zugleich
 
 
 def freier_port():
@@ -70,7 +71,7 @@ class Marionette:
     """Die Leitung zu Firefox: Länge, Doppelpunkt, JSON."""
 
     def __init__(self, port):
-        self.leitung = warte(lambda: self.verbinde(port), "Firefox")
+        self.leitung = warte(lambda: self.verbinde(port), "Firefox", STARTGEDULD)
         self.rest, self.nummer = b"", 0
         self.nimm()  # sein Gruß
         self.befehl("NewSession", {"capabilities": {"alwaysMatch": {}}})
@@ -137,7 +138,7 @@ class Browser:
         wahl = {"args": worte}
         if telefon:
             wahl["mobileEmulation"] = {"deviceMetrics": {"width": breite, "height": höhe, "pixelRatio": 3, "touch": True}}
-        return warte(lambda: self.versuche(W3C, port, {"goog:chromeOptions": wahl}), "chromedriver")
+        return warte(lambda: self.versuche(W3C, port, {"goog:chromeOptions": wahl}), "chromedriver", STARTGEDULD)
 
     def öffne_webkit(self, breite, höhe, telefon):
         port = freier_port()
@@ -145,7 +146,7 @@ class Browser:
                     WEBKIT_DISABLE_SANDBOX_THIS_IS_DANGEROUS="1", GDK_BACKEND="x11")
         programm = next(pathlib.Path("/usr/lib").glob("*/webkit2gtk-4.*/MiniBrowser"))
         wahl = {"webkitgtk:browserOptions": {"binary": str(programm), "args": ["--automation"]}}
-        return warte(lambda: self.versuche(W3C, port, wahl), "WebKitWebDriver")
+        return warte(lambda: self.versuche(W3C, port, wahl), "WebKitWebDriver", STARTGEDULD)
 
     def öffne_firefox(self, breite, höhe, telefon):
         port = freier_port()
