@@ -3,9 +3,11 @@ bilder/formen/gewinn/picture1.jpg."""
 from befehl import zwischen
 from zeichenteile import *
 
+NACHT = "#020208", "#060612"      # der Himmel der Form hinter der oberen und der unteren Kante
+
 
 def mache(datei):
-    """Hängt den goldenen Rahmen an Kordeln in das Bild und stellt die Namenstafel davor; der Rand wird schwarz."""
+    """Hängt den goldenen Rahmen an Kordeln in das Bild und stellt die Namenstafel davor; am Rand wird es Nacht."""
     roh = zwischen("ende/pokalszene.py", "pokal.png", außer=("pokal.py",))
     b, h = 2004, 1877
     x, y, w, k = 1600, 1040, 376, 400      # das Bild des Siegers
@@ -22,10 +24,17 @@ def mache(datei):
               f'<rect width="892" height="168" rx="20"/></clipPath>'
              f'<g clip-path="url(#t)">{holz(892, 168)}</g>{papier(18, 16, 856, 136, 12, zierlinie=False)}</g>'
               + nagel(546, 1676, 6) + nagel(1418, 1676, 6))
-    rand = "".join(f'<rect x="{x0}" y="{y0}" width="{w0}" height="{h0}" fill="url(#{n})"/>' for n, x0, y0, w0,
-                   h0 in (("vl", 0, 0, 200, h), ("vr", b - 200, 0, 200, h), ("vo", 0, 0, b, 160),
-                          ("vu", 0, h - 160, b, 160)))
+    ränder = (("vl", 0, 0, 200, h), ("vr", b - 200, 0, 200, h), ("vo", 0, 0, b, 160), ("vu", 0, h - 160, b, 160))
     blenden = ("vl", (0, 0, 1, 0)), ("vr", (1, 0, 0, 0)), ("vo", (0, 0, 0, 1)), ("vu", (0, 1, 0, 0))
-    defs = grunddefs() + "".join(verlauf(n, [(0, "#000"), (.35, "#000", .72), (1, "#000", 0)], *v) for n, v in blenden)
-    oben = f'<rect width="{b}" height="360" fill="url(#vo)"/>'      # Ballons und Kordeln verlieren sich im Dunkel
-    ausgeben(datei, svg(b, h, bild(roh, b, h) + rand + rahmen + tafel_ + oben, defs), "black")
+    defs = grunddefs() + verlauf("nacht", [(0, NACHT[0]), (1, NACHT[1])]) + "".join(
+        verlauf(n, [(0, "#fff"), (.35, "#fff", .72), (1, "#fff", 0)], *v) for n, v in blenden)
+    oben = ("vo", 0, 0, b, 360),      # Ballons und Kordeln verlieren sich im Dunkel
+    bild_ = bild(roh, b, h) + nacht("rand", b, h, ränder) + rahmen + tafel_ + nacht("oben", b, h, oben)
+    ausgeben(datei, svg(b, h, bild_, defs), "black")
+
+
+def nacht(name, b, h, ränder):
+    """Der Nachthimmel der Form, so weit die Verläufe reichen."""
+    weiß = "".join(f'<rect x="{x}" y="{y}" width="{w}" height="{t}" fill="url(#{n})"/>' for n, x, y, w, t in ränder)
+    return (f'<mask id="{name}">{weiß}</mask>'
+            f'<rect width="{b}" height="{h}" fill="url(#nacht)" mask="url(#{name})"/>')

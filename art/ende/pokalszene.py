@@ -114,4 +114,4 @@ def mache(datei):
     flächenlicht((7, -7, 2), (0, 0, -1), 4, 1000, (.9, .92, 1))
     flächenlicht((4, 3.0, 7), (0, 0, 0), 2, 800, (1, .85, .6))
     flächenlicht((-7, 1, 0), (0, 0, 0), 2, 450, (1, .7, .5))
-    belichte(ziel(datei), 2004 * maß(), 1877 * maß(), 160, durchsichtig=False)
+    belichte_rein(ziel(datei), 2004 * maß(), 1877 * maß(), 64)

@@ -8,6 +8,7 @@ import math
 import os
 import random
 import sys
+import tempfile
 
 import befehl
 from befehl import AUFTRAG, als_jpeg, brauche, ziel
@@ -24,6 +25,7 @@ import numpy as np
 from mathutils import Matrix, Vector
 
 import körper
+import rein
 from knoten import Baum
 from körper import TIEFE, netz_aus, objekt, welt
 from stoffe import leere_stoffe, rgb
@@ -51,9 +53,9 @@ def leer(saat=1, **cycles):
     return szene
 
 
-def neu(saat=1, **cycles):
+def neu(saat=1):
     """Leere Szene mit Kamera, Sonne und Himmel des Brettes."""
-    szene = leer(saat, **cycles)
+    szene = leer(saat)
     licht = bpy.data.lights.new("Sonne", "SUN")
     licht.energy, licht.angle, licht.color = 3.0, math.radians(4), (1.0, 0.93, 0.82)
     stelle_auf("Sonne", licht)
@@ -171,10 +173,41 @@ def belichte(datei, breite, höhe, proben, durchsichtig=True):
     bpy.ops.render.render(write_still=True)
 
 
+def _schichten(breite, höhe, proben):
+    """Bild, Farben und Neigungen dessen, was die Kamera sieht, linear, in Bildpunkten."""
+    szene, r = bpy.context.scene, bpy.context.scene.render
+    bpy.context.view_layer.cycles.denoising_store_passes = True
+    szene.use_nodes = True
+    knoten = szene.node_tree.nodes
+    knoten.clear()
+    schichten, dateien = knoten.new("CompositorNodeRLayers"), knoten.new("CompositorNodeOutputFile")
+    dateien.format.file_format, dateien.format.color_depth = "OPEN_EXR", "32"
+    dateien.file_slots.clear()
+    namen = "Image", "Denoising Albedo", "Denoising Normal"
+    for name in namen:
+        dateien.file_slots.new(name)
+        szene.node_tree.links.new(schichten.outputs[name], dateien.inputs[name])
+    r.resolution_x, r.resolution_y, r.film_transparent = round(breite), round(höhe), False
+    szene.cycles.samples = befehl.proben(proben)
+    with tempfile.TemporaryDirectory() as ordner:
+        dateien.base_path = ordner + "/"
+        bpy.ops.render.render()
+        return [_lies_punkte(os.path.join(ordner, name + "0001.exr"))[..., :3] for name in namen]
+
+
+def belichte_rein(datei, breite, höhe, proben):
+    """Wie `belichte`, ohne Durchsicht, mit wenigen Proben und ohne Korn; nicht für den filmischen Blick."""
+    bild = rein.fürs_auge(rein.reinige(*_schichten(breite, höhe, proben)))
+    _schreibe_punkte(datei, np.dstack([bild, np.ones(bild.shape[:2])]))
+
+
 def belichte_jpeg(datei, breite, höhe, proben, *mehr):
     """Wie `belichte`, ohne Durchsicht, als JPEG ans Ziel; mehr: Worte für convert."""
     roh = ziel(datei) + ".roh.png"
-    belichte(roh, breite, höhe, proben, durchsichtig=False)
+    if bpy.context.scene.view_settings.view_transform == "Standard":
+        belichte_rein(roh, breite, höhe, proben)
+    else:
+        belichte(roh, breite, höhe, proben, durchsichtig=False)
     als_jpeg(roh, datei, *mehr)
     os.remove(roh)
 
@@ -193,8 +226,10 @@ def rendere(datei, links, oben, breite, höhe, proben=96, durchsichtig=True, ran
     if datei.endswith(".jpg"):
         größer = ["-filter", "Lanczos", "-resize", "%dx%d!" % (breite * soll, höhe * soll)] if fein < soll else []
         return belichte_jpeg(datei, breite * fein, höhe * fein, proben, *größer)
-    belichte(ziel(datei), breite * fein, höhe * fein, proben, durchsichtig)
-    if durchsichtig and rand:
+    if not durchsichtig:
+        return belichte_rein(ziel(datei), breite * fein, höhe * fein, proben)
+    belichte(ziel(datei), breite * fein, höhe * fein, proben)
+    if rand:
         _schatten_auslaufen(ziel(datei), rand * fein)
 
 
@@ -203,18 +238,30 @@ def rendere_twips(datei, rechteck, **wie):
     rendere(datei, *(w / TWIPS for w in rechteck), **wie)
 
 
-def _schatten_auslaufen(datei, weit):
+def _lies_punkte(datei):
     bild = bpy.data.images.load(datei)
     b, h = bild.size
     p = np.empty(b * h * 4, np.float32)
     bild.pixels.foreach_get(p)
-    p = p.reshape(h, b, 4)
+    bpy.data.images.remove(bild)
+    return p.reshape(h, b, 4)
+
+
+def _schreibe_punkte(datei, p):
+    h, b = p.shape[:2]
+    bild = bpy.data.images.new("Punkte", b, h, alpha=True)
+    bild.pixels.foreach_set(p.ravel().astype(np.float32))
+    bild.filepath_raw, bild.file_format = datei, "PNG"
+    bild.save()
+    bpy.data.images.remove(bild)
+
+
+def _schatten_auslaufen(datei, weit):
+    p = _lies_punkte(datei)
+    h, b = p.shape[:2]
     x = np.minimum(np.arange(b) + 0.5, b - np.arange(b) - 0.5)
     y = np.minimum(np.arange(h) + 0.5, h - np.arange(h) - 0.5)
     abstand = np.clip(np.minimum(x[None, :], y[:, None]) / weit, 0, 1)
     schatten = (p[..., :3].max(axis=2) < 0.04) & (p[..., 3] < 0.8)
     p[..., 3] *= np.where(schatten, abstand * abstand * (3 - 2 * abstand), 1)
-    bild.pixels.foreach_set(p.ravel())
-    bild.filepath_raw, bild.file_format = datei, "PNG"
-    bild.save()
-    bpy.data.images.remove(bild)
+    _schreibe_punkte(datei, p)
