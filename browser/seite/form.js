@@ -43,9 +43,9 @@ export class Formelement {
     e.classList.toggle("schatten", m.schatten);
     this.inhalt.classList.toggle("papier", !m.bild);
     this.inhalt.classList.toggle("gerahmt", !m.bild && m.schatten);
-    this.inhalt.style.backgroundColor = m.bild || m.umriss ? "" : m.farbe;
+    // Solange das Bild unterwegs ist, deckt die Farbe, was dahinter liegt; eine ausgeschnittene Form kann durchscheinen.
+    this.inhalt.style.backgroundColor = m.umriss && m.bild ? "" : m.farbe;
     this.inhalt.style.clipPath = m.umriss ? `path("${m.umriss}")` : "";
-    if (m.umriss && !m.bild) this.inhalt.style.backgroundColor = m.farbe;
     zeige(this.grund, m.bild, o.breite * bühne.punkte);
     if (anders.zeichnung) this.zeigeZeichnung();
     this.zeigeSaum();

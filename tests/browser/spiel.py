@@ -27,6 +27,9 @@ addEventListener("unhandledrejection", (e) => misslungenes.push(String(e.reason)
 window.vorngewesene = new Set();
 new MutationObserver(() => vorngewesene.add(document.body.dataset.vorn)).observe(document.body, {attributeFilter: ["data-vorn"]});
 """
+BILDER_DA = """
+return [...document.querySelectorAll("[data-form]:not([hidden]) img")].every(i => !i.dataset.soll || i.getAttribute("src"));
+"""
 RUNDENZEIT = 150  # s
 LANGE = 900  # ms, die ein Finger liegt
 
@@ -86,8 +89,9 @@ class Spiel:
         self.warte(lambda s: s["Form1.WüButton"]["frei"] and s["Form1.Label1"]["frei"], "das Brett")
 
     def ruhiges_bild(self):
-        """Ein Bild, in dem sich nichts mehr regt; der Zeiger ist fort."""
+        """Ein Bild, in dem alle Bilder da sind und sich nichts mehr regt; der Zeiger ist fort."""
         self.browser.zeige_hin(("hin", 1, 1))
+        self.warte(lambda s: self.browser.skript(BILDER_DA), "die Bilder", 3 * treiber.GEDULD)
         bild = None
         while bild != (bild := self.browser.bild()):
             time.sleep(1)
