@@ -120,4 +120,4 @@ def mache(datei):
     pflanze(mx, my, b, h, ufer, kästen, bäume)
     if hotel == "fujijama":
         schneeberg(mx - b * .34, my - h * .27)
-    rendere(datei, mx - b / 2, my - h / 2, b, h, fein=AUFTRAG.fein / 4 / seite, durchsichtig=False)
+    rendere(datei, mx - b / 2, my - h / 2, b, h, 32, fein=AUFTRAG.fein / 4 / seite, durchsichtig=False)
