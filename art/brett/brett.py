@@ -94,4 +94,4 @@ def mache(datei):
     for ort in ((22, 196, 20, "weiß", "rot"), (722, 44, -30, "#f6c84a", "blau"), (372, 422, 80, "weiß", "türkis"),
                 (280, 8, 10, "#e9785a", "weiß")):
         bauten.boot(*ort)
-    rendere_twips(datei, BRETT)
+    rendere_twips(datei, BRETT, proben=40)
