@@ -151,4 +151,4 @@ def mache(datei):
         krabbe()
     regenwolke()
     kram()
-    belichte(ziel(datei), 1468 * maß(), 1176 * maß(), 160, durchsichtig=False)
+    belichte_rein(ziel(datei), 1468 * maß(), 1176 * maß(), 64)
