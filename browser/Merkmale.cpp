@@ -99,7 +99,10 @@ void nimmFeld(Merkmale &m, const Control &c) {
     if (const auto *t = dynamic_cast<const TextBox *>(&c)) {
         m["feld"] = json(t->MultiLine ? "Textfläche" : "Textfeld");
         m["text"] = json(t->Text());
-        if (t->MultiLine) m["absätze"] = absätze(t->Text);
+        if (t->MultiLine) {
+            m["absätze"] = absätze(t->Text);
+            m["schleier"] = json(Schleier);
+        }
     } else if (const auto *l = dynamic_cast<const Listenelement *>(&c)) {
         m["feld"] = json(dynamic_cast<const ComboBox *>(l) ? "Auswahl" : "Liste");
         m["zeilen"] = json(l->Zeilen());

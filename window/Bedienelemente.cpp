@@ -7,7 +7,9 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QLinearGradient>
 #include <QListWidget>
+#include <QPainter>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyleOption>
@@ -71,6 +73,34 @@ Bedienelement textfeld(TextBox &feld, QWidget *form, Programm &p, const Bearbeit
             }};
 }
 
+/// Ein langer Text, der am Rand verblasst, hinter dem er weitergeht.
+class Textblatt : public QTextEdit {
+  public:
+    explicit Textblatt(QWidget *form) : QTextEdit(form) {
+        connect(verticalScrollBar(), &QScrollBar::valueChanged, viewport(), qOverload<>(&QWidget::update));
+    }
+
+  protected:
+    void paintEvent(QPaintEvent *e) override {
+        QTextEdit::paintEvent(e);
+        const QScrollBar &leiste = *verticalScrollBar();
+        if (leiste.value() > leiste.minimum()) verblasse(0, 1);
+        if (leiste.value() < leiste.maximum()) verblasse(viewport()->height(), -1);
+    }
+
+  private:
+    void verblasse(qreal rand, qreal hinein) {
+        const qreal bis = rand + hinein * fontInfo().pixelSize() * Schleier;
+        QColor papier = palette().color(QPalette::Base);
+        QLinearGradient schleier(0, rand, 0, bis);
+        schleier.setColorAt(0, papier);
+        papier.setAlpha(0);
+        schleier.setColorAt(1, papier);
+        QPainter(viewport())
+            .fillRect(QRectF(QPointF(0, rand), QPointF(viewport()->width(), bis)).normalized(), schleier);
+    }
+};
+
 /// Der Text als Seite: Überschriften abgesetzt, Aufzählungen eingerückt; grad: Längen des Fensters.
 void setzeSeite(QTextEdit &w, const QString &t, int grad) {
     w.setPlainText(t);
@@ -94,7 +124,7 @@ void setzeSeite(QTextEdit &w, const QString &t, int grad) {
 }
 
 Bedienelement textfläche(TextBox &feld, QWidget *form) {
-    auto *w = new QTextEdit(form);
+    auto *w = new Textblatt(form);
     w->setReadOnly(true);
     w->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     w->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -17,11 +17,18 @@ const HALB = 0.5; // Bildpunkt: ein Browser rundet eine Grundlinie, das Fenster 
 function textfläche() {
   const e = neu("div", { tabIndex: -1 });
   e.setAttribute("role", "document");
+  const rand = () => {
+    e.classList.toggle("am-anfang", e.scrollTop <= 0);
+    e.classList.toggle("am-ende", e.scrollTop + e.clientHeight >= e.scrollHeight - 1);
+  };
+  e.addEventListener("scroll", rand, { passive: true });
+  new ResizeObserver(rand).observe(e);
   const folge = (m, grad, faktor) => {
     const wie = [m.text, grad, faktor].join("|");
     if (wie === e.dataset.wie) return;
     e.dataset.wie = wie;
     e.style.padding = `${0.7 * grad}px`;
+    e.style.setProperty("--schleier", `${m.schleier * grad}px`);
     e.replaceChildren(...m.absätze.map(([satz, darüber, links, groß, farbe], i) => {
       const p = neu(groß === 1 ? "p" : "h3", { textContent: satz });
       const eigener = Math.floor(grad * faktor * groß + 0.001);
