@@ -7,8 +7,8 @@ from zeichenteile import *
 
 FEIN = 4
 # Entwurfspunkte: links, oben, Breite, Höhe
-ZETTEL = (7, 7, 256, 48)          # unter der Statuszeile
-SCHILD = (652, 7, 138, 48)        # unter dem Geld
+ZETTEL = (7, 6, 256, 51)          # unter der Statuszeile
+SCHILD = (652, 6, 138, 51)        # unter dem Geld
 EINGANG = (752.5, 282, 43, 104)   # oben die Zahl der Eingänge, unten der gelbe Eingang und sein Pfeil
 KASSE = (752.5, 435, 43, 50)      # worin der Knopf der Wechselkasse sitzt
 
