@@ -87,7 +87,7 @@ def parkplatz():
 
 
 # Namensschild: Text, Fuß in Entwurfspunkten, Brett, Schrift; unter y = 400 lägen die Notenstapel davor
-SCHILDER = [("Boomerang", (588, 399), "#7a3b22", "#ffe9c4"), ("President", (280, 399), "#31435f", "#f6e7c0"),
+SCHILDER = [("Boomerang", (588, 399), "#7a3b22", "#ffe9c4"), ("President", (267, 352), "#31435f", "#f6e7c0"),
             ("Waikiki", (84, 99), "#2d8f9c", "#fff6dc"), ("Taj Mahal", (352, 79), "#9c6a1f", "#fff3d6"),
             ("Safari", (672, 106), "#8a5f2c", "#fff0c6"), ("Fujijama", (500, 277), "#8e2f2a", "#fdebd0"),
             ("L'Étoile", (432, 285), "#3b5a45", "#f6e3b0"), ("Royal", (271, 216), "#6b2c4f", "#f8dfa6")]

@@ -41,16 +41,15 @@ def president():
         with am_brett(x, y):
             drehkörper(0, 0, 1, [(2.2, 0), (2.8, 2.6), (3.1, 3), (2.4, 3)], "#d8cdbb", 16)
             kugel(0, 0, 5.4, 3.0, laub("#4c8a40"))
-    for x, y in ((52, 296), (30, 326), (292, 345), (310, 368), (318, 392)):
+    for x, y in ((52, 296), (30, 326), (283, 331), (310, 368), (318, 392)):
         with am_brett(x, y):
             laterne(0, 0, 1, 10)
-    for x, y, drehung in ((104, 276, 8), (152, 283, 4), (196, 288, 5), (234, 300, -20), (58, 282, 35), (302, 356, -52)):
+    for x, y, drehung in ((104, 276, 8), (152, 283, 4), (196, 288, 5), (234, 300, -20), (58, 282, 35)):
         with am_brett(x, y, drehung=drehung):
             quader(0, 0, .9, 16, 6, 1.2, "#a89a84", .3)
             blumenbeet(0, 0, 14, 4, ("rot", "gelb", "weiß"), .5, 1.6)
-    for x, y in ((262, 350), (206, 376)):
-        with am_brett(x, y):
-            brunnen(0, 0, 1, 8, "#ddd5c6")
+    with am_brett(206, 376):
+        brunnen(0, 0, 1, 8, "#ddd5c6")
 
 
 def waikiki():
