@@ -134,7 +134,7 @@ void nimmEigenes(Merkmale &m, const Programm &p, const Stück &s) {
         m["bild"] = bildort(p, s.bild);
         m["rand"] = json(s.rand);
         if (s.wächst) m["voll"] = json(bildplatz(s));
-        m["blass"] = json(s.blass);
+        m["deckung"] = json(s.deckung);
         m["schein"] = s.schein ? json(*s.schein) : "null";
         m["drehung"] = json(s.drehung);
         m["schwebt"] = json(s.gebaren == Gebaren::Schwebt);

@@ -102,9 +102,16 @@ Rechteck Image::Schattenwurf() const {
     return {Left + links, fuß + vorn - tief, natürlicheBreite() - links + rechts * anteil, tief};
 }
 
+double Image::Flugweg() const { return gebaren == Gebaren::Fliegt ? (entwurf.Top - Top) / entwurf.Height : 0; }
+
 double Image::Drehung() const {
-    constexpr double JeHöhe = -18; // Grad auf einem Weg, so lang wie es hoch ist
-    return gebaren == Gebaren::Fliegt ? JeHöhe * (entwurf.Top - Top) / entwurf.Height : 0;
+    constexpr double JeHöhe = -18; // Grad
+    return JeHöhe * Flugweg();
+}
+
+double Image::Deckung() const {
+    constexpr double Ganz = 0.4; // bis hierher deckt es ganz, nach einer vollen Höhe gar nicht mehr
+    return std::clamp((1 - Flugweg()) / (1 - Ganz), 0.0, 1.0);
 }
 
 void Image::geändert() {

@@ -188,8 +188,13 @@ class Image : public VisualControl {
     Rechteck Schattenwurf() const;
     /// Wie weit sich ein fliegendes Bild gedreht hat, in Grad im Uhrzeigersinn.
     double Drehung() const;
+    /// Wie sehr ein fliegendes Bild noch deckt: 1 ganz, 0 nicht mehr.
+    double Deckung() const;
 
   private:
+    /// Wie weit es geflogen ist, in seinen Höhen.
+    double Flugweg() const;
+
     const Rechteck entwurf;
     bool gestreckt = false;
 };

@@ -33,6 +33,7 @@ Stück stück(const Image &i) {
     s.rand = i.BorderStyle() == Rand::Einfach;
     s.wächst = i.Wächst;
     s.drehung = i.Drehung();
+    s.deckung = i.Deckung();
     s.schein = i.Schein;
     if (!i.Stretch || i.Wächst) {
         s.natürlicheBreite = i.natürlicheBreite();

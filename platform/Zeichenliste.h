@@ -18,7 +18,7 @@ struct Stück {
     double Left = 0, Top = 0, Width = 0, Height = 0; // auf der Form; bei Linien von Punkt zu Punkt
     bool sichtbar = true, gesperrt = false;
     bool ablage = false; // nimmt Gezogenes
-    bool blass = false;  // lässt durchscheinen, was dahinter liegt
+    double deckung = 1;  // darunter scheint durch, was dahinter liegt
     bool schatten = false, wieKnopf = false, nurUnterZeiger = false;
     std::optional<Farbe> schein;
 

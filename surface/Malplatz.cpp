@@ -9,6 +9,8 @@ namespace velmo {
 
 namespace {
 
+constexpr double Durchblick = 0.4; // so sehr deckt noch, was eine Ablage verdeckt
+
 bool schneidet(const Rechteck &a, const Rechteck &b) {
     return a.Left < b.Left + b.Width && b.Left < a.Left + a.Width && a.Top < b.Top + b.Height &&
            b.Top < a.Top + a.Height;
@@ -28,9 +30,10 @@ double schattenkraft(const Stück &s) { return std::sqrt(std::clamp(s.Height / s
 void blendeVerdeckendes(Zeichenliste &alle, const VisualControl *gezogen) {
     for (auto vorn = alle.begin(); vorn != alle.end(); ++vorn) {
         if (vorn->sorte != Sorte::Bild || vorn->ablage || vorn->control == gezogen) continue;
-        vorn->blass = std::any_of(alle.begin(), vorn, [platz = bildplatz(*vorn)](const Stück &ziel) {
+        const bool verdeckt = std::any_of(alle.begin(), vorn, [platz = bildplatz(*vorn)](const Stück &ziel) {
             return ziel.ablage && ziel.sichtbar && ziel.sorte == Sorte::Bild && schneidet(bildplatz(ziel), platz);
         });
+        if (verdeckt) vorn->deckung = Durchblick;
     }
 }
 

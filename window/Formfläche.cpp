@@ -256,7 +256,7 @@ void Formfläche::maleGrund(QPainter &p, const QRect &ganz) {
 void Formfläche::maleStück(QPainter &p, const Stück &s, QRect ort) {
     const bool unterZeiger = s.wieKnopf && s.control == berührt && !s.gesperrt;
     if (unterZeiger && gedrückt) ort.translate(0, static_cast<int>(maß.strich(1)));
-    p.setOpacity(s.blass ? 0.4 : 1);
+    p.setOpacity(s.deckung);
     maleInHaltung(p, s, ort);
     p.setOpacity(1);
     if (!unterZeiger || gedrückt) return;

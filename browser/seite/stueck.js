@@ -91,7 +91,7 @@ export class Stückelement {
     e.hidden = !m.sichtbar;
     if (m.sorte !== "Linie")
       Object.assign(e.style, { left: `${links}px`, top: `${oben}px`, width: `${breite}px`, height: `${höhe}px` });
-    e.style.opacity = m.blass ? 0.4 : "";
+    e.style.opacity = m.deckung ?? "";
     for (const art of ["schatten", "taste", "glanz"]) e.classList.toggle(art, Boolean(m[art]));
     if (e.title !== m.hinweis) e.title = m.hinweis ?? "";
     if (m.sichtbar) this[`zeige${m.sorte}`]();
@@ -138,7 +138,6 @@ export class Stückelement {
     const { e, m, o } = this, img = e.firstChild;
     zeige(img, m.bild, o.breite);
     Object.assign(img.style, { width: "100%", height: "100%" });
-    e.style.opacity = m.deckung;
   }
 
   zeigeBildfeld() {

@@ -88,7 +88,10 @@ int main() {
     prüfeWuchs(t, turm);
     Image &note = b.stapel(500).p;
     t.gleich("eine liegende Note liegt gerade", note.Drehung(), 0);
-    note.Top = -900;
+    note.Top = -700;
     t.gilt("eine fliegende dreht sich", std::abs(note.Drehung()) > 1 && std::abs(note.Drehung()) < 45);
+    t.gleich("und deckt noch ganz", note.Deckung(), 1);
+    note.Top = -1700;
+    t.gilt("am Ziel ist sie fast verblasst", note.Deckung() > 0.1 && note.Deckung() < 0.5);
     return t.ende();
 }
