@@ -17,25 +17,27 @@ const HALB = 0.5; // Bildpunkt: ein Browser rundet eine Grundlinie, das Fenster 
 function textfläche() {
   const e = neu("div", { tabIndex: -1 });
   e.setAttribute("role", "document");
-  const rand = () => {
+  const folgeBlick = () => {
     e.classList.toggle("am-anfang", e.scrollTop <= 0);
     e.classList.toggle("am-ende", e.scrollTop + e.clientHeight >= e.scrollHeight - 1);
   };
-  e.addEventListener("scroll", rand, { passive: true });
-  new ResizeObserver(rand).observe(e);
+  e.addEventListener("scroll", folgeBlick, { passive: true });
+  new ResizeObserver(folgeBlick).observe(e);
   const folge = (m, grad, faktor) => {
     const wie = [m.text, grad, faktor].join("|");
     if (wie === e.dataset.wie) return;
     e.dataset.wie = wie;
-    e.style.padding = `${0.7 * grad}px`;
+    const rand = 0.7 * grad;
+    e.style.padding = `0 ${rand}px`; // oben und unten haben ihn die Zeilen: bis dorthin reicht der Schleier
     e.style.setProperty("--schleier", `${m.schleier * grad}px`);
     e.replaceChildren(...m.absätze.map(([satz, darüber, links, groß, farbe], i) => {
       const p = neu(groß === 1 ? "p" : "h3", { textContent: satz });
       const eigener = Math.floor(grad * faktor * groß + 0.001);
       const zeile = (ganzeZeile(m.schrift, eigener).weit * ZEILENABSTAND) / faktor;
       const stärke = groß === 1 ? m.stärke : 700;
+      const oben = i ? darüber * grad : rand, unten = i < m.absätze.length - 1 ? 0 : rand;
       Object.assign(p.style, {
-        margin: `${i ? darüber * grad : 0}px 0 0 ${links * grad}px`, fontSize: `${eigener / faktor}px`, lineHeight: `${zeile}px`,
+        margin: `${oben}px 0 ${unten}px ${links * grad}px`, fontSize: `${eigener / faktor}px`, lineHeight: `${zeile}px`,
         top: `${-hebung(m.schrift, stärke, eigener / faktor, zeile) - HALB / faktor}px`, color: farbe, fontWeight: stärke,
       });
       return p;

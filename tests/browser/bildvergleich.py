@@ -16,7 +16,7 @@ from spiel import Spiel
 ZELLE = 4       # Punkte des Entwurfs: so weit mitteln sich Kanten heraus
 DEUTLICH = 26   # von 255: eine Zelle, die mehr abweicht, ist anders
 SPIELRAUM = 0.012  # Anteil der Zellen, die anders sein dürfen
-VOLLER_TEXT = {"hilfe": 0.028}  # so viele, wo fast alles Schrift ist: jede Zeile rückt auf ganze Bildpunkte
+VOLLER_TEXT = {"hilfe": 0.023}  # so viele, wo fast alles Schrift ist: jede Zeile rückt auf ganze Bildpunkte
 FAKTOREN = (1, 2)
 
 # Wie die Seite und wie der Schaukasten zu dem Augenblick kommen, einer nach dem anderen.
