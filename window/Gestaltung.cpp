@@ -4,7 +4,9 @@
 #include "window/Schrift.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QProxyStyle>
+#include <QStyleOption>
 #include <QToolTip>
 
 #include <algorithm>
@@ -14,12 +16,38 @@ namespace velmo {
 
 namespace {
 
-/// Knöpfe der Kästen ohne Zeichen.
+/// Knöpfe der Kästen ohne Zeichen; der Pfeil einer Auswahl wächst mit ihr.
 class Stil : public QProxyStyle {
   public:
     Stil() : QProxyStyle("Fusion") {}
     int styleHint(StyleHint hint, const QStyleOption *o, const QWidget *w, QStyleHintReturn *r) const override {
         return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0 : QProxyStyle::styleHint(hint, o, w, r);
+    }
+
+    void drawComplexControl(ComplexControl was, const QStyleOptionComplex *o, QPainter *p,
+                            const QWidget *w) const override {
+        const auto *auswahl = qstyleoption_cast<const QStyleOptionComboBox *>(o);
+        if (was != CC_ComboBox || !auswahl) return QProxyStyle::drawComplexControl(was, o, p, w);
+        QStyleOptionComboBox ohne = *auswahl;
+        ohne.subControls &= ~SC_ComboBoxArrow;
+        QProxyStyle::drawComplexControl(was, &ohne, p, w);
+        malePfeil(*p, o->rect, o->palette.color(QPalette::ButtonText));
+    }
+
+  private:
+    static void malePfeil(QPainter &p, const QRectF &feld, QColor farbe) {
+        constexpr double Feldhöhe = 24, Breite = 8, Höhe = 4, Rand = 7; // Bildpunkte des Entwurfs
+        const double je = feld.height() / Feldhöhe, rechts = feld.right() - Rand * je;
+        const double oben = feld.center().y() - Höhe / 2 * je;
+        const QPointF ecken[] = {
+            {rechts - Breite * je, oben}, {rechts, oben}, {rechts - Breite / 2 * je, oben + Höhe * je}};
+        farbe.setAlpha(160);
+        p.save();
+        p.setRenderHint(QPainter::Antialiasing);
+        p.setPen(Qt::NoPen);
+        p.setBrush(farbe);
+        p.drawPolygon(ecken, 3);
+        p.restore();
     }
 };
 
