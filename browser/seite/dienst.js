@@ -2,8 +2,8 @@
 // kern (Datei -> SHA-256, alles, ohne das nichts geht) und dinge (Bilder, Töne, Film; ihr Name trägt ihren Abdruck).
 const KERNVORRAT = "velmo-kern-" + FASSUNG.name;
 const DINGVORRAT = "velmo-dinge"; // gilt über Fassungen hinweg: was gleich blieb, wird nicht noch einmal geholt
-const GELTUNG = "velmo-geltung"; // welcher Kernvorrat zuletzt ganz ankam
-const DINGE = new Set(FASSUNG.dinge);
+const GELTUNG = "velmo-geltung"; // welche Fassung zuletzt ganz ankam
+const ABDRUCK = /\.[0-9a-f]{10}\./; // im Namen jedes Dings
 const wurzel = new URL("./", self.location).href;
 
 async function prüfsumme(bytes) {
@@ -27,33 +27,37 @@ async function holeKern() {
 /// ist, kommt mit ihr; was noch fehlte, holt die Seite in Ruhe.
 async function holeGeänderteDinge() {
   const vorrat = await caches.open(DINGVORRAT);
-  const stamm = (datei) => datei.replace(/\.[0-9a-f]{10}\./, ".");
+  const stamm = (datei) => datei.replace(ABDRUCK, ".");
   const da = new Set((await vorrat.keys()).map((anfrage) => anfrage.url.slice(wurzel.length)));
   const stämme = new Set([...da].map(stamm));
   await vorrat.addAll(FASSUNG.dinge.filter((d) => !da.has(d) && stämme.has(stamm(d))).map((d) => wurzel + d));
 }
 
 async function gelte() {
-  await caches.open(GELTUNG).then((vorrat) => vorrat.put(wurzel + "kern", new Response(KERNVORRAT)));
+  const fassung = JSON.stringify({ kernvorrat: KERNVORRAT, dinge: FASSUNG.dinge });
+  await caches.open(GELTUNG).then((vorrat) => vorrat.put(wurzel + "fassung", new Response(fassung)));
 }
 
-/// Der Kernvorrat, dem der nächste Beginn gehört: auch der alte Dienst gibt schon die neue Seite, denn wann der Browser
-/// die Dienste wechselt, ist seine Sache.
-async function geltender() {
-  return (await caches.match(wurzel + "kern", { cacheName: GELTUNG }))?.text() ?? KERNVORRAT;
+/// Die Fassung, der der nächste Beginn gehört: auch der alte Dienst gibt schon die neue Seite, denn wann der Browser die
+/// Dienste wechselt, ist seine Sache.
+async function geltende() {
+  const antwort = await caches.match(wurzel + "fassung", { cacheName: GELTUNG });
+  return antwort ? antwort.json() : { kernvorrat: KERNVORRAT, dinge: FASSUNG.dinge };
 }
 
-/// Was zu keiner Seite mehr gehört, die noch steht, geht; nicht, was eben erst kommt: die Namen stehen vor der Frage fest,
-/// ob eine neue Fassung unterwegs oder schon da ist.
-async function räumeAuf() {
-  if ((await self.clients.matchAll({ includeUncontrolled: true })).length > 1) return;
-  const namen = await caches.keys();
-  if (self.registration.installing || (await geltender()) !== KERNVORRAT) return;
-  for (const name of namen)
-    if (name.startsWith("velmo-kern-") && name !== KERNVORRAT) await caches.delete(name);
-  const vorrat = await caches.open(DINGVORRAT);
-  for (const anfrage of await vorrat.keys())
-    if (!DINGE.has(anfrage.url.slice(wurzel.length))) await vorrat.delete(anfrage);
+/// Steht eine Seite der geltenden Fassung allein, geht, was nicht zu ihr gehört; nicht, was eben erst kommt: was da ist,
+/// steht vor der Frage fest, ob eine neue Fassung unterwegs oder schon da ist.
+async function räumeAuf(dateiDerSeite) {
+  const kerne = (await caches.keys()).filter((name) => name.startsWith("velmo-kern-"));
+  const dingvorrat = await caches.open(DINGVORRAT);
+  const anfragen = await dingvorrat.keys();
+  const { kernvorrat, dinge } = await geltende();
+  const ihre = await caches.match(wurzel + dateiDerSeite, { cacheName: kernvorrat });
+  const seiten = await self.clients.matchAll({ includeUncontrolled: true });
+  if (!ihre || seiten.length > 1 || self.registration.installing) return;
+  for (const name of kerne) if (name !== kernvorrat) await caches.delete(name);
+  const gebraucht = new Set(dinge.map((ding) => wurzel + ding));
+  for (const anfrage of anfragen) if (!gebraucht.has(anfrage.url)) await dingvorrat.delete(anfrage);
 }
 
 /// Wer einen Ton abspielt, fragt nach Ausschnitten; Safari nimmt nichts anderes.
@@ -77,12 +81,12 @@ async function antworte(anfrage) {
   if (anfrage.mode === "navigate" && datei === "") datei = "index.html";
   try {
     const wahl = { ignoreVary: true };
-    const da = (await caches.match(wurzel + datei, { ...wahl, cacheName: await geltender() })) ??
+    const da = (await caches.match(wurzel + datei, { ...wahl, cacheName: (await geltende()).kernvorrat })) ??
       (await caches.match(wurzel + datei, wahl));
     if (da) return ausschnitt(da, anfrage.headers.get("Range"));
   } catch {} // der Browser verweigert den Vorrat: dann eben vom Netz
   const antwort = await fetch(anfrage);
-  if (antwort.status === 200 && DINGE.has(datei)) {
+  if (antwort.status === 200 && ABDRUCK.test(datei)) {
     // Ist kein Platz mehr, spielt es sich weiter, nur nicht ohne Netz.
     const kopie = antwort.clone();
     await caches.open(DINGVORRAT).then((vorrat) => vorrat.put(wurzel + datei, kopie)).catch(() => {});
@@ -90,18 +94,17 @@ async function antworte(anfrage) {
   return antwort;
 }
 
-// Eine neue Fassung löst die alte sogleich ab, aber nie eine Seite, die schon steht: deren Dateien heißen nach ihrem
-// Inhalt und bleiben. Erst der nächste Beginn bekommt die neue index.html.
+// Ein neuer Dienst wartet, bis keine Seite mehr steht: löste er den alten mittendrin ab, bliebe in Chromium ein Beginn
+// im selben Augenblick ohne Antwort. Die neue Seite gibt bis dahin der alte.
 self.addEventListener("install", (e) => e.waitUntil(
-  holeKern().then(holeGeänderteDinge).then(gelte).then(() => self.skipWaiting(), async (fehler) => {
+  holeKern().then(holeGeänderteDinge).then(gelte).catch(async (fehler) => {
     await caches.delete(KERNVORRAT);
     throw fehler;
   })));
+// Der allererste nimmt die Seite an, die ihn geholt hat.
 self.addEventListener("activate", (e) => e.waitUntil(self.clients.claim()));
 self.addEventListener("fetch", (e) => {
   if (e.request.method === "GET" && e.request.url.startsWith(wurzel)) e.respondWith(antworte(e.request));
 });
-/// Eine Seite dieser Fassung steht: sie nennt eine ihrer Dateien.
-self.addEventListener("message", (e) => {
-  if (e.data in FASSUNG.kern) e.waitUntil(räumeAuf());
-});
+/// Eine Seite steht und nennt eine ihrer Dateien.
+self.addEventListener("message", (e) => e.waitUntil(räumeAuf(e.data)));

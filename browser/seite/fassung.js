@@ -6,9 +6,11 @@ const Geduld = 3000; // ms, die der erste Dienst zum Antreten haben darf
 /// Wenn das Menü steht: holt im Stillen eine neue Fassung, für den nächsten Beginn. Gibt, ob der Dienst sie begleitet.
 export async function meldeAn() {
   try {
-    await dienste().register("dienst.js", { updateViaCache: "none" });
+    const dienst = await dienste().register("dienst.js", { updateViaCache: "none" });
     await dienste().ready;
-    if (!dienste().controller)
+    // Von sich aus fragte der Browser erst, wenn die Seite lange nichts mehr holt; ohne Netz misslingt es.
+    if (dienste().controller) dienst.update().catch(() => {});
+    else
       await new Promise((fertig) => {
         dienste().addEventListener("controllerchange", fertig, { once: true });
         setTimeout(fertig, Geduld);

@@ -42,8 +42,8 @@ class Auskunft(http.server.SimpleHTTPRequestHandler):
 class Server(http.server.ThreadingHTTPServer):
     """Der Server auf diesem Rechner; Anschluss 0 nimmt einen freien."""
 
-    def __init__(self, ordner, anschluss):
-        super().__init__(("127.0.0.1", anschluss), functools.partial(Auskunft, directory=ordner))
+    def __init__(self, ordner, anschluss, auskunft=Auskunft):
+        super().__init__(("127.0.0.1", anschluss), functools.partial(auskunft, directory=ordner))
 
     def handle_error(self, *_):
         """Ein Browser, der mittendrin auflegt, ist kein Fehler."""

@@ -1,6 +1,7 @@
 """Was bleibt: Dateien sichern und laden, ein voller oder verweigerter Speicher, der Wechsel zu einer neuen Fassung."""
 import hashlib
 import json
+import os
 import pathlib
 import shutil
 import tempfile
@@ -19,8 +20,8 @@ def erwarte(ist, soll, was):
         raise AssertionError(f"{was} ist {ist!r}, erwartet {soll!r}")
 
 
-def bediene(ordner):
-    auskunft = server.Server(str(ordner), 0)
+def bediene(ordner, art=server.Auskunft):
+    auskunft = server.Server(str(ordner), 0, art)
     threading.Thread(target=auskunft.serve_forever, daemon=True).start()
     return auskunft, f"http://localhost:{auskunft.server_port}/"
 
@@ -95,18 +96,63 @@ def speicher(bau):
         melde(browser, "lässt Velmo nichts behalten")
 
 
+ANDERES_DING = "0123456789"  # der Abdruck, den das erste Bild in einer neuen Fassung trägt
+AUSGEDIENT = f"bilder/ausgedient.{ANDERES_DING}.webp"  # gehört zu keiner Fassung
+
+
 def neue_fassung(alt, neu, titel, stimmt=True):
-    """Eine Fassung mit anderem Titel; stimmt sie nicht, ist ihre Seite nicht die, deren Prüfsumme der Dienst kennt."""
+    """Eine Fassung mit anderem Titel, anderem Kern und einem anderen Bild; gibt ihren Namen und das Bild, wie es hieß und
+    heißt. Stimmt sie nicht, ist ihre Seite nicht die, deren Prüfsumme der Dienst kennt."""
     shutil.copytree(alt, neu)
     for gepackt in neu.glob("*.br"):
         gepackt.unlink()
+    name = hashlib.sha256(titel.encode()).hexdigest()[:10]
+    kern = next(neu.glob("kern-*"))
+    kern.rename(neu / f"kern-{name}")
     seite, dienst = neu / "index.html", neu / "dienst.js"
-    seite.write_text(seite.read_text().replace("<title>Velmo</title>", f"<title>{titel}</title>"))
-    kopf, rest = dienst.read_text().split("\n", 1)
+    seite.write_text(seite.read_text().replace("<title>Velmo</title>", f"<title>{titel}</title>")
+                     .replace(kern.name, f"kern-{name}"))
+    kopf, rest = dienst.read_text().replace(kern.name, f"kern-{name}").split("\n", 1)
     fassung = json.loads(kopf.removeprefix("const FASSUNG = ").removesuffix(";"))
-    fassung["name"] = hashlib.sha256(titel.encode()).hexdigest()[:10]
+    fassung["name"] = name
     fassung["kern"]["index.html"] = hashlib.sha256(seite.read_bytes()).hexdigest() if stimmt else "0" * 64
+    vorher = fassung["dinge"][0]
+    stamm, _, art = vorher.rsplit(".", 2)
+    nachher = fassung["dinge"][0] = f"{stamm}.{ANDERES_DING}.{art}"
+    shutil.copy(neu / vorher, neu / nachher)
     dienst.write_text(f"const FASSUNG = {json.dumps(fassung)};\n{rest}")
+    return name, vorher, nachher
+
+
+class Zögernde(server.Auskunft):
+    """Gibt das Manifest erst, wenn das Tor offen ist: so lange ist eine Fassung unterwegs."""
+    tor = threading.Event()
+
+    def do_GET(self):
+        if self.path.endswith("webmanifest"):
+            self.tor.wait()
+        super().do_GET()
+
+
+# Was die Vorräte des Browsers haben: die Namen der Fassungen, die geltende und die Dinge.
+VORRÄTE = """{
+  kerne: (await caches.keys()).filter(n => n.startsWith("velmo-kern-")).map(n => n.slice("velmo-kern-".length)),
+  gilt: (await (await caches.match("fassung", {cacheName: "velmo-geltung"}))?.json())?.kernvorrat.slice("velmo-kern-".length),
+  dinge: (await (await caches.open("velmo-dinge")).keys()).map(a => new URL(a.url).pathname.slice(1)),
+}"""
+# Die Seite nennt dem Dienst eine ihrer Dateien, wie es jede tut, die steht; der hat dann Zeit, aufzuräumen.
+MELDE_SEITE = """(async () => {
+  const datei = performance.getEntries().find(e => e.name.endsWith("/fassung.js")).name;
+  navigator.serviceWorker.controller.postMessage(datei.split("/").slice(-2).join("/"));
+  await new Promise(f => setTimeout(f, 1000));
+})()"""
+# Fragt selbst nach einer neuen Fassung; wahr, wenn deren Dienst ganz da ist.
+VERSUCHE = """await (async () => {
+  const anmeldung = await navigator.serviceWorker.getRegistration();
+  await anmeldung.update();
+  for (let neuer; (neuer = anmeldung.installing);) await new Promise(f => neuer.addEventListener("statechange", f, {once: true}));
+  return Boolean(anmeldung.waiting);
+})()"""
 
 
 def fassungen(bau):
@@ -115,29 +161,41 @@ def fassungen(bau):
         hier = pathlib.Path(ordner) / "seite"
         hier.symlink_to((bau / "seite").resolve())
         neue_fassung(hier, pathlib.Path(ordner) / "halb", "Halb", stimmt=False)
-        neue_fassung(hier, pathlib.Path(ordner) / "neu", "Neu")
-        auskunft, url = bediene(hier)
+        neu, vorher, nachher = neue_fassung(hier, pathlib.Path(ordner) / "neu", "Neu")
+        auskunft, url = bediene(hier, Zögernde)
         with auskunft, treiber.Browser("chromium") as browser:
-            dienst = "await navigator.serviceWorker.getRegistration()"
-            vorräte = "(await caches.keys()).join()"
             def tausche(wohin):
+                neue = pathlib.Path(ordner) / wohin
+                for datei in ("index.html", "dienst.js"):
+                    os.utime(neue / datei)  # der Browser fragt nur nach Jüngerem, auf die Sekunde
                 hier.unlink()
-                hier.symlink_to(pathlib.Path(ordner) / wohin)
+                hier.symlink_to(neue)
                 Spiel(browser, url)  # zeigt noch die alte und holt im Stillen
                 return browser.skript("return document.title")
+            def vorräte():
+                return browser.versprechen(VORRÄTE)
+            Zögernde.tor.set()
             Spiel(browser, url)
             treiber.warte(lambda: browser.skript("return Boolean(navigator.serviceWorker.controller)"), "der Dienst")
+            browser.versprechen("(await fetch($[0])).status", vorher)
+            treiber.warte(lambda: vorher in vorräte()["dinge"], "ein Ding im Vorrat")
+            alte = vorräte()
             erwarte(tausche("halb"), "Velmo", "der Titel neben einer halben Fassung")
-            treiber.warte(lambda: browser.versprechen(f"({dienst}).installing === null"), "das Scheitern der halben")
+            erwarte(browser.versprechen(VERSUCHE), False, "der Dienst einer halben Fassung")
+            erwarte(vorräte()["gilt"], alte["gilt"], "die Fassung, die neben einer halben gilt")
             Spiel(browser, url)
             erwarte(browser.skript("return document.title"), "Velmo", "der Titel nach einer halben Fassung")
-            alter = browser.versprechen(vorräte)
+            Zögernde.tor.clear()
             erwarte(tausche("neu"), "Velmo", "der Titel, während die neue Fassung kommt")
-            treiber.warte(lambda: browser.versprechen(vorräte) != alter, "der Vorrat der neuen Fassung")
-            # Die alte Seite meldet sich, während die neue kommt: der alte Dienst räumt sie nicht fort.
-            browser.skript("""
-                const datei = performance.getEntries().find(e => e.name.endsWith("/fassung.js")).name;
-                navigator.serviceWorker.controller.postMessage(datei.split("/").slice(-2).join("/"));""")
-            treiber.warte(lambda: browser.versprechen(f"({dienst}).installing === null"), "die neue Fassung", 60)
+            treiber.warte(lambda: neu in vorräte()["kerne"], "der Vorrat der neuen Fassung")
+            browser.versprechen(MELDE_SEITE)
+            Zögernde.tor.set()
+            treiber.warte(lambda: vorräte()["gilt"] == neu, "die neue Fassung", 60)
+            browser.versprechen(MELDE_SEITE)
+            erwarte(vorräte()["kerne"], [*alte["kerne"], neu], "die Fassungen, solange die alte Seite steht")
+            erwarte(nachher in vorräte()["dinge"], True, "das geänderte Ding kam mit")
+            browser.versprechen('(await caches.open("velmo-dinge")).put($[0], new Response("alt"))', AUSGEDIENT)
             Spiel(browser, url)
             erwarte(browser.skript("return document.title"), "Neu", "der Titel beim nächsten Beginn")
+            treiber.warte(lambda: vorräte()["kerne"] == [neu] and AUSGEDIENT not in vorräte()["dinge"],
+                          "das Ende der alten Fassung")
