@@ -170,9 +170,6 @@ Bedienelement liste(Listenelement &l, QWidget *form, Programm &p, const Bearbeit
 
 Bedienelement auswahl(Listenelement &l, QWidget *form, Programm &p, const Bearbeiter &bearbeite) {
     auto *w = new QComboBox(form);
-    QPalette papier = w->palette();
-    papier.setColor(QPalette::Button, farbton::Papierlicht);
-    w->setPalette(papier);
     QObject::connect(w, &QComboBox::activated, w,
                      [&, bearbeite](int zeile) { bearbeite([&] { p.eingabe.wähle(l, zeile); }); });
     return {w, [w, &l](const Maß &m) {

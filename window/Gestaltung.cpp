@@ -16,7 +16,7 @@ namespace velmo {
 
 namespace {
 
-/// Knöpfe der Kästen ohne Zeichen; der Pfeil einer Auswahl wächst mit ihr.
+/// Knöpfe der Kästen ohne Zeichen; eine Auswahl gleicht den anderen Feldern.
 class Stil : public QProxyStyle {
   public:
     Stil() : QProxyStyle("Fusion") {}
@@ -26,28 +26,34 @@ class Stil : public QProxyStyle {
 
     void drawComplexControl(ComplexControl was, const QStyleOptionComplex *o, QPainter *p,
                             const QWidget *w) const override {
-        const auto *auswahl = qstyleoption_cast<const QStyleOptionComboBox *>(o);
-        if (was != CC_ComboBox || !auswahl) return QProxyStyle::drawComplexControl(was, o, p, w);
-        QStyleOptionComboBox ohne = *auswahl;
-        ohne.subControls &= ~SC_ComboBoxArrow;
-        QProxyStyle::drawComplexControl(was, &ohne, p, w);
-        malePfeil(*p, o->rect, o->palette.color(QPalette::ButtonText));
+        if (was != CC_ComboBox) return QProxyStyle::drawComplexControl(was, o, p, w);
+        constexpr double Feldhöhe = 24; // Bildpunkte des Entwurfs
+        const double je = o->rect.height() / Feldhöhe;
+        p->save();
+        p->setRenderHint(QPainter::Antialiasing);
+        maleFeld(*p, o->rect, je, o->state & State_HasFocus ? farbton::Feldfokus : farbton::Holz);
+        malePfeil(*p, o->rect, je);
+        p->restore();
     }
 
   private:
-    static void malePfeil(QPainter &p, const QRectF &feld, QColor farbe) {
-        constexpr double Feldhöhe = 24, Breite = 8, Höhe = 4, Rand = 7; // Bildpunkte des Entwurfs
-        const double je = feld.height() / Feldhöhe, rechts = feld.right() - Rand * je;
-        const double oben = feld.center().y() - Höhe / 2 * je;
+    static void maleFeld(QPainter &p, const QRectF &feld, double je, const QColor &kante) {
+        constexpr double Rundung = 4;
+        const double dick = std::max(1.0, std::round(je));
+        p.setPen(QPen(kante, dick));
+        p.setBrush(farbton::Papierlicht);
+        const QRectF mitte = feld.adjusted(dick / 2, dick / 2, -dick / 2, -dick / 2);
+        p.drawRoundedRect(mitte, Rundung * je, Rundung * je);
+    }
+
+    static void malePfeil(QPainter &p, const QRectF &feld, double je) {
+        constexpr double Breite = 8, Höhe = 4, Rand = 7;
+        const double rechts = feld.right() - Rand * je, oben = feld.center().y() - Höhe / 2 * je;
         const QPointF ecken[] = {
             {rechts - Breite * je, oben}, {rechts, oben}, {rechts - Breite / 2 * je, oben + Höhe * je}};
-        farbe.setAlpha(160);
-        p.save();
-        p.setRenderHint(QPainter::Antialiasing);
         p.setPen(Qt::NoPen);
-        p.setBrush(farbe);
+        p.setBrush(farbton::Holz);
         p.drawPolygon(ecken, 3);
-        p.restore();
     }
 };
 
