@@ -52,8 +52,7 @@ def kran(x, y, s):
 def bauphase():
     b, h = 1952, 1148
     felder = "".join(mulde(k, (600 + 1200 * (k % 4)) / 3, (840 + 840 * (k // 4)) / 3) for k in range(8))
-    # die Überschrift beginnt ganz oben
-    return svg(b, h, tafel(b, h, 20, innen=kran(1560, 1090, .55) + felder, oben=7, zierlinie=False), grunddefs())
+    return svg(b, h, tafel(b, h, 20, innen=kran(1560, 1090, .55) + felder), grunddefs())
 
 
 def tor(x, y, s):
@@ -185,7 +184,7 @@ def über():
 
 def hilfe():
     b, h = 3204, 2416
-    return svg(b, h, tafel(b, h, 28, oben=6, zierlinie=False), grunddefs())
+    return svg(b, h, tafel(b, h, 28, zierlinie=False), grunddefs())
 
 
 ALLE = {
