@@ -41,6 +41,10 @@ class Fenster : public QWidget {
     Vorleser *vorleser() const { return leser.get(); }
     /// Papier und Holz der Dialoge; leer, wenn das Bild fehlt.
     QImage dialoggrund() { return u.bilder.roh(u.p.Ordner + "/bilder/formen/exchange/exchange.jpg"); }
+    /// Ein Knopf in Ruhe oder gedrückt, dessen Ecken sich nicht strecken.
+    QImage knopfvorlage(bool gedrückt) {
+        return u.bilder.roh(u.p.Ordner + "/bilder/formen/knopf/" + (gedrückt ? "gedrueckt.png" : "ruhe.png"));
+    }
     /// Eine kurze Notiz am unteren Rand.
     void notiere(const QString &t) { zettel->zeige(t, vergrößerung()); }
 

@@ -17,6 +17,23 @@ constexpr double Niedrig = 18;  // Bildpunkte des Entwurfs
 
 } // namespace
 
+QPixmap knopfkörper(const QImage &vorlage, const QSize &größe, double punkt) {
+    // Ein niedriger Knopf hat feinere Kanten.
+    const double fein = größe.height() < Niedrig * punkt ? 2 : 1;
+    const double je = fein * JeEntwurf / punkt;
+    QImage groß(QSizeF(größe.width() * je, größe.height() * je).toSize(), QImage::Format_ARGB32_Premultiplied);
+    groß.fill(Qt::transparent);
+    QPainter p(&groß);
+    maleGestreckt(p, vorlage, Ecke, groß.rect(), Ecke);
+    return QPixmap::fromImage(groß.scaled(größe, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+}
+
+void helleAuf(QPixmap &körper) {
+    QPainter p(&körper);
+    p.setCompositionMode(QPainter::CompositionMode_SourceAtop);
+    p.fillRect(körper.rect(), QColor(255, 255, 255, 60));
+}
+
 Knopf::Knopf(QWidget *form, Bildspeicher &bilder, std::string ordner)
     : QAbstractButton(form), bilder(bilder), ordner(std::move(ordner)) {
     setFocusPolicy(Qt::NoFocus);
@@ -50,19 +67,14 @@ QPixmap Knopf::körper(Zustand z, const QSize &größe) const {
         bild = QPixmap(größe);
         bild.fill(isEnabled() ? farbton::Holz.lighter(z == Zustand::Gedrückt ? 130 : 170) : farbton::Papier);
     } else {
-        // Ein niedriger Knopf hat feinere Kanten.
-        const double fein = größe.height() < maß.strich(Niedrig) ? 2 : 1;
-        const double je = fein * JeEntwurf / (12 * maß.jeTwip);
-        QImage groß(QSizeF(größe.width() * je, größe.height() * je).toSize(), QImage::Format_ARGB32_Premultiplied);
-        groß.fill(Qt::transparent);
-        QPainter q(&groß);
-        maleGestreckt(q, vorlage, Ecke, groß.rect(), Ecke);
-        bild = QPixmap::fromImage(groß.scaled(größe, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        bild = knopfkörper(vorlage, größe, 12 * maß.jeTwip);
     }
-    QPainter p(&bild);
-    p.setCompositionMode(QPainter::CompositionMode_SourceAtop);
-    if (stück.erhaben && isEnabled()) p.fillRect(bild.rect(), QColor(255, 206, 32, 125)); // leuchtet
-    if (z == Zustand::Überfahren) p.fillRect(bild.rect(), QColor(255, 255, 255, 60));
+    if (stück.erhaben && isEnabled()) {
+        QPainter p(&bild);
+        p.setCompositionMode(QPainter::CompositionMode_SourceAtop);
+        p.fillRect(bild.rect(), QColor(255, 206, 32, 125)); // leuchtet
+    }
+    if (z == Zustand::Überfahren) helleAuf(bild);
     return bild;
 }
 

@@ -9,6 +9,12 @@
 
 namespace velmo {
 
+/// Der Körper eines Knopfs: die Ecken der Vorlage bleiben, ihre Kanten strecken sich. größe in Punkten des Bildschirms,
+/// punkt: wie viele davon ein Bildpunkt des Entwurfs hat.
+QPixmap knopfkörper(const QImage &vorlage, const QSize &größe, double punkt);
+/// Heller, weil die Maus darüber steht.
+void helleAuf(QPixmap &körper);
+
 class Knopf : public QAbstractButton {
   public:
     /// ordner: wo die Bilder der drei Zustände liegen: "ruhe", "gedrueckt", "gesperrt".

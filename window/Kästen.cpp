@@ -2,6 +2,7 @@
 
 #include "window/Fenster.h"
 #include "window/Gestaltung.h"
+#include "window/Knopf.h"
 #include "window/Malen.h"
 
 #include <QDialog>
@@ -9,19 +10,47 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QStyle>
+#include <QStyleOptionButton>
 #include <QVBoxLayout>
 
 namespace velmo {
 
 namespace {
 
+/// Ein Knopf wie die des Spiels.
+class Kastenknopf : public QPushButton {
+  public:
+    Kastenknopf(const QString &text, Fenster &fenster)
+        : QPushButton(text), ruhe(fenster.knopfvorlage(false)), gedrückt(fenster.knopfvorlage(true)),
+          punkt(fenster.vergrößerung()) {}
+
+  protected:
+    void paintEvent(QPaintEvent *e) override {
+        const QImage &vorlage = isDown() ? gedrückt : ruhe;
+        if (vorlage.isNull()) return QPushButton::paintEvent(e);
+        QStyleOptionButton wie;
+        initStyleOption(&wie);
+        const bool mitTasten = hasFocus() && wie.state & QStyle::State_KeyboardFocusChange;
+        QPixmap körper = knopfkörper(vorlage, size() * devicePixelRatioF(), punkt * devicePixelRatioF());
+        if (!isDown() && (underMouse() || mitTasten)) helleAuf(körper);
+        QPainter p(this);
+        p.drawPixmap(rect(), körper);
+        style()->drawControl(QStyle::CE_PushButtonLabel, &wie, &p, this);
+    }
+
+  private:
+    const QImage ruhe, gedrückt;
+    const double punkt;
+};
+
 /// Ein Kasten mit Text und "OK" über dem Fenster, so groß wie die Anzeige es verlangt.
 class Kasten : public QDialog {
   public:
     Kasten(Fenster &fenster, const QString &text, const QString &titel)
         : QDialog(&fenster, Qt::Dialog | Qt::FramelessWindowHint), fenster(fenster), grund(fenster.dialoggrund()),
-          knöpfe(new QDialogButtonBox(QDialogButtonBox::Ok, this)) {
+          knöpfe(new QDialogButtonBox(this)) {
         const double punkt = fenster.vergrößerung(); // Längen des Fensters je Bildpunkt des Entwurfs
         const auto länge = [punkt](int entwurf) { return static_cast<int>(entwurf * punkt); };
         setWindowTitle(titel);
@@ -31,7 +60,7 @@ class Kasten : public QDialog {
         zeile->setWordWrap(true);
         zeile->setAlignment(Qt::AlignCenter);
         zeile->setMinimumWidth(länge(260));
-        zeile->setVisible(!text.isEmpty());
+        zeile->setVisible(!text.trimmed().isEmpty());
         kopf = new QHBoxLayout;
         kopf->setSpacing(länge(14));
         kopf->addWidget(zeile);
@@ -42,6 +71,8 @@ class Kasten : public QDialog {
         spalte->addLayout(kopf);
         spalte->addWidget(knöpfe);
         knöpfe->setCenterButtons(true);
+        knöpfe->layout()->setSpacing(länge(12));
+        knöpfe->addButton(new Kastenknopf("OK", fenster), QDialogButtonBox::AcceptRole);
         connect(knöpfe, &QDialogButtonBox::accepted, this, &QDialog::accept);
         connect(knöpfe, &QDialogButtonBox::rejected, this, &QDialog::reject);
     }
@@ -58,7 +89,7 @@ class Kasten : public QDialog {
     QLineEdit *fügeFeldEin() {
         auto *feld = new QLineEdit(this);
         static_cast<QVBoxLayout *>(layout())->insertWidget(1, feld);
-        knöpfe->addButton("Abbrechen", QDialogButtonBox::RejectRole);
+        knöpfe->addButton(new Kastenknopf("Abbrechen", fenster), QDialogButtonBox::RejectRole);
         feld->setFocus();
         return feld;
     }
