@@ -1,4 +1,8 @@
 // Meldungen und Fragen in der Gestalt des Spiels, das Blatt der Tasten, und das Ende.
+import { lade } from "./bilder.js";
+
+// Papier und Holz der Dialoge und ihre Knöpfe; ihre Ecken strecken sich nicht.
+const BILDER = { "--tafel": "formen/exchange/exchange", "--knopf": "formen/knopf/ruhe", "--gedrückt": "formen/knopf/gedrueckt" };
 
 const neu = (art, eigenschaften = {}, ...kinder) => {
   const e = Object.assign(document.createElement(art), eigenschaften);
@@ -6,7 +10,15 @@ const neu = (art, eigenschaften = {}, ...kinder) => {
   return e;
 };
 
+/// Ehe die Bilder da sind, tun es Farben.
+async function bebildere(dialog) {
+  for (const [name, bild] of Object.entries(BILDER))
+    dialog.style.setProperty(name, `url("${(await lade(bild, Infinity)).src}")`);
+  dialog.classList.add("bebildert");
+}
+
 function öffne(dialog) {
+  bebildere(dialog).catch(() => {});
   for (const art of ["keydown", "keyup"]) dialog.addEventListener(art, (e) => e.stopPropagation());
   dialog.addEventListener("close", () => dialog.remove());
   document.body.append(dialog);
@@ -22,10 +34,11 @@ export function zeigeKasten({ text, titel, kritisch, feld, wert = "" }, antworte
   if (feld) knöpfe.append(neu("button", { value: "ab", type: "button", textContent: "Abbrechen" }));
   const kopf = neu("div", { className: "kopf" });
   if (kritisch) kopf.append(neu("span", { className: "warnung", textContent: "✕" }));
-  kopf.append(neu("p", { textContent: text }));
+  if (text.trim()) kopf.append(neu("p", { textContent: text }));
   const dialog = neu("dialog", { className: "kasten" },
-    neu("form", { method: "dialog" }, neu("h2", { textContent: titel }), kopf, ...(eingabe ? [eingabe] : []), knöpfe));
+    neu("form", { method: "dialog" }, kopf, ...(eingabe ? [eingabe] : []), knöpfe));
   dialog.setAttribute("aria-label", text);
+  if (titel) dialog.setAttribute("aria-description", titel); // gelesen, nicht gezeigt
   knöpfe.lastChild.addEventListener("click", (e) => e.target.value === "ab" && dialog.close("ab"));
   dialog.addEventListener("close", () => {
     if (dialog.returnValue === "ok") antworte("ok", eingabe?.value.normalize("NFC") ?? "");
