@@ -7,11 +7,15 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QTimer>
 
 #include <algorithm>
 #include <functional>
+#include <optional>
+#include <string>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -229,6 +233,43 @@ void prüfeMeldungsarten(Prüfung &t) {
     t.gilt("nur die ernste hat ein Zeichen", mitZeichen == std::vector{false, true});
 }
 
+void prüfeFragen(Prüfung &t) {
+    Lauf<> l;
+    const auto beantworte = [](const std::function<void(QWidget &, QLineEdit &)> &tu) {
+        return [tu] {
+            QWidget *kasten = QApplication::activeModalWidget();
+            if (!kasten) return false;
+            auto &feld = *kasten->findChild<QLineEdit *>();
+            feld.setText("ä");
+            tu(*kasten, feld);
+            return true;
+        };
+    };
+    const auto taste = [&](Qt::Key k) {
+        return beantworte([k](QWidget &, QLineEdit &feld) {
+            QKeyEvent e(QEvent::KeyPress, k, Qt::NoModifier);
+            QApplication::sendEvent(&feld, &e);
+        });
+    };
+    const auto knopf = [&](const QString &schrift) {
+        return beantworte([schrift](QWidget &kasten, QLineEdit &) {
+            for (auto *k : kasten.findChildren<QPushButton *>())
+                if (k->text() == schrift) k->click();
+        });
+    };
+    l.schritte = {taste(Qt::Key_Return), taste(Qt::Key_Escape), knopf("OK"), knopf("Abbrechen"),
+                  [] { return fenster()->close() || true; }};
+    std::vector<std::optional<std::string>> antworten;
+    t.gleich("vier Fragen", l.laufe([&] {
+        l.p.zeige(formular::Form1);
+        for (int i = 0; i < 4; ++i)
+            antworten.push_back(l.p.InputBox("Anzahl", ""));
+    }),
+             0);
+    t.gilt("die Eingabetaste und OK antworten, Esc und Abbrechen nicht",
+           antworten == std::vector<std::optional<std::string>>{"ä", std::nullopt, "ä", std::nullopt});
+}
+
 void prüfeZeiger(Prüfung &t) {
     Lauf<> l;
     QCursor figur, brett;
@@ -274,6 +315,6 @@ void prüfeVorauslesen(Prüfung &t) {
 int main(int argc, char **argv) {
     return prüfeOhneBildschirm(argc, argv,
                                {prüfeWegDurchsMenü, prüfeKlickBeiJederGröße, prüfeZweiteTaste, prüfeSchließenImWarten,
-                                prüfeFehler, prüfeOrdner, prüfeRuhe, prüfeSchritte, prüfeMeldungsarten, prüfeZeiger,
-                                prüfeVorauslesen});
+                                prüfeFehler, prüfeOrdner, prüfeRuhe, prüfeSchritte, prüfeMeldungsarten, prüfeFragen,
+                                prüfeZeiger, prüfeVorauslesen});
 }
