@@ -1,4 +1,5 @@
 // Charaktere und Bestenliste als Dateien: sichern und laden. Ein Zettel am Rand des Menüs öffnet das Blatt dafür.
+import { bebildere } from "./kasten.js";
 import { dateien } from "./speicher.js";
 
 const GRÖSSTE = 1 << 16; // Bytes; ein Charakter hat keine hundert
@@ -59,6 +60,7 @@ class Blatt {
     this.meldung.textContent = document.body.dataset.vorrat === "ganz" && navigator.serviceWorker?.controller
       ? "Das Spiel ist ganz geladen und geht auch ohne Netz." : "";
     this.zeigeListe();
+    bebildere(this.dialog);
     this.dialog.showModal();
   }
 
@@ -98,7 +100,7 @@ class Blatt {
     }
     await this.speicher.sichere();
     this.zeigeListe();
-    this.meldung.textContent = [geladen.length ? `Geladen: ${geladen.join(", ")}` : "",
+    this.meldung.textContent = [geladen.length ? `Geladen: ${geladen.join(", ")}.` : "",
       ...abgelehnt.map((name) => `"${name}" ist weder ein Charakter (.cha) noch die Bestenliste (besten.sav).`)].join(" ");
   }
 

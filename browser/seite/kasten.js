@@ -10,15 +10,17 @@ const neu = (art, eigenschaften = {}, ...kinder) => {
   return e;
 };
 
-/// Ehe die Bilder da sind, tun es Farben.
-async function bebildere(dialog) {
-  for (const [name, bild] of Object.entries(BILDER))
-    dialog.style.setProperty(name, `url("${(await lade(bild, Infinity)).src}")`);
-  dialog.classList.add("bebildert");
+/// Gibt dem Dialog Rahmen und Knöpfe der Dialoge des Spiels; ehe deren Bilder da sind, tun es Farben.
+export async function bebildere(dialog) {
+  try {
+    for (const [name, bild] of Object.entries(BILDER))
+      dialog.style.setProperty(name, `url("${(await lade(bild, Infinity)).src}")`);
+    dialog.classList.add("bebildert");
+  } catch {} // ohne Netz, ehe sie im Vorrat sind
 }
 
 function öffne(dialog) {
-  bebildere(dialog).catch(() => {});
+  bebildere(dialog);
   for (const art of ["keydown", "keyup"]) dialog.addEventListener(art, (e) => e.stopPropagation());
   dialog.addEventListener("close", () => dialog.remove());
   document.body.append(dialog);
