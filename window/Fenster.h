@@ -6,6 +6,7 @@
 #include "surface/Tasten.h"
 #include "window/Fokusring.h"
 #include "window/Formfläche.h"
+#include "window/Knopf.h"
 #include "window/Tastenblatt.h"
 #include "window/Zettel.h"
 
@@ -41,10 +42,7 @@ class Fenster : public QWidget {
     Vorleser *vorleser() const { return leser.get(); }
     /// Papier und Holz der Dialoge; leer, wenn das Bild fehlt.
     QImage dialoggrund() { return u.bilder.roh(u.p.Ordner + "/bilder/formen/exchange/exchange.jpg"); }
-    /// Ein Knopf in Ruhe oder gedrückt, dessen Ecken sich nicht strecken.
-    QImage knopfvorlage(bool gedrückt) {
-        return u.bilder.roh(u.p.Ordner + "/bilder/formen/knopf/" + (gedrückt ? "gedrueckt.png" : "ruhe.png"));
-    }
+    QImage knopfvorlage(Knopfzustand z) { return velmo::knopfvorlage(u.bilder, u.p.Ordner, z); }
     /// Eine kurze Notiz am unteren Rand.
     void notiere(const QString &t) { zettel->zeige(t, vergrößerung()); }
 

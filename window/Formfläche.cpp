@@ -135,7 +135,7 @@ void Formfläche::folgeBedienelemente(const Form &form) {
             Knopf *&knopf = knöpfe[s.control];
             auto *c = const_cast<VisualControl *>(static_cast<const VisualControl *>(s.control));
             if (!knopf) {
-                knopf = new Knopf(this, u.bilder, u.p.Ordner + "/bilder/formen/knopf");
+                knopf = new Knopf(this, u.bilder, u.p.Ordner);
                 connect(knopf, &Knopf::clicked, this, [this, c] { u.bearbeite([&] { drücke(u.p.eingabe, *c); }); });
             }
             knopf->zeige(s, maß);

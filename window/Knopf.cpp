@@ -10,12 +10,16 @@ namespace velmo {
 
 namespace {
 
-constexpr const char *Zustandsbilder[] = {"/ruhe.png", "/ruhe.png", "/gedrueckt.png", "/gesperrt.png"};
+constexpr const char *Zustandsbilder[] = {"ruhe", "ruhe", "gedrueckt", "gesperrt"};
 constexpr int Ecke = 44;        // so weit reichen die Ecken der Zustandsbilder, in ihren Punkten
 constexpr double JeEntwurf = 4; // ihre Punkte je Bildpunkt des Entwurfs
 constexpr double Niedrig = 18;  // Bildpunkte des Entwurfs
 
 } // namespace
+
+QImage knopfvorlage(Bildspeicher &bilder, const std::string &spielordner, Knopfzustand z) {
+    return bilder.roh(spielordner + "/bilder/formen/knopf/" + Zustandsbilder[static_cast<int>(z)] + ".png");
+}
 
 QPixmap knopfkörper(const QImage &vorlage, const QSize &größe, double punkt) {
     // Ein niedriger Knopf hat feinere Kanten.
@@ -34,8 +38,8 @@ void helleAuf(QPixmap &körper) {
     p.fillRect(körper.rect(), QColor(255, 255, 255, 60));
 }
 
-Knopf::Knopf(QWidget *form, Bildspeicher &bilder, std::string ordner)
-    : QAbstractButton(form), bilder(bilder), ordner(std::move(ordner)) {
+Knopf::Knopf(QWidget *form, Bildspeicher &bilder, std::string spielordner)
+    : QAbstractButton(form), bilder(bilder), spielordner(std::move(spielordner)) {
     setFocusPolicy(Qt::NoFocus);
     setMouseTracking(true);
 }
@@ -54,18 +58,18 @@ void Knopf::zeige(const Stück &neu, const Maß &m) {
     update();
 }
 
-Knopf::Zustand Knopf::zustand() const {
-    if (!isEnabled()) return Zustand::Gesperrt;
-    if (isDown()) return Zustand::Gedrückt;
-    return underMouse() ? Zustand::Überfahren : Zustand::Ruhe;
+Knopfzustand Knopf::zustand() const {
+    if (!isEnabled()) return Knopfzustand::Gesperrt;
+    if (isDown()) return Knopfzustand::Gedrückt;
+    return underMouse() ? Knopfzustand::Überfahren : Knopfzustand::Ruhe;
 }
 
-QPixmap Knopf::körper(Zustand z, const QSize &größe) const {
-    const QImage vorlage = bilder.roh(ordner + Zustandsbilder[static_cast<int>(z)]);
+QPixmap Knopf::körper(Knopfzustand z, const QSize &größe) const {
+    const QImage vorlage = knopfvorlage(bilder, spielordner, z);
     QPixmap bild;
     if (vorlage.isNull()) {
         bild = QPixmap(größe);
-        bild.fill(isEnabled() ? farbton::Holz.lighter(z == Zustand::Gedrückt ? 130 : 170) : farbton::Papier);
+        bild.fill(isEnabled() ? farbton::Holz.lighter(z == Knopfzustand::Gedrückt ? 130 : 170) : farbton::Papier);
     } else {
         bild = knopfkörper(vorlage, größe, 12 * maß.jeTwip);
     }
@@ -74,7 +78,7 @@ QPixmap Knopf::körper(Zustand z, const QSize &größe) const {
         p.setCompositionMode(QPainter::CompositionMode_SourceAtop);
         p.fillRect(bild.rect(), QColor(255, 206, 32, 125)); // leuchtet
     }
-    if (z == Zustand::Überfahren) helleAuf(bild);
+    if (z == Knopfzustand::Überfahren) helleAuf(bild);
     return bild;
 }
 
@@ -109,7 +113,7 @@ void Knopf::paintEvent(QPaintEvent *) {
     p.scale(1 / maß.dichte, 1 / maß.dichte);
     const QRect ganz(0, 0, static_cast<int>(std::lround(width() * maß.dichte)),
                      static_cast<int>(std::lround(height() * maß.dichte)));
-    const Zustand z = zustand();
+    const Knopfzustand z = zustand();
     if (fertig.size() != ganz.size() || fertigIn != z) {
         fertig = körper(z, ganz.size());
         fertigIn = z;

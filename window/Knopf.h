@@ -9,6 +9,10 @@
 
 namespace velmo {
 
+enum class Knopfzustand { Ruhe, Überfahren, Gedrückt, Gesperrt };
+
+/// Das Bild, nach dem ein Knopf in diesem Zustand gemacht wird; leer, wenn es fehlt. spielordner: wo "bilder" liegt.
+QImage knopfvorlage(Bildspeicher &, const std::string &spielordner, Knopfzustand);
 /// Der Körper eines Knopfs: die Ecken der Vorlage bleiben, ihre Kanten strecken sich. größe in Punkten des Bildschirms,
 /// punkt: wie viele davon ein Bildpunkt des Entwurfs hat.
 QPixmap knopfkörper(const QImage &vorlage, const QSize &größe, double punkt);
@@ -17,8 +21,7 @@ void helleAuf(QPixmap &körper);
 
 class Knopf : public QAbstractButton {
   public:
-    /// ordner: wo die Bilder der drei Zustände liegen: "ruhe", "gedrueckt", "gesperrt".
-    Knopf(QWidget *form, Bildspeicher &, std::string ordner);
+    Knopf(QWidget *form, Bildspeicher &, std::string spielordner);
     void zeige(const Stück &, const Maß &);
 
   protected:
@@ -31,17 +34,16 @@ class Knopf : public QAbstractButton {
     void leaveEvent(QEvent *) override;
 
   private:
-    enum class Zustand { Ruhe, Überfahren, Gedrückt, Gesperrt };
-    Zustand zustand() const;
-    QPixmap körper(Zustand, const QSize &) const;
+    Knopfzustand zustand() const;
+    QPixmap körper(Knopfzustand, const QSize &) const;
     void maleInhalt(QPainter &, const QRect &) const;
 
     Bildspeicher &bilder;
-    const std::string ordner;
+    const std::string spielordner;
     Stück stück;
     Maß maß;
     QPixmap fertig; // der Körper in seinem letzten Zustand
-    Zustand fertigIn = Zustand::Ruhe;
+    Knopfzustand fertigIn = Knopfzustand::Ruhe;
 };
 
 } // namespace velmo

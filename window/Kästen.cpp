@@ -23,8 +23,8 @@ namespace {
 class Kastenknopf : public QPushButton {
   public:
     Kastenknopf(const QString &text, Fenster &fenster)
-        : QPushButton(text), ruhe(fenster.knopfvorlage(false)), gedrückt(fenster.knopfvorlage(true)),
-          punkt(fenster.vergrößerung()) {}
+        : QPushButton(text), ruhe(fenster.knopfvorlage(Knopfzustand::Ruhe)),
+          gedrückt(fenster.knopfvorlage(Knopfzustand::Gedrückt)), punkt(fenster.vergrößerung()) {}
 
   protected:
     void paintEvent(QPaintEvent *e) override {
